@@ -1,0 +1,27 @@
+# quillon_flags: how all of our own code is compiled, in every preset.
+add_library(quillon_flags INTERFACE)
+
+if(MSVC)
+    target_compile_options(quillon_flags INTERFACE /W4 /WX /permissive- /utf-8)
+    set(CMAKE_MSVC_RUNTIME_LIBRARY "MultiThreaded$<$<CONFIG:Debug>:Debug>")
+else()
+    target_compile_options(quillon_flags INTERFACE
+        -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wold-style-cast -Werror
+        # The same bytes wherever the checkout lies.
+        -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.)
+endif()
+
+if(WIN32)
+    # Windows XP is the floor: a newer call is looked up at run time, so the headers must not offer it.
+    target_compile_definitions(quillon_flags INTERFACE
+        _WIN32_WINNT=0x0501 WINVER=0x0501 _WIN32_IE=0x0600 WIN32_LEAN_AND_MEAN NOMINMAX STRICT)
+    if(NOT MSVC)
+        target_compile_options(quillon_flags INTERFACE -ffunction-sections -fdata-sections)
+        target_link_options(quillon_flags INTERFACE
+            -static -Wl,--gc-sections -Wl,--no-insert-timestamp -Wl,--dynamicbase -Wl,--nxcompat)
+    endif()
+else()
+    set(sanitize -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_compile_options(quillon_flags INTERFACE ${sanitize})
+    target_link_options(quillon_flags INTERFACE ${sanitize})
+endif()

@@ -1,0 +1,16 @@
+# The Windows program. quillon_app is everything but WinMain, so that the window tests link the very
+# objects that ship.
+enable_language(RC)
+
+file(GLOB app_sources CONFIGURE_DEPENDS src/*/*.cpp src/*/*.h)
+add_library(quillon_app OBJECT ${app_sources})
+target_link_libraries(quillon_app PUBLIC
+    quillon_core comctl32 comdlg32 ole32 oleaut32 uuid shell32 wininet winspool gdi32 user32 advapi32)
+
+file(GLOB resource_files CONFIGURE_DEPENDS res/*.ico res/*.manifest res/pictures/*.ico res/*.h)
+add_library(quillon_resources OBJECT res/quillon.rc)
+target_include_directories(quillon_resources PRIVATE src res)
+set_source_files_properties(res/quillon.rc PROPERTIES OBJECT_DEPENDS "${resource_files}")
+
+add_executable(Quillon WIN32 src/main.cpp)
+target_link_libraries(Quillon PRIVATE quillon_app quillon_resources)

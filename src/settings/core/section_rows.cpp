@@ -1,0 +1,27 @@
+#include "settings/core/section_rows.h"
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+#include <tuple>
+
+namespace settings {
+namespace {
+
+// A key that is no number counts as the largest, so that it sorts behind every number.
+std::tuple<bool, unsigned long> Rank(const std::string& key) {
+    unsigned long number = 0;
+    const char* end = key.data() + key.size();
+    const auto [stop, error] = std::from_chars(key.data(), end, number);
+    const bool isNumber = error == std::errc() && stop == end;
+    return {!isNumber, isNumber ? number : std::numeric_limits<unsigned long>::max()};
+}
+
+}  // namespace
+
+void SortRows(std::vector<Row>& rows) {
+    std::stable_sort(rows.begin(), rows.end(),
+                     [](const Row& a, const Row& b) { return Rank(a.key) < Rank(b.key); });
+}
+
+}  // namespace settings
