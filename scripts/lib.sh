@@ -60,6 +60,9 @@ make_template() {
     prefix=$new/prefix DISPLAY='' in_wine wine wineboot --init >/dev/null 2>&1 ||
         die "Wine could not make a prefix"
     prefix=$new/prefix in_wine wineserver -k || true  # or it has ended by itself
+    # Debian's Wine looks for its own fonts, the buttons of captions among them, only here.
+    cp "$([[ ! -d $wine_root ]] || echo "$wine_root")"/usr/share/wine/fonts/* \
+        "$new/prefix/drive_c/windows/Fonts/"
     # Documents, Desktop and so on: folders of the prefix, not links to the user's.
     for link in "$new"/prefix/drive_c/users/*/*; do
         if [[ -L $link ]]; then rm "$link" && mkdir "$link"; fi
