@@ -10,6 +10,12 @@ prefix=${QUILLON_PREFIX:-$project/build/wine-prefix}
 say() { printf '%s\n' "$*" >&2; }
 die() { say "$(basename "$0"): $*"; exit 1; }
 
+# configure PRESET [OPTION...]: readies build/PRESET; silent unless CMake complains.
+configure() {
+    mkdir -p "$project/build"
+    cmake --preset "$@" >"$project/build/configure-$1.log" 2>&1 || die "$(<"$project/build/configure-$1.log")"
+}
+
 # The Windows path of a Unix path. Drive Z: of a prefix is the root directory.
 windows_path() {
     local path
