@@ -1,0 +1,94 @@
+# Sourced by the other scripts: where things lie, how steps are told, how Wine's programs are started.
+# shellcheck shell=bash
+
+project=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+cache=${XDG_CACHE_HOME:-~/.cache}/quillon
+# Where apt cannot install 32-bit Wine, setup makes an i386 Debian of its own here.
+wine_root=$cache/wine-root
+prefix=${QUILLON_PREFIX:-$project/build/wine-prefix}
+
+say() { printf '%s\n' "$*" >&2; }
+die() { say "$(basename "$0"): $*"; exit 1; }
+
+# configure PRESET [OPTION...]: readies build/PRESET; silent unless CMake complains.
+configure() {
+    mkdir -p "$project/build"
+    cmake --preset "$@" >"$project/build/configure-$1.log" 2>&1 || die "$(<"$project/build/configure-$1.log")"
+}
+
+# The Windows path of a Unix path. Drive Z: of a prefix is the root directory.
+windows_path() {
+    local path
+    path=$(realpath -ms "$1")
+    printf 'Z:%s' "${path//\//\\}"
+}
+
+# Runs one of Wine's Unix commands (wine, wineserver) for $prefix. HOME lies in the prefix so that
+# nothing, the trash included, reaches the user's own; the first override keeps Wine's programs out of
+# the user's menus, the second keeps Wine from asking for downloads.
+in_wine() {
+    local view=()
+    if [[ -d $wine_root ]]; then
+        # This process sees the i386 root's /usr in place of the machine's, and everything else,
+        # checkout, displays and ports included, as it is. The mounts end with the process.
+        view=(unshare --mount)
+        (( EUID == 0 )) || view+=(--map-current-user --keep-caps)
+        # shellcheck disable=SC2016
+        view+=(sh -c 'mount --bind "$0/etc/alternatives" /etc/alternatives &&
+                      mount --bind "$0/usr" /usr && exec "$@"' "$wine_root")
+    fi
+    env WINEPREFIX="$prefix" WINEARCH=win32 WINEDEBUG="${WINEDEBUG--all}" LC_ALL=C.UTF-8 \
+        WINEDLLOVERRIDES='winemenubuilder.exe=d;mscoree,mshtml=' \
+        XAUTHORITY="${XAUTHORITY:-${HOME:-/root}/.Xauthority}" HOME="$prefix/home" \
+        ${view:+FONTCONFIG_PATH="$wine_root/etc/fonts"} "${view[@]}" "$@"
+}
+
+# Makes $prefix if it is not there: a copy of the cache's, which takes Wine its 15 seconds once. The
+# system's own files, nine tenths of the whole, are shared by hard links.
+ensure_prefix() {
+    [[ ! -d $prefix ]] || return 0
+    local version template new=$prefix.new.$$
+    version=$(in_wine wine --version | grep -o '[0-9][0-9.]*' | head -n 1)
+    template=$cache/wine-prefix-$version
+    [[ -d $template ]] || make_template "$template"
+    say "Making the Wine prefix $prefix"
+    mkdir -p "$(dirname "$prefix")"
+    cp -a "$template/prefix" "$new"
+    cp -al "$template/system32" "$new/drive_c/windows/" 2>/dev/null ||
+        cp -a "$template/system32" "$new/drive_c/windows/"
+    mv -T "$new" "$prefix"
+}
+
+make_template() {
+    local template=$1 new=$1.new.$$ link
+    say "Making the Wine prefix that every checkout starts from (some 15 s)"
+    mkdir -p "$new/prefix/home"
+    prefix=$new/prefix DISPLAY='' in_wine wine wineboot --init >/dev/null 2>&1 ||
+        die "Wine could not make a prefix"
+    prefix=$new/prefix in_wine wineserver -k || true  # or it has ended by itself
+    # Debian's Wine looks for its own fonts, the buttons of captions among them, only here.
+    cp "$([[ ! -d $wine_root ]] || echo "$wine_root")"/usr/share/wine/fonts/* \
+        "$new/prefix/drive_c/windows/Fonts/"
+    # Documents, Desktop and so on: folders of the prefix, not links to the user's.
+    for link in "$new"/prefix/drive_c/users/*/*; do
+        if [[ -L $link ]]; then rm "$link" && mkdir "$link"; fi
+    done
+    mv "$new/prefix/drive_c/windows/system32" "$new/"
+    mv -T "$new" "$template" 2>/dev/null || rm -rf "$new"  # another checkout was faster
+}
+
+# set_desktop SIZE DPI: draws the prefix's windows inside a desktop window of SIZE (WIDTHxHEIGHT), which
+# stands in for a window manager, or as windows of their own where SIZE is none.
+set_desktop() {
+    local wanted="$1 $2" kept=$prefix/desktop.txt
+    [[ ! -f $kept || $(<"$kept") != "$wanted" ]] || return 0
+    local desktop='"Desktop"="Default"'
+    [[ $1 != none ]] || desktop='"Desktop"=-'
+    printf '%s\r\n' 'REGEDIT4' '' \
+        '[HKEY_CURRENT_USER\Software\Wine\Explorer]' "$desktop" '' \
+        '[HKEY_CURRENT_USER\Software\Wine\Explorer\Desktops]' "\"Default\"=\"$1\"" '' \
+        '[HKEY_CURRENT_USER\Control Panel\Desktop]' "$(printf '"LogPixels"=dword:%08x' "$2")" \
+        >"$prefix/desktop.reg"
+    in_wine wine regedit /S "$(windows_path "$prefix/desktop.reg")"
+    printf %s "$wanted" >"$kept"
+}
