@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <stdexcept>
-
 namespace {
 
 using namespace std::string_literals;
@@ -83,22 +81,6 @@ TEST(Replace, FromLeftToRightWithoutLookingAtWhatWasPutIn) {
     EXPECT_EQ(ReplaceText("abab", "ab", ""), "");
     EXPECT_EQ(ReplaceText("abc", "", "x"), "abc");
     EXPECT_EQ(ReplaceText("", "a", "x"), "");
-}
-
-TEST(Replace, CallsBackAfterEachAndStopsOnAnException) {
-    int calls = 0;
-    ReplaceText("b a b a", "a", "xyz", [&] { ++calls; });
-    EXPECT_EQ(calls, 2);
-    EXPECT_THROW(ReplaceText("aaa", "a", "b", [] { throw std::runtime_error("page gone"); }),
-                 std::runtime_error);
-}
-
-TEST(Replace, AResultThatCannotBeFailsBeforeTheFirstReplacement) {
-    // A view of nothing that could be read: only its size is asked for.
-    const std::string_view endless("x", std::string().max_size() / 2);
-    int calls = 0;
-    EXPECT_THROW(ReplaceText("a a a", "a", endless, [&] { ++calls; }), std::length_error);
-    EXPECT_EQ(calls, 0);
 }
 
 TEST(Replace, APageFullOfNearMatchesTakesNoLongerThanAnyOther) {
