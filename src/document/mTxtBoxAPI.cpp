@@ -1,0 +1,18 @@
+#include "document/mTxtBoxAPI.h"
+
+namespace mTxtBoxAPI {
+
+long LineCount(HWND edit) {
+    return static_cast<long>(::SendMessageA(edit, EM_GETLINECOUNT, 0, 0));
+}
+
+long LineStart(HWND edit, long line) {
+    return static_cast<long>(::SendMessageA(edit, EM_LINEINDEX, static_cast<WPARAM>(line), 0));
+}
+
+long LineLength(HWND edit, long line) {
+    return static_cast<long>(
+        ::SendMessageA(edit, EM_LINELENGTH, static_cast<WPARAM>(LineStart(edit, line)), 0));
+}
+
+}  // namespace mTxtBoxAPI

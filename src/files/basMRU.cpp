@@ -1,0 +1,124 @@
+#include "files/basMRU.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <exception>
+#include <vector>
+
+#include "document/frmChild.h"
+#include "files/core/recent_files.h"
+#include "files/modPubFuncs.h"
+#include "files/open_file.h"
+#include "settings/app_settings.h"
+#include "win/message_box.h"
+
+namespace basMRU {
+namespace {
+
+using files::kRecentFiles;
+
+constexpr char kCountSection[] = "File Count";
+constexpr char kFilesSection[] = "Recent Files";
+
+Command MenuItem(std::size_t number) {
+    return static_cast<Command>(mnuFileMRU + number);
+}
+
+bool IsNumber(const std::string& key) {
+    return !key.empty() && key.find_first_not_of("0123456789") == std::string::npos;
+}
+
+// As many entries as the count says, or fewer where the section has fewer; keys that are no number do not
+// belong to the list.
+std::vector<std::string> StoredFiles() {
+    const int count = std::atoi(settings::Get(kCountSection, "Count").c_str());
+    const auto wanted = std::min(static_cast<std::size_t>(std::max(count, 0)), kRecentFiles);
+    std::vector<std::string> paths;
+    for (const settings::Row& row : settings::GetAll(kFilesSection)) {
+        if (paths.size() < wanted && IsNumber(row.key) && !row.value.empty()) paths.push_back(row.value);
+    }
+    return paths;
+}
+
+void ShowInMenu(MainWindow& main, const std::vector<std::string>& paths) {
+    for (std::size_t number = 1; number <= kRecentFiles; ++number) {
+        if (number <= paths.size() && modPubFuncs::FileExists(paths[number - 1])) {
+            main.menu().show(MenuItem(number), paths[number - 1]);
+        } else {
+            main.menu().hide(MenuItem(number));
+        }
+    }
+}
+
+// Surplus rows go last, so that a store that refuses in between has forgotten nothing.
+void Store(const std::vector<std::string>& paths) {
+    const std::vector<settings::Row> old = settings::GetAll(kFilesSection);
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+        settings::Save(kFilesSection, std::to_string(i + 1), paths[i]);
+    }
+    settings::Save(kCountSection, "Count", std::to_string(paths.size()));
+    for (const settings::Row& row : old) {
+        const auto number = static_cast<std::size_t>(std::atoi(row.key.c_str()));
+        const bool kept = number >= 1 && number <= paths.size() && row.key == std::to_string(number);
+        if (!kept) settings::DeleteKey(kFilesSection, row.key);
+    }
+}
+
+std::vector<std::string> Existing(std::vector<std::string> paths) {
+    std::erase_if(paths, [](const std::string& path) { return !modPubFuncs::FileExists(path); });
+    return paths;
+}
+
+void OpenRecent(MainWindow& main, const std::string& path) {
+    const auto warn = [&main](const char* text) {
+        win::ShowMessage(main.mainHwnd(), text, "Quillon", MB_ICONEXCLAMATION);
+    };
+    if (!modPubFuncs::FileExists(path)) {
+        warn("File appears to have been moved or deleted.");
+    } else if (modPubFuncs::IsFileOpen(main, path)) {
+        warn("That file is already open.");
+    } else if (files::OpenFile(main, path)) {
+        AddRecentFile(main, path);
+    } else if (main.mainHwnd()) {
+        win::ShowMessage(main.mainHwnd(), "Unable to open File", "Quillon Note:");
+    }
+}
+
+}  // namespace
+
+void LoadRecentFiles(MainWindow& main) {
+    if (settings::Get(kCountSection, "Count").empty()) {
+        settings::Save(kCountSection, "Count", "0");
+        win::ShowMessage(main.mainHwnd(),
+                         "Start working, fast! \r\n"
+                         "The help menu includes toolbar and feature descriptions,\r\n"
+                         "and Online Help is linked through the menu.\r\n\r\n"
+                         "           ... ENJOY!",
+                         "WELCOME TO THE QUILLON!");
+        return;
+    }
+    ShowInMenu(main, StoredFiles());
+}
+
+void AddRecentFile(MainWindow& main, const std::string& path) {
+    if (path.find(main.temporaryFolder()) != std::string::npos) return;
+    const auto paths = files::WithNewest(Existing(StoredFiles()), path, modPubFuncs::SamePath);
+    Store(paths);
+    ShowInMenu(main, paths);
+}
+
+void PruneRecentFiles(MainWindow& main) {
+    const auto paths = Existing(StoredFiles());
+    Store(paths);
+    ShowInMenu(main, paths);
+}
+
+void OnFileMRU(MainWindow& main, int index) {
+    try {
+        OpenRecent(main, main.menu().caption(static_cast<Command>(mnuFileMRU + index)));
+    } catch (const std::exception&) {
+        win::ShowMessage(main.mainHwnd(), "Error with MRU List", "Quillon");
+    }
+}
+
+}  // namespace basMRU

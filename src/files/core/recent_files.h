@@ -1,0 +1,17 @@
+// The order of the recently used files.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace files {
+
+inline constexpr std::size_t kRecentFiles = 7;
+
+// The list with `path` on top: an entry that names the same file is dropped, and so is what the list has no
+// room for.
+std::vector<std::string> WithNewest(const std::vector<std::string>& list, const std::string& path,
+                                    const std::function<bool(const std::string&, const std::string&)>& same);
+
+}  // namespace files

@@ -1,0 +1,44 @@
+#include "files/file_dialog.h"
+
+#include <array>
+
+namespace files {
+namespace {
+
+std::string Trimmed(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+}
+
+std::string Ask(const FileDialog& dialog, BOOL(WINAPI* show)(OPENFILENAMEA*)) {
+    std::array<char, 1024> path{};
+    std::array<char, 512> title{};
+    dialog.proposedName.copy(path.data(), path.size() - 1);
+    OPENFILENAMEA record{};
+    record.lStructSize = sizeof record;
+    record.hwndOwner = dialog.owner;
+    record.lpstrFilter = dialog.filters;
+    record.nFilterIndex = dialog.filterIndex;
+    record.lpstrFile = path.data();
+    record.nMaxFile = static_cast<DWORD>(path.size());
+    record.lpstrFileTitle = title.data();
+    record.nMaxFileTitle = static_cast<DWORD>(title.size());
+    record.lpstrInitialDir = dialog.folder.c_str();
+    record.lpstrTitle = dialog.title;
+    record.lpstrDefExt = dialog.extension;
+    record.Flags = dialog.flags;
+    return show(&record) ? Trimmed(path.data()) : std::string();
+}
+
+}  // namespace
+
+std::string AskOpenPath(const FileDialog& dialog) {
+    return Ask(dialog, ::GetOpenFileNameA);
+}
+
+std::string AskSavePath(const FileDialog& dialog) {
+    return Ask(dialog, ::GetSaveFileNameA);
+}
+
+}  // namespace files

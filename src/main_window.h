@@ -1,0 +1,51 @@
+// What the features need of the main window.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "menu_ids.h"
+#include "win/menu_bar.h"
+
+class frmChild;
+
+// Names a document for as long as the program runs, also after its window has gone.
+using DocumentId = std::uint32_t;
+
+class MainWindow {
+ public:
+    virtual HWND mainHwnd() const = 0;  // null once the window is gone
+    virtual HWND mdiClient() const = 0;
+    virtual win::MenuBar& menu() = 0;
+    virtual const std::string& temporaryFolder() const = 0;  // ends in a backslash
+
+    virtual frmChild* activeDocument() const = 0;  // null when no document is open
+    virtual const std::vector<frmChild*>& documents() const = 0;
+    virtual frmChild* find(DocumentId id) const = 0;  // null when its window has gone
+
+    // The running number of the next new document, from 1; it never comes back.
+    virtual long nextUntitled() = 0;
+
+    // lblResults, the one-line result of the last action.
+    virtual void showResult(const std::string& text) = 0;
+    // lblLineNo, "Current Line No: " and the line, counted from 1.
+    virtual void showLine(long line) = 0;
+    // Enables or disables all that needs an open document.
+    virtual void enableNew(bool state) = 0;
+    virtual bool isEnabled(Command command) const = 0;
+
+    // Runs a command as if its menu item had been chosen, after the messages now under way.
+    virtual void postCommand(Command command) = 0;
+    // The save-as dialog for this document, active or not.
+    virtual void saveAs(frmChild& document) = 0;
+
+    // Called by a document about itself.
+    virtual DocumentId documentCreated(frmChild& document) = 0;
+    virtual void documentClosed(frmChild& document) = 0;
+    virtual void documentRenamed(frmChild& document) = 0;
+    virtual void documentActivated(frmChild& document) = 0;
+
+ protected:
+    ~MainWindow() = default;
+};

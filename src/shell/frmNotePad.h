@@ -1,0 +1,64 @@
+// The main window: an MDI frame with the menu, the toolbar, the documents and the status strip.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "main_window.h"
+#include "shell/menu_pictures.h"
+#include "shell/status_strip.h"
+#include "shell/toolbar.h"
+#include "win/window.h"
+
+class frmNotePad : public win::Window, public MainWindow {
+ public:
+    // Creates the window, not shown yet.
+    static frmNotePad& open();
+
+    HWND mainHwnd() const override { return hwnd(); }
+    HWND mdiClient() const override { return mdiClient_; }
+    win::MenuBar& menu() override { return menu_; }
+    const std::string& temporaryFolder() const override { return temporaryFolder_; }
+    frmChild* activeDocument() const override;
+    const std::vector<frmChild*>& documents() const override { return documents_; }
+    frmChild* find(DocumentId id) const override;
+    long nextUntitled() override { return ++untitled_; }
+    void showResult(const std::string& text) override;
+    void showLine(long line) override;
+    void enableNew(bool state) override;
+    bool isEnabled(Command command) const override;
+    void postCommand(Command command) override;
+    void saveAs(frmChild& document) override;
+    DocumentId documentCreated(frmChild& document) override;
+    void documentClosed(frmChild& document) override;
+    void documentRenamed(frmChild& document) override;
+    void documentActivated(frmChild& document) override;
+
+ private:
+    frmNotePad();
+    ~frmNotePad() override = default;
+
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    LRESULT defaultHandling(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void createParts();
+    void layOut() const;
+    void run(Command command);
+    void clickTool(int index);
+    void refreshWindowList();
+    void restoreDocuments() const;
+    bool preTranslate(MSG& message) const;
+    void close();
+    bool closeDocuments();
+
+    win::MenuBar menu_;
+    shell::MenuPictures menuPictures_;
+    win::UniqueAccelerators accelerators_;
+    std::string temporaryFolder_;
+    HWND mdiClient_ = nullptr;
+    shell::Toolbar* Picture2_ = nullptr;
+    shell::StatusStrip* Picture3_ = nullptr;
+    std::vector<frmChild*> documents_;
+    DocumentId lastId_ = 0;
+    long untitled_ = 0;
+    bool closing_ = false;
+};

@@ -1,0 +1,19 @@
+// The small pictures beside menu items.
+#pragma once
+
+#include <vector>
+
+#include "win/menu_bar.h"
+
+namespace shell {
+
+class MenuPictures {
+ public:
+    // Puts them into the menu, which must not outlive this object.
+    void addTo(win::MenuBar& menu);
+
+ private:
+    std::vector<win::UniqueBitmap> bitmaps_;
+};
+
+}  // namespace shell

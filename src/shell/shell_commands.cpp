@@ -1,0 +1,46 @@
+#include "shell/shell_commands.h"
+
+#include "document/core/page_outline.h"
+#include "document/frmChild.h"
+#include "settings/CRegSettings.h"
+#include "shell/menu_table.h"
+#include "win/error.h"
+
+namespace shell {
+namespace {
+
+constexpr char kOnlineHelp[] = "http://www.example.com/quillon/help.html";
+
+}  // namespace
+
+void OnFileNew(MainWindow& main, int) {
+    const std::string type = CRegSettings().GetRegSetting("Files", "default_Open");
+    frmChild::open(main, "Untitled" + std::to_string(main.nextUntitled()) + type, document::kPageOutline);
+}
+
+void OnFileClose(MainWindow& main, int) {
+    if (const frmChild* page = main.activeDocument()) ::SendMessageA(page->hwnd(), WM_CLOSE, 0, 0);
+}
+
+void OnFileExit(MainWindow& main, int) {
+    ::SendMessageA(main.mainHwnd(), WM_CLOSE, 0, 0);
+}
+
+void OnHelpOnline(MainWindow&, int) {
+    ::ShellExecuteA(nullptr, nullptr, kOnlineHelp, nullptr, nullptr, SW_SHOWNORMAL);
+}
+
+void OnToolList(MainWindow& main, int) {
+    const win::UniqueMenu list(win::Check(::CreatePopupMenu()));
+    for (const ToolButton& button : kToolbar) {
+        const UINT state = main.isEnabled(button.command) ? MF_ENABLED : MF_GRAYED;
+        ::AppendMenuA(list.get(), static_cast<UINT>(MF_STRING) | state, button.command, button.tip);
+    }
+    RECT area{};
+    ::GetClientRect(main.mainHwnd(), &area);
+    POINT corner{area.left, area.top};
+    ::ClientToScreen(main.mainHwnd(), &corner);
+    ::TrackPopupMenu(list.get(), 0, corner.x, corner.y, 0, main.mainHwnd(), nullptr);
+}
+
+}  // namespace shell

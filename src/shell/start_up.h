@@ -1,0 +1,17 @@
+// From the command line to the first page on the screen.
+#pragma once
+
+#include <string>
+
+#include "main_window.h"
+
+namespace shell {
+
+// The text after the program's own name on the command line, without the blanks around it.
+std::string CommandLineFile();
+
+// Places the main window, shows it and opens the start document: the file, or a new page when `file` is empty
+// or names none.
+void Load(MainWindow& main, const std::string& file);
+
+}  // namespace shell

@@ -1,0 +1,96 @@
+#include "win/dialog.h"
+
+#include <exception>
+
+#include "win/error.h"
+#include "win/message_box.h"
+#include "win/message_loop.h"
+#include "win/window.h"
+
+namespace win {
+
+INT_PTR Dialog::showModal(HWND owner) {
+    modal_ = true;
+    const INT_PTR result = ::DialogBoxParamA(::GetModuleHandleA(nullptr), templateName_, owner, procedure,
+                                             reinterpret_cast<LPARAM>(this));
+    if (result == -1) ThrowLastError();
+    return result;
+}
+
+void Dialog::showModeless(HWND owner) {
+    const HWND window = Check(::CreateDialogParamA(::GetModuleHandleA(nullptr), templateName_, owner,
+                                                   procedure, reinterpret_cast<LPARAM>(this)));
+    ::ShowWindow(window, SW_SHOW);
+}
+
+void Dialog::close(INT_PTR result) {
+    if (modal_) {
+        ::EndDialog(hwnd_, result);
+    } else {
+        ::DestroyWindow(hwnd_);
+    }
+}
+
+std::string Dialog::itemText(int id) const {
+    return WindowText(item(id));
+}
+
+void Dialog::focusItem(int id) const {
+    ::SendMessageA(hwnd_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(item(id)), TRUE);
+}
+
+bool Dialog::onCommand(WORD, WORD) {
+    return false;
+}
+
+INT_PTR Dialog::onMessage(UINT, WPARAM, LPARAM) {
+    return FALSE;
+}
+
+INT_PTR CALLBACK Dialog::procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_INITDIALOG) {
+        ::SetWindowLongPtrA(hwnd, DWLP_USER, lParam);
+        reinterpret_cast<Dialog*>(lParam)->hwnd_ = hwnd;
+    }
+    auto* self = reinterpret_cast<Dialog*>(::GetWindowLongPtrA(hwnd, DWLP_USER));
+    return self ? self->dispatch(message, wParam, lParam) : FALSE;
+}
+
+INT_PTR Dialog::dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
+    ++depth_;
+    INT_PTR result = FALSE;
+    try {
+        result = handle(message, wParam, lParam);
+    } catch (const std::exception& error) {
+        ShowMessage(hwnd_, error.what(), "Quillon", MB_ICONEXCLAMATION);
+    }
+    if (message == WM_NCDESTROY) {
+        ::SetWindowLongPtrA(hwnd_, DWLP_USER, 0);
+        hwnd_ = nullptr;
+    }
+    if (--depth_ == 0 && !hwnd_ && !modal_) delete this;
+    return result;
+}
+
+INT_PTR Dialog::handle(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_INITDIALOG:
+            return onInit() ? TRUE : FALSE;
+        case WM_COMMAND:
+            if (onCommand(LOWORD(wParam), HIWORD(wParam))) return TRUE;
+            if (LOWORD(wParam) != IDCANCEL) return FALSE;
+            close(IDCANCEL);
+            return TRUE;
+        case WM_DESTROY:
+            onClosing();
+            return onMessage(message, wParam, lParam);
+        case kPreTranslate:
+            ::SetWindowLongPtrA(hwnd_, DWLP_MSGRESULT,
+                                ::IsDialogMessageA(hwnd_, reinterpret_cast<MSG*>(lParam)));
+            return TRUE;
+        default:
+            return onMessage(message, wParam, lParam);
+    }
+}
+
+}  // namespace win

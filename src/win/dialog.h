@@ -1,0 +1,57 @@
+// The base of every form that is a dialog template of the resources.
+#pragma once
+
+#include <string>
+
+#include "win/windows.h"
+
+namespace win {
+
+class Dialog {
+ public:
+    Dialog(const Dialog&) = delete;
+    Dialog& operator=(const Dialog&) = delete;
+    virtual ~Dialog() = default;
+
+    HWND hwnd() const { return hwnd_; }  // null before and after the window's life
+
+    // Runs the dialog over `owner` and returns what close() was given. The object belongs to the caller.
+    INT_PTR showModal(HWND owner);
+    // Creates and shows the dialog. The object, made with new, deletes itself after the window.
+    void showModeless(HWND owner);
+
+ protected:
+    // `templateName` is the name of the dialog template, which is the form's.
+    explicit Dialog(const char* templateName) : templateName_(templateName) {}
+
+    // Before the dialog is shown. True lets the system put the focus on the first control.
+    virtual bool onInit() { return true; }
+    // WM_COMMAND of a control or a menu item; true says that it has been dealt with. IDCANCEL, which Esc and
+    // the close box send, closes the dialog unless it is dealt with here.
+    virtual bool onCommand(WORD id, WORD notification);
+    // All other messages, with the results of a DLGPROC.
+    virtual INT_PTR onMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    // Just before the window goes, whoever closes it.
+    virtual void onClosing() {}
+
+    void close(INT_PTR result = 0);
+    HWND item(int id) const { return ::GetDlgItem(hwnd_, id); }
+    std::string itemText(int id) const;
+    void setItemText(int id, const std::string& text) const { ::SetDlgItemTextA(hwnd_, id, text.c_str()); }
+    void enableItem(int id, bool enabled) const { ::EnableWindow(item(id), enabled); }
+    bool isChecked(int id) const { return ::IsDlgButtonChecked(hwnd_, id) == BST_CHECKED; }
+    // As Tab would: the default button follows, and the text of an edit box is selected.
+    void focusItem(int id) const;
+
+ private:
+    static INT_PTR CALLBACK procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+    INT_PTR dispatch(UINT message, WPARAM wParam, LPARAM lParam);
+    INT_PTR handle(UINT message, WPARAM wParam, LPARAM lParam);
+
+    const char* templateName_;
+    HWND hwnd_ = nullptr;
+    bool modal_ = false;
+    int depth_ = 0;  // handlers of this object on the stack
+};
+
+}  // namespace win

@@ -1,0 +1,10 @@
+#include "win/message_box.h"
+
+namespace win {
+
+int ShowMessage(HWND owner, const std::string& text, const std::string& title, UINT style) {
+    const HWND top = owner ? ::GetAncestor(owner, GA_ROOT) : nullptr;
+    return ::MessageBoxA(top, text.c_str(), title.c_str(), style);
+}
+
+}  // namespace win

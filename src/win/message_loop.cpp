@@ -1,0 +1,32 @@
+#include "win/message_loop.h"
+
+namespace win {
+namespace {
+
+void Handle(MSG& message) {
+    const HWND top = message.hwnd ? ::GetAncestor(message.hwnd, GA_ROOT) : nullptr;
+    if (top && ::SendMessageA(top, kPreTranslate, 0, reinterpret_cast<LPARAM>(&message)) != 0) return;
+    ::TranslateMessage(&message);
+    ::DispatchMessageA(&message);
+}
+
+}  // namespace
+
+int RunMessageLoop() {
+    MSG message{};
+    while (::GetMessageA(&message, nullptr, 0, 0) > 0) Handle(message);
+    return static_cast<int>(message.wParam);
+}
+
+void RunPending() {
+    MSG message{};
+    while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (message.message == WM_QUIT) {
+            ::PostQuitMessage(static_cast<int>(message.wParam));
+            return;
+        }
+        Handle(message);
+    }
+}
+
+}  // namespace win

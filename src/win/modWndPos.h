@@ -1,0 +1,18 @@
+// Where tool windows stand: above the others, beside the main window, and always on the screen.
+#pragma once
+
+#include "win/windows.h"
+
+namespace modWndPos {
+
+void MakeTopmost(HWND window);
+void DropTopmost(HWND window);
+
+// Moves the window's top left corner, in twips of the screen, and no further out than that all of it stays
+// in the work area of the nearest monitor.
+void MoveTo(HWND window, int leftTwips, int topTwips);
+
+// The window's rectangle on the screen, in twips.
+RECT RectInTwips(HWND window);
+
+}  // namespace modWndPos
