@@ -4,10 +4,12 @@ enable_language(RC)
 
 file(GLOB app_sources CONFIGURE_DEPENDS src/*/*.cpp src/*/*.h)
 add_library(quillon_app OBJECT ${app_sources})
+# The numbers of each form's controls stand beside its dialog template.
+target_include_directories(quillon_app PUBLIC res)
 target_link_libraries(quillon_app PUBLIC
     quillon_core comctl32 comdlg32 ole32 oleaut32 uuid shell32 wininet winspool gdi32 user32 advapi32)
 
-file(GLOB resource_files CONFIGURE_DEPENDS res/*.ico res/*.manifest res/pictures/*.ico res/*.h)
+file(GLOB resource_files CONFIGURE_DEPENDS res/*.ico res/*.manifest res/pictures/*.ico res/forms/*)
 add_library(quillon_resources OBJECT res/quillon.rc)
 target_include_directories(quillon_resources PRIVATE src res)
 set_source_files_properties(res/quillon.rc PROPERTIES OBJECT_DEPENDS "${resource_files}")

@@ -128,12 +128,13 @@ void RichEdit::setFont(const Font& font) {
     const bool changed = isChanged();
     CHARFORMATA format{};
     format.cbSize = sizeof format;
-    format.dwMask = CFM_FACE | CFM_SIZE | CFM_CHARSET;
+    // Naming the effects in the mask only takes them away: the system's own font may be bold.
+    format.dwMask = CFM_FACE | CFM_SIZE | CFM_CHARSET | CFM_BOLD | CFM_ITALIC | CFM_UNDERLINE;
     format.bCharSet = DEFAULT_CHARSET;
     format.yHeight = static_cast<LONG>(font.points * 20.0F);
     ::lstrcpynA(format.szFaceName, font.face.c_str(), LF_FACESIZE);
     send(EM_SETCHARFORMAT, SCF_DEFAULT, reinterpret_cast<LPARAM>(&format));
-    if (textLength() > 0) send(EM_SETCHARFORMAT, SCF_ALL, reinterpret_cast<LPARAM>(&format));
+    send(EM_SETCHARFORMAT, SCF_ALL, reinterpret_cast<LPARAM>(&format));
     setChanged(changed);
 }
 

@@ -1,0 +1,2 @@
+#define lblPrompt 101
+#define txtReply 102

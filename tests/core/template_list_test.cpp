@@ -1,0 +1,98 @@
+#include "authoring/core/template_list.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace {
+
+using authoring::kTemplateSlots;
+using authoring::NewTemplateProblem;
+using authoring::RebuiltTemplates;
+using authoring::Template;
+using authoring::TemplateList;
+
+TemplateList FullList() {
+    TemplateList list;
+    for (std::size_t i = 0; i < kTemplateSlots; ++i) {
+        list[i] = {"t" + std::to_string(i) + ".htm", "Template " + std::to_string(i)};
+    }
+    return list;
+}
+
+TEST(Templates, ANewOneComesFirstAndTheNinthFallsOff) {
+    const TemplateList list = FullList();
+    const TemplateList longer = authoring::WithTemplate(list, {"new.htm", "New"});
+    EXPECT_EQ(longer[0], (Template{"new.htm", "New"}));
+    for (std::size_t i = 1; i < kTemplateSlots; ++i) EXPECT_EQ(longer[i], list[i - 1]);
+}
+
+TEST(Templates, RebuildingClosesGapsAndKeepsTheOrder) {
+    TemplateList list = FullList();
+    list[1].id.clear();
+    list[4].name.clear();
+    std::set<std::string> asked;
+    const TemplateList rebuilt = RebuiltTemplates(list, [&](const std::string& name) {
+        asked.insert(name);
+        return name != "t2.htm";
+    });
+    const TemplateList expected = {list[0], list[3], list[5], list[6], list[7], list[8]};
+    EXPECT_EQ(rebuilt, expected);
+    EXPECT_FALSE(asked.contains("")) << "the folder itself would count as a file";
+    EXPECT_EQ(RebuiltTemplates(list, [](const std::string&) { return false; }), TemplateList{});
+}
+
+TEST(Templates, RebuildingDropsANameOnlyRightBehindItself) {
+    const TemplateList list = {Template{"a", "1"}, {"gone", "2"}, {"a", "3"}, {"b", "4"}, {"a", "5"}};
+    const TemplateList expected = {list[0], list[3], list[4]};
+    EXPECT_EQ(RebuiltTemplates(list, [](const std::string& name) { return name != "gone"; }), expected);
+}
+
+TEST(Templates, TheOrganizeDialogStopsAtTheFirstEmptyId) {
+    TemplateList list = FullList();
+    EXPECT_EQ(authoring::OfferedTemplates(list), 9U);
+    list[3].id.clear();
+    EXPECT_EQ(authoring::OfferedTemplates(list), 3U);
+    EXPECT_EQ(authoring::OfferedTemplates({}), 0U);
+}
+
+TEST(Templates, WhatIsMissingOrInUseIsSaid) {
+    const std::string goBack =
+        "\r\nPlease go back and enter a new name,\r\nor delete the template with that name\r\nunder the "
+        "ORGANIZE TEMPLATES menu.";
+    const TemplateList list = FullList();
+    EXPECT_EQ(NewTemplateProblem(list, "", ""), "Please enter a filename for the template.");
+    EXPECT_EQ(NewTemplateProblem(list, "new.htm", ""), "Please enter a ID for the template.");
+    EXPECT_EQ(NewTemplateProblem(list, "t8.htm", "Template 0"),
+              "That template file is already in use." + goBack);
+    EXPECT_EQ(NewTemplateProblem(list, "new.htm", "Template 8"),
+              "That template name is already in use." + goBack);
+    EXPECT_EQ(NewTemplateProblem(list, "T8.htm", "TEMPLATE 8"), "");
+    EXPECT_EQ(NewTemplateProblem({}, "new.htm", "New"), "");
+    EXPECT_NE(NewTemplateProblem({}, "..\\new.htm", "New"), "");
+}
+
+TEST(Templates, ANameInOtherCaseIsTheSameFile) {
+    const TemplateList list = FullList();
+    EXPECT_EQ(authoring::TemplateInOtherCase(list, "T8.HTM", authoring::kAsciiFold), &list[8]);
+    for (const char* name : {"t8.htm", "t8.html", "T9.HTM"}) {
+        EXPECT_EQ(authoring::TemplateInOtherCase(list, name, authoring::kAsciiFold), nullptr) << name;
+    }
+}
+
+TEST(Templates, OnlyPlainFileNamesPass) {
+    for (const char* name : {"template1.htm", "My Page", " leading.htm", "a..b", ".htaccess", "CONSOLE.htm",
+                             "COM0", "COM10.htm", "NULL",
+                             "Stra\xDF"
+                             "e.htm"}) {
+        EXPECT_EQ(authoring::FileNameProblem(name), "") << name;
+    }
+    for (const char* name :
+         {"..\\x.htm", "x/y.htm",  "C:x.htm", "x.htm:stream", "*.*",     "a?.htm", "a\"b", "<a>",
+          "a|b",       "a\tb",     ".",       "..",           "a.htm.",  "a.htm ", " ",    "CON",
+          "nul.htm",   "Aux .txt", "com1",    "LPT9.a.b",     "lpt\xB2", "conout$"}) {
+        EXPECT_NE(authoring::FileNameProblem(name), "") << name;
+    }
+}
+
+}  // namespace

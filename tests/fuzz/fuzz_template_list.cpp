@@ -1,0 +1,72 @@
+// A template list as anything may have left it in the settings store. An input is lines: a name to add,
+// then name and ID of each slot; a file exists if its name does not begin with '-'.
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+#include "authoring/core/template_list.h"
+
+using authoring::Template;
+using authoring::TemplateList;
+
+namespace {
+
+void Check(bool holds) {
+    if (!holds) std::abort();
+}
+
+std::string TakeLine(std::string_view& rest) {
+    const std::string line(rest.substr(0, rest.find('\n')));
+    rest.remove_prefix(line.size() == rest.size() ? line.size() : line.size() + 1);
+    return line;
+}
+
+bool Exists(const std::string& name) {
+    return !name.starts_with('-');
+}
+
+void CheckRebuilt(const TemplateList& list) {
+    const TemplateList rebuilt = authoring::RebuiltTemplates(list, Exists);
+    Check(authoring::RebuiltTemplates(rebuilt, Exists) == rebuilt);
+    const std::size_t kept = authoring::OfferedTemplates(rebuilt);
+    auto from = list.begin();
+    for (std::size_t i = 0; i < kept; ++i) {
+        Check(!rebuilt[i].name.empty() && Exists(rebuilt[i].name));
+        Check(i == 0 || rebuilt[i].name != rebuilt[i - 1].name);
+        from = std::find(from, list.end(), rebuilt[i]);
+        Check(from != list.end());
+        ++from;
+    }
+    for (std::size_t i = kept; i < rebuilt.size(); ++i) Check(rebuilt[i] == Template{});
+}
+
+void CheckAcceptedName(std::string_view name) {
+    Check(name.find_first_of("\\/:*?\"<>|\r\n\t") == std::string_view::npos);
+    Check(!name.ends_with('.') && !name.ends_with(' '));
+    Check(name.find('\0') == std::string_view::npos);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    std::string_view rest(reinterpret_cast<const char*>(data), size);
+    const std::string name = TakeLine(rest);
+    TemplateList list;
+    for (Template& slot : list) slot = {TakeLine(rest), TakeLine(rest)};
+
+    CheckRebuilt(list);
+    const std::string id = "An ID that is not in the list";
+    if (authoring::NewTemplateProblem(list, name, id).empty()) {
+        CheckAcceptedName(name);
+        const TemplateList longer = authoring::WithTemplate(list, {name, id});
+        Check(!authoring::NewTemplateProblem(longer, name, "another").empty());
+        Check(!authoring::NewTemplateProblem(longer, "another name", id).empty());
+        CheckRebuilt(longer);
+    }
+    const Template* same = authoring::TemplateInOtherCase(list, name, authoring::kAsciiFold);
+    Check(same == nullptr || (same->name.size() == name.size() && same->name != name));
+    return 0;
+}
