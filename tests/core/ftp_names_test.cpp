@@ -64,6 +64,8 @@ TEST(RemotePath, MoveUpLeadsToTheParentAndNeverAboveTheStart) {
     EXPECT_EQ(above("/srv", "/home/u"), "/home/u");
     EXPECT_EQ(above("/", "/home/u"), "/home/u");
     EXPECT_EQ(above("docs", "/home"), "/home");
+    EXPECT_EQ(above("/", ""), "(none)");
+    EXPECT_EQ(above("docs", ""), "(none)");
 }
 
 TEST(RemotePath, LinesAndNames) {

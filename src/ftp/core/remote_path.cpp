@@ -34,7 +34,10 @@ std::optional<std::string> DirectoryAbove(std::string_view current, std::string_
     const std::string_view start = WithoutTrailingSlashes(root);
     if (from == start) return std::nullopt;
     const std::string_view parent = Parent(from);
-    return std::string(parent.empty() || LiesAbove(parent, start) ? start : parent);
+    const std::string_view above = parent.empty() || LiesAbove(parent, start) ? start : parent;
+    // Neither leads anywhere where the server never told its directory.
+    if (above == from || above.empty()) return std::nullopt;
+    return std::string(above);
 }
 
 bool IsDirectoryLine(std::string_view line) {

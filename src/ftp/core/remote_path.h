@@ -10,9 +10,9 @@ namespace ftp {
 // directory + "/" + name, whatever the two are: in "/" the result begins with "//".
 std::string JoinRemote(std::string_view directory, std::string_view name);
 
-// Where Move Up leads from `current`; none at `root`, the directory that the session started in, and
-// there only (so the button is enabled exactly when this has a value). The result never lies above
-// `root`: a folder reached by a link that lies elsewhere on the server leads back to `root`.
+// Where Move Up leads from `current`; none at `root`, the directory that the session started in, nor
+// where there is nothing above: the button is enabled exactly when this has a value. The result never
+// lies above `root`: a folder that was reached by a link and lies elsewhere leads back to `root`.
 std::optional<std::string> DirectoryAbove(std::string_view current, std::string_view root);
 
 // A line that stands for a directory ends in "/".
