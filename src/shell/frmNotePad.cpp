@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <exception>
 
+#include "authoring/image_drop.h"
 #include "document/edit_commands.h"
 #include "document/frmChild.h"
 #include "files/modOpen.h"
+#include "options/option_commands.h"
 #include "shell/commands.h"
 #include "shell/shell_commands.h"
 #include "win/error.h"
@@ -55,6 +57,7 @@ void frmNotePad::createParts() {
         if (row.kind == shell::MenuKind::item) menu_.enable(row.id, shell::IsAvailable(row.id));
     }
     menuPictures_.addTo(menu_);
+    options::ShowStored(*this);
     ::SetMenu(hwnd(), menu_.handle());
     menu_.attach(hwnd());
     CLIENTCREATESTRUCT client{nullptr, mdiChildren};
@@ -135,7 +138,10 @@ DocumentId frmNotePad::documentCreated(frmChild& document) {
 
 void frmNotePad::documentClosed(frmChild& document) {
     std::erase(documents_, &document);
-    if (documents_.empty()) enableNew(false);
+    if (documents_.empty()) {
+        enableNew(false);
+        options::ShowWordWrap(*this, nullptr);
+    }
     refreshWindowList();
 }
 
@@ -145,7 +151,12 @@ void frmNotePad::documentRenamed(frmChild&) {
 
 void frmNotePad::documentActivated(frmChild& document) {
     document.showLine();
+    options::ShowWordWrap(*this, &document);
     refreshWindowList();
+}
+
+void frmNotePad::filesDropped(DocumentId document, const std::vector<std::string>& paths) {
+    authoring::OnDrop(*this, document, paths);
 }
 
 void frmNotePad::refreshWindowList() {
