@@ -108,7 +108,12 @@ void frmChild::setCaption(const std::string& caption) {
 
 void frmChild::setPage(std::string_view page) {
     auto fresh = makePad(txtPad_->font());
-    fresh->load(page);
+    try {
+        fresh->load(page);
+    } catch (...) {
+        ::DestroyWindow(fresh->hwnd());
+        throw;
+    }
     fresh->setWordWrap(txtPad_->wordWrap());
     const bool focused = ::GetFocus() == txtPad_->hwnd();
     const HWND old = txtPad_->hwnd();
@@ -116,6 +121,13 @@ void frmChild::setPage(std::string_view page) {
     layOut();
     ::DestroyWindow(old);
     if (focused) focusPage();
+}
+
+void frmChild::toReset(std::string_view saved) {
+    // Of an empty page nothing would be left to paste: the clipboard keeps what it has.
+    if (const std::string edited = txtPad_->text(); !edited.empty()) win::SetClipboardText(hwnd(), edited);
+    setPage(saved);
+    showLine();
 }
 
 void frmChild::layOut() const {

@@ -33,6 +33,7 @@ class RichEdit : public win::Control {
 
     Selection selection() const;
     void select(long start, long end);
+    void scrollToCaret() const { send(EM_SCROLLCARET); }
     std::string selectedText() const;
     // As one step that can be undone. The caret ends behind the text, which holds no NUL.
     void replaceSelection(const std::string& text);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <exception>
 
+#include "authoring/page_dialog.h"
 #include "document/edit_commands.h"
 #include "document/frmChild.h"
 #include "files/modOpen.h"
@@ -132,6 +133,7 @@ DocumentId frmNotePad::documentCreated(frmChild& document) {
 
 void frmNotePad::documentClosed(frmChild& document) {
     std::erase(documents_, &document);
+    authoring::UnloadPageDialogs(*this);
     if (documents_.empty()) enableNew(false);
     refreshWindowList();
 }
