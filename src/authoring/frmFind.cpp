@@ -93,11 +93,11 @@ frmChild* frmFind::readyPage() const {
     return page();
 }
 
-void frmFind::SelectFound(const frmChild& page, std::size_t position, std::size_t length) {
+void frmFind::SelectFound(const frmChild& page, std::size_t position, std::size_t length) const {
     const auto start = static_cast<long>(position - 1);
     page.txtPad().select(start, start + static_cast<long>(length));
     page.txtPad().scrollToCaret();
-    page.focusPage();
+    focusPage(page);
 }
 
 void frmFind::FindAndCount() {

@@ -31,7 +31,7 @@ class frmFind : public authoring::PageDialog {
     // Nothing stands for more than can be counted.
     void showCount(std::optional<int> count) const;
     // Selects the match at a position counted from 1 and puts the focus into the page.
-    static void SelectFound(const frmChild& page, std::size_t position, std::size_t length);
+    void SelectFound(const frmChild& page, std::size_t position, std::size_t length) const;
     void enableButtons(bool find, bool findNext) const;
 
     HWND mFindOriginalKid;

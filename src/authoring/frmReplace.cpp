@@ -1,6 +1,5 @@
 #include "authoring/frmReplace.h"
 
-#include <algorithm>
 #include <exception>
 #include <stdexcept>
 
@@ -22,6 +21,7 @@ frmReplace::frmReplace(MainWindow& owner)
 void frmReplace::show(MainWindow& main) {
     if (const Dialog* open = find(main.mainHwnd(), kName)) {
         ::SetActiveWindow(open->hwnd());
+        ::SetFocus(::GetDlgItem(open->hwnd(), txtReplace));
     } else if (main.activeDocument()) {
         (new frmReplace(main))->showModeless(main.mainHwnd());
     }
@@ -78,7 +78,7 @@ void frmReplace::clickReplace() {
     pad.select(start, start + static_cast<long>(find.size()));
     pad.replaceSelection(with);
     pad.scrollToCaret();
-    target->focusPage();
+    focusPage(*target);
     text.replace(at, find.size(), with);
     enableButtons(authoring::FindExact(text, find, at + 1) != authoring::kNotFound);
 }
@@ -128,16 +128,9 @@ frmReplace::Outcome frmReplace::replaced(const std::string& find, const std::str
 
 void frmReplace::takeOver(const Outcome& outcome) {
     frmChild& target = *page();
-    const long caret = std::min(target.txtPad().selection().start, static_cast<long>(outcome.text.size()));
     win::SetClipboardText(hwnd(), outcome.text);
-    target.setPage(outcome.text);
-    document::RichEdit& pad = target.txtPad();
-    pad.setChanged(true);
-    pad.select(caret, caret);
-    pad.scrollToCaret();
+    target.replacePage(outcome.text);
     main().showResult("Last Replace changed  " + std::to_string(outcome.count) + " occurrences.");
-    target.showLine();
-    target.focusPage();
     close();
 }
 

@@ -48,6 +48,12 @@ void PageDialog::bringPageToTop() const {
     ::SendMessageA(main_.mdiClient(), WM_MDIACTIVATE, reinterpret_cast<WPARAM>(kid), 0);
 }
 
+void PageDialog::focusPage(const frmChild& target) const {
+    target.focusPage();
+    // Under some window managers the activated main window comes over even a topmost window of its own.
+    ::SetWindowPos(hwnd(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);
+}
+
 int PageDialog::ask(const std::string& text, const char* title, UINT style) const {
     // The box disables only its owner; with the main window open to clicks the page could go meanwhile.
     const HWND mainHwnd = main_.mainHwnd();

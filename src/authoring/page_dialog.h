@@ -27,6 +27,8 @@ class PageDialog : public win::Dialog {
     frmChild* page() const;
     // Makes the page the active document.
     void bringPageToTop() const;
+    // Puts the focus into the page and keeps this dialog in sight.
+    void focusPage(const frmChild& target) const;
     // A message box over the dialog, during which the main window waits as well.
     int ask(const std::string& text, const char* title, UINT style = MB_OK) const;
     void setDefaultButton(int id) const { ::SendMessageA(hwnd(), DM_SETDEFID, static_cast<WPARAM>(id), 0); }

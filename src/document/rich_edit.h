@@ -39,7 +39,10 @@ class RichEdit : public win::Control {
     void replaceSelection(const std::string& text);
     std::string textRange(long start, long end) const;
 
-    // The displayed line, from 0, that holds a position.
+    // Displayed lines, from 0.
+    long firstVisibleLine() const { return static_cast<long>(send(EM_GETFIRSTVISIBLELINE)); }
+    void scrollLines(long down) const { send(EM_LINESCROLL, 0, down); }
+    // The one that holds a position.
     long lineOf(long position) const { return static_cast<long>(send(EM_EXLINEFROMCHAR, 0, position)); }
 
     // The first match at or after `start`, whatever the case of its letters; -1 when there is none.
