@@ -1,5 +1,6 @@
 #include "document/frmChild.h"
 
+#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -119,7 +120,12 @@ void frmChild::setCaption(const std::string& caption) {
 
 void frmChild::setPage(std::string_view page) {
     auto fresh = makePad(txtPad_->font());
-    fresh->load(page);
+    try {
+        fresh->load(page);
+    } catch (...) {
+        ::DestroyWindow(fresh->hwnd());
+        throw;
+    }
     fresh->setWordWrap(txtPad_->wordWrap());
     const bool focused = ::GetFocus() == txtPad_->hwnd();
     const HWND old = txtPad_->hwnd();
@@ -127,6 +133,23 @@ void frmChild::setPage(std::string_view page) {
     layOut();
     ::DestroyWindow(old);
     if (focused) focusPage();
+}
+
+void frmChild::replacePage(std::string_view page) {
+    const long caret = std::min(txtPad_->selection().start, static_cast<long>(page.size()));
+    const long line = txtPad_->firstVisibleLine();
+    setPage(page);
+    txtPad_->setChanged(true);
+    txtPad_->select(caret, caret);
+    txtPad_->scrollLines(line - txtPad_->firstVisibleLine());
+    showLine();
+}
+
+void frmChild::toReset(std::string_view saved) {
+    // Of an empty page nothing would be left to paste: the clipboard keeps what it has.
+    if (const std::string edited = txtPad_->text(); !edited.empty()) win::SetClipboardText(hwnd(), edited);
+    setPage(saved);
+    showLine();
 }
 
 void frmChild::layOut() const {

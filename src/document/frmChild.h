@@ -33,6 +33,10 @@ class frmChild : public win::Window {
     // a full one is slower by orders of magnitude; font, wrap and size carry over, what can be undone does
     // not.
     void setPage(std::string_view page);
+    // The same as an edit: the page counts as changed, the caret and the lines in view stay where they are.
+    void replacePage(std::string_view page);
+    // Takes the saved text in place of the edited one, which goes to the clipboard.
+    void toReset(std::string_view saved);
 
     void kidCut();
     void kidCopy();

@@ -4,6 +4,10 @@
 
 #include "authoring/frmColors.h"
 #include "authoring/tag_menus.h"
+#include "authoring/frmFind.h"
+#include "authoring/frmReplace.h"
+#include "authoring/modPreview.h"
+#include "authoring/page_reset.h"
 #include "document/edit_commands.h"
 #include "files/basMRU.h"
 #include "files/modOpen.h"
@@ -84,10 +88,10 @@ constexpr auto kHandlers = std::to_array<Handler>({
     NotYet(mnuHelpCont),
     NotYet(mnuHelpAbout),
     One(mnuHelpOnline, OnHelpOnline),
-    NotYet(tbrFind),
-    NotYet(tbrReplace),
-    NotYet(tbrReset),
-    NotYet(tbrPreview),
+    One(tbrFind, authoring::OnFind),
+    One(tbrReplace, authoring::OnReplace),
+    One(tbrReset, authoring::OnReset),
+    One(tbrPreview, modPreview::OnPreview),
     NotYet(tbrSpelling),
     One(tbrColor, authoring::OnColor),
     One(tbrList, OnToolList),

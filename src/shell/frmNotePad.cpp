@@ -4,6 +4,7 @@
 #include <exception>
 
 #include "authoring/image_drop.h"
+#include "authoring/page_dialog.h"
 #include "document/edit_commands.h"
 #include "document/frmChild.h"
 #include "files/modOpen.h"
@@ -142,6 +143,7 @@ void frmNotePad::documentClosed(frmChild& document) {
         enableNew(false);
         options::ShowWordWrap(*this, nullptr);
     }
+    authoring::UnloadPageDialogs(*this);
     refreshWindowList();
 }
 
