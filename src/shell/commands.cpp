@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "authoring/mTemplateLoad.h"
+#include "authoring/modSpell.h"
 #include "document/edit_commands.h"
 #include "files/basMRU.h"
 #include "files/modOpen.h"
@@ -69,9 +71,9 @@ constexpr auto kHandlers = std::to_array<Handler>({
     NotYet(mnuUploadSite),
     NotYet(mnuOptDefOpenList, 4),
     NotYet(mnuOptDefSaveList, 4),
-    NotYet(mnuOptsTempAdd),
-    NotYet(mnuOptsTempOrg),
-    NotYet(mnuOptsTempList, 9),
+    One(mnuOptsTempAdd, mTemplateLoad::OnTemplateAdd),
+    One(mnuOptsTempOrg, mTemplateLoad::OnTemplateOrganize),
+    Array(mnuOptsTempList, 9, mTemplateLoad::OnTemplateOpen),
     NotYet(mnuOptTabsList, 6),
     NotYet(mnuOptWW),
     NotYet(mnuOptFont),
@@ -82,7 +84,7 @@ constexpr auto kHandlers = std::to_array<Handler>({
     NotYet(tbrReplace),
     NotYet(tbrReset),
     NotYet(tbrPreview),
-    NotYet(tbrSpelling),
+    One(tbrSpelling, modSpell::OnSpelling),
     NotYet(tbrColor),
     One(tbrList, OnToolList),
 });

@@ -2,6 +2,7 @@
 
 #include <exception>
 
+#include "authoring/mTemplateLoad.h"
 #include "document/frmChild.h"
 #include "files/basMRU.h"
 #include "files/modPubFuncs.h"
@@ -53,6 +54,7 @@ std::string CommandLineFile() {
 
 void Load(MainWindow& main, const std::string& file) {
     modWndPos::MoveTo(main.mainHwnd(), kLeft, kTop);
+    mTemplateLoad::RebuildTemplateMenu(main);
     ::ShowWindow(main.mainHwnd(), SW_SHOWDEFAULT);
     try {
         OpenStartDocument(main, file);
