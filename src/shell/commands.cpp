@@ -8,6 +8,8 @@
 #include "authoring/frmReplace.h"
 #include "authoring/modPreview.h"
 #include "authoring/page_reset.h"
+#include "authoring/mTemplateLoad.h"
+#include "authoring/modSpell.h"
 #include "document/edit_commands.h"
 #include "files/basMRU.h"
 #include "files/modOpen.h"
@@ -79,9 +81,9 @@ constexpr auto kHandlers = std::to_array<Handler>({
     NotYet(mnuUploadSite),
     Array(mnuOptDefOpenList, 4, options::OnDefaultOpen),
     Array(mnuOptDefSaveList, 4, options::OnDefaultSave),
-    NotYet(mnuOptsTempAdd),
-    NotYet(mnuOptsTempOrg),
-    NotYet(mnuOptsTempList, 9),
+    One(mnuOptsTempAdd, mTemplateLoad::OnTemplateAdd),
+    One(mnuOptsTempOrg, mTemplateLoad::OnTemplateOrganize),
+    Array(mnuOptsTempList, 9, mTemplateLoad::OnTemplateOpen),
     Array(mnuOptTabsList, 6, options::OnTabLength),
     One(mnuOptWW, options::OnWordWrap),
     One(mnuOptFont, options::OnFonts),
@@ -92,7 +94,7 @@ constexpr auto kHandlers = std::to_array<Handler>({
     One(tbrReplace, authoring::OnReplace),
     One(tbrReset, authoring::OnReset),
     One(tbrPreview, modPreview::OnPreview),
-    NotYet(tbrSpelling),
+    One(tbrSpelling, modSpell::OnSpelling),
     One(tbrColor, authoring::OnColor),
     One(tbrList, OnToolList),
 });

@@ -2,6 +2,7 @@
 
 #include <exception>
 
+#include "authoring/mTemplateLoad.h"
 #include "document/frmChild.h"
 #include "files/basMRU.h"
 #include "files/modPubFuncs.h"
@@ -55,6 +56,7 @@ std::string CommandLineFile() {
 
 void Load(MainWindow& main, const std::string& file) {
     modWndPos::MoveTo(main.mainHwnd(), kLeft, kTop);
+    mTemplateLoad::RebuildTemplateMenu(main);
     try {
         // The window comes up with its page in it, so that all is painted once.
         const std::string path = StartFile(file);
