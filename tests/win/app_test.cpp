@@ -59,7 +59,9 @@ User::User(std::vector<Act> acts)
               HWND dialog = nullptr;
               const bool came = seen::Until([&] {
                   dialog = seen::Titled(process, act.title);
-                  return dialog && dialog != last && ::IsWindowEnabled(dialog);
+                  // The main window may have the same title, but has no owner.
+                  return dialog && dialog != last && ::GetWindow(dialog, GW_OWNER) &&
+                         ::IsWindowEnabled(dialog);
               });
               if (!came) {
                   missing_ = act.title;
