@@ -5,6 +5,9 @@
 #include "document/edit_commands.h"
 #include "files/basMRU.h"
 #include "files/modOpen.h"
+#include "help/frmAbout.h"
+#include "help/frmHelp.h"
+#include "print/modPrint.h"
 #include "shell/menu_table.h"
 #include "shell/shell_commands.h"
 
@@ -34,7 +37,7 @@ constexpr auto kHandlers = std::to_array<Handler>({
     One(mnuFileClose, OnFileClose),
     One(mnuFileSave, modOpen::OnFileSave),
     One(mnuFileSaveAs, modOpen::OnFileSaveAs),
-    NotYet(mnuFilePrint),
+    One(mnuFilePrint, modPrint::OnFilePrint),
     Array(mnuFileMRU, 8, basMRU::OnFileMRU),
     One(mnuFileExit, OnFileExit),
     One(mnuEditCut, document::OnEditCut),
@@ -75,8 +78,8 @@ constexpr auto kHandlers = std::to_array<Handler>({
     NotYet(mnuOptTabsList, 6),
     NotYet(mnuOptWW),
     NotYet(mnuOptFont),
-    NotYet(mnuHelpCont),
-    NotYet(mnuHelpAbout),
+    One(mnuHelpCont, help::OnHelpContents),
+    One(mnuHelpAbout, help::OnHelpAbout),
     One(mnuHelpOnline, OnHelpOnline),
     NotYet(tbrFind),
     NotYet(tbrReplace),
