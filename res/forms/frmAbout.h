@@ -1,4 +1,4 @@
-#define cmdOK 1 /* IDOK */
+#define cmdOK IDOK
 #define lblDescription 101
 #define lblVersion 102
 #define lblLinks 110

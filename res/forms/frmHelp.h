@@ -1,4 +1,4 @@
-#define cmdClose 2 /* IDCANCEL, so that Esc closes too */
+#define cmdClose IDCANCEL
 #define Picture1 100
 #define Label1 120
 #define lblHead 121
