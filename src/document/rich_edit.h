@@ -19,6 +19,7 @@ struct Selection {
 struct Font {
     std::string face;
     float points = 0;
+    friend bool operator==(const Font&, const Font&) = default;
 };
 
 class RichEdit : public win::Control {
