@@ -98,11 +98,14 @@ TEST_F(PreviewTest, AnEditedPageIsShownFromACopyThatGoesAfterThreeSeconds) {
 
 TEST_F(PreviewTest, AnUnchangedPageIsShownFromItsOwnFile) {
     const Association html(browser());
-    openPage("index.htm", "<P>saved\r\n");
+    openPage("index.htm", "<P>saved");
     run(tbrPreview);
     EXPECT_NE(shown().find(scratch("index.htm")), std::string::npos);
     passTime();
-    EXPECT_EQ(readFile(scratch("index.htm")), "<P>saved\r\n");
+    EXPECT_EQ(readFile(scratch("index.htm")), "<P>saved");
+    run(mnuFileSave);
+    run(tbrPreview);
+    EXPECT_NE(shown().find(scratch("index.htm")), std::string::npos);
     // Written by another program meanwhile: that is not for a preview to undo.
     writeFile(scratch("index.htm"), "<P>newer\r\n");
     run(tbrPreview);
@@ -147,7 +150,7 @@ TEST_F(PreviewTest, TheCopyGoesWithTheProgram) {
     page.txtPad().setChanged(false);
     ::SendMessageA(page.hwnd(), WM_CLOSE, 0, 0);
     EXPECT_TRUE(copyIsThere()) << "the page may go before";
-    ::SendMessageA(main().mainHwnd(), WM_CLOSE, 0, 0);
+    closeMain();
     EXPECT_FALSE(copyIsThere());
 }
 
