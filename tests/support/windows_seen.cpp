@@ -32,9 +32,8 @@ std::string ClassOf(HWND window) {
 std::vector<HWND> TopLevel(DWORD process) {
     std::vector<HWND> all;
     ::EnumWindows(Collect, reinterpret_cast<LPARAM>(&all));
-    std::erase_if(all, [process](HWND window) {
-        return !::IsWindowVisible(window) || !BelongsTo(window, process);
-    });
+    std::erase_if(
+        all, [process](HWND window) { return !::IsWindowVisible(window) || !BelongsTo(window, process); });
     return all;
 }
 
@@ -62,7 +61,8 @@ HWND Child(HWND parent, const std::string& text, const std::string& cls) {
 
 HWND ChildOfClass(HWND parent, const std::string& cls) {
     for (const HWND window : Below(parent)) {
-        if (::IsWindowVisible(window) && ::lstrcmpiA(ClassOf(window).c_str(), cls.c_str()) == 0) return window;
+        if (::IsWindowVisible(window) && ::lstrcmpiA(ClassOf(window).c_str(), cls.c_str()) == 0)
+            return window;
     }
     return nullptr;
 }
@@ -88,7 +88,7 @@ bool Until(const std::function<bool()>& condition, DWORD milliseconds) {
 }
 
 void ChooseFile(HWND dialog, const std::string& path) {
-    HWND name = ::GetDlgItem(dialog, 0x47c);  // cmb13
+    HWND name = ::GetDlgItem(dialog, 0x47c);        // cmb13
     if (!name) name = ::GetDlgItem(dialog, 0x480);  // edt1
     ::SendMessageA(name, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(path.c_str()));
     ::PostMessageA(dialog, WM_COMMAND, IDOK, 0);

@@ -31,7 +31,8 @@ void DeleteKeyTree(HKEY parent, const std::string& name) {
 
 std::string ScratchFolder() {
     char folder[MAX_PATH];
-    if (::GetEnvironmentVariableA("QUILLON_SCRATCH", folder, sizeof folder) == 0) ::lstrcpyA(folder, "C:\\scratch");
+    if (::GetEnvironmentVariableA("QUILLON_SCRATCH", folder, sizeof folder) == 0)
+        ::lstrcpyA(folder, "C:\\scratch");
     return std::string(folder) + "\\win";
 }
 
@@ -124,14 +125,16 @@ void AppTest::type(const std::string& text) {
 }
 
 void AppTest::writeFile(const std::string& path, const std::string& bytes) {
-    const win::UniqueFile file(::CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+    const win::UniqueFile file(
+        ::CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
     DWORD written = 0;
     ::WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
     ASSERT_EQ(written, bytes.size()) << path;
 }
 
 std::string AppTest::readFile(const std::string& path) {
-    const win::UniqueFile file(::CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
+    const win::UniqueFile file(
+        ::CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
     if (!file) return "(no file)";
     std::string bytes(::GetFileSize(file.get(), nullptr), '\0');
     DWORD read = 0;

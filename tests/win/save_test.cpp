@@ -108,8 +108,8 @@ TEST_F(SaveTest, AnUnwritableTargetLeavesThePageChangedAndTheFileAsItWas) {
         EXPECT_EQ(pageText(), "new old");
     };
     {
-        const win::UniqueFile lock(::CreateFileA(scratch("locked.htm").c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
-                                                 OPEN_EXISTING, 0, nullptr));
+        const win::UniqueFile lock(::CreateFileA(scratch("locked.htm").c_str(), GENERIC_READ, FILE_SHARE_READ,
+                                                 nullptr, OPEN_EXISTING, 0, nullptr));
         refuse();
     }
     ::SetFileAttributesA(scratch("locked.htm").c_str(), FILE_ATTRIBUTE_READONLY);
@@ -127,10 +127,9 @@ TEST_F(SaveTest, APageWithoutAFileIsSavedUnderAnotherName) {
     run(mnuFileNew);
     type("<!-- -->");
     std::string proposed;
-    User user({{"Save File As...",
-                [&](HWND dialog) {
+    User user({{"Save File As...", [&](HWND dialog) {
                     proposed = seen::TextOf(::GetDlgItem(dialog, 0x47c) ? ::GetDlgItem(dialog, 0x47c)
-                                                                         : ::GetDlgItem(dialog, 0x480));
+                                                                        : ::GetDlgItem(dialog, 0x480));
                     seen::ChooseFile(dialog, scratch("named.htm"));
                 }}});
     run(mnuFileSave);
@@ -145,7 +144,8 @@ TEST_F(SaveTest, APageWithoutAFileIsSavedUnderAnotherName) {
 TEST_F(SaveTest, OpeningSaysWhatIsWrong) {
     openPage("open.htm", "x");
     writeFile(scratch("closed.htm"), "y");
-    const win::UniqueFile lock(::CreateFileA(scratch("closed.htm").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    const win::UniqueFile lock(
+        ::CreateFileA(scratch("closed.htm").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
     User user({User::chooseFile("Open File...", scratch("open.htm")), User::press("Quillon", IDOK),
                User::chooseFile("Open File...", scratch("closed.htm")), User::press("Quillon Note:", IDOK)});
     run(mnuFileOpen);

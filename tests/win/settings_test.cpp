@@ -8,13 +8,15 @@ namespace {
 class SettingsTest : public AppTest {};
 
 TEST_F(SettingsTest, ValuesComeBackAsTheBytesThatWereSaved) {
-    const std::string values[] = {std::string("\0", 1), std::string("a\0b\0", 4), std::string(65536, 'x'), "caf\xE9 \x80\x81", ""};
+    const std::string values[] = {std::string("\0", 1), std::string("a\0b\0", 4), std::string(65536, 'x'),
+                                  "caf\xE9 \x80\x81", ""};
     for (const std::string& value : values) {
         ASSERT_TRUE(settings::Save("Section", "key", value));
         EXPECT_EQ(settings::Get("Section", "key", "fallback"), value);
         EXPECT_EQ(settings::GetAll("Section"), (std::vector<settings::Row>{{"key", value}}));
         ASSERT_TRUE(CRegSettings().SaveRegSetting("Section", "key", value));
-        EXPECT_EQ(CRegSettings().GetRegSetting("Section", "key", "fallback"), value.empty() ? "fallback" : value);
+        EXPECT_EQ(CRegSettings().GetRegSetting("Section", "key", "fallback"),
+                  value.empty() ? "fallback" : value);
     }
 }
 
@@ -62,7 +64,8 @@ class RecentFilesTest : public AppTest {
             if (main().menu().isShown(item)) numbers += digit(main().menu().caption(item));
         }
         for (const settings::Row& row : settings::GetAll("Recent Files")) stored += digit(row.value);
-        const bool same = stored == numbers && settings::Get("File Count", "Count") == std::to_string(stored.size());
+        const bool same =
+            stored == numbers && settings::Get("File Count", "Count") == std::to_string(stored.size());
         return same ? numbers : numbers + "!" + stored;
     }
     static char digit(const std::string& path) { return path[path.size() - 5]; }
@@ -121,7 +124,8 @@ TEST_F(RecentFilesTest, TheFirstRunIsWelcomedOnce) {
     User user({User::press("WELCOME TO THE QUILLON!", IDOK)});
     basMRU::LoadRecentFiles(main());
     EXPECT_EQ(user.heard()[0],
-              "Start working, fast! \r\nThe help menu includes toolbar and feature descriptions,\r\nand Online Help is "
+              "Start working, fast! \r\nThe help menu includes toolbar and feature descriptions,\r\nand "
+              "Online Help is "
               "linked through the menu.\r\n\r\n           ... ENJOY!");
     EXPECT_EQ(settings::Get("File Count", "Count"), "0");
     basMRU::LoadRecentFiles(main());
