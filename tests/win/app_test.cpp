@@ -78,7 +78,8 @@ User::User(std::vector<Act> acts)
 void User::finish() {
     if (!thread_.joinable()) return;
     thread_.join();
-    if (!missing_.empty()) ADD_FAILURE() << "No window came with the title \"" << missing_ << '"';
+    const std::string missing = std::exchange(missing_, {});
+    if (!missing.empty()) ADD_FAILURE() << "No window came with the title \"" << missing << '"';
 }
 
 const std::vector<std::string>& User::heard() {
