@@ -33,8 +33,9 @@ bool frmTemplatesOrg::onInit() {
     for (std::size_t i = 0; i < authoring::OfferedTemplates(list); ++i) {
         ::SendMessageA(item(cboTemplates), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(list[i].id.c_str()));
     }
-    // A list that is dropped down only could not read so before anything is picked.
-    ::SendMessageA(::GetWindow(item(cboTemplates), GW_CHILD), EM_SETREADONLY, TRUE, 0);
+    // A list without a box for its text could not read so before anything is picked.
+    listText_.attach(::GetWindow(item(cboTemplates), GW_CHILD));
+    ::SendMessageA(listText_.hwnd(), EM_SETREADONLY, TRUE, 0);
     setItemText(cboTemplates, "Template List");
     setItemText(txtRename, "Enter Name for Template");
     addTips();
@@ -65,14 +66,13 @@ bool frmTemplatesOrg::onCommand(WORD id, WORD notification) {
     }
 }
 
-INT_PTR frmTemplatesOrg::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    // A click on the text, which cannot be typed into, drops the list down as a click on its arrow does.
-    if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_LBUTTONDOWN) {
-        const POINT at{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
-        const HWND list = item(cboTemplates);
-        if (::ChildWindowFromPoint(hwnd(), at) == list) ::PostMessageA(list, CB_SHOWDROPDOWN, TRUE, 0);
-    }
-    return FALSE;
+LRESULT frmTemplatesOrg::ListText::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message != WM_LBUTTONDOWN && message != WM_LBUTTONDBLCLK)
+        return Control::onMessage(message, wParam, lParam);
+    ::SetFocus(hwnd());
+    const HWND list = ::GetParent(hwnd());
+    ::SendMessageA(list, CB_SHOWDROPDOWN, ::SendMessageA(list, CB_GETDROPPEDSTATE, 0, 0) == 0, 0);
+    return 0;
 }
 
 int frmTemplatesOrg::picked() const {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "main_window.h"
+#include "win/control.h"
 #include "win/dialog.h"
 #include "win/tool_tips.h"
 
@@ -14,9 +15,17 @@ class frmTemplatesOrg : public win::Dialog {
  private:
     enum class Mode { none, rename, remove };
 
+    // The text of the list, which cannot be typed into: a click on it drops the list down.
+    class ListText : public win::Control {
+     public:
+        using Control::attach;
+
+     private:
+        LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    };
+
     bool onInit() override;
     bool onCommand(WORD id, WORD notification) override;
-    INT_PTR onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void addTips();
     int picked() const;  // position in the list, which is the slot; -1 for none
     void choose(Mode mode);
@@ -28,5 +37,6 @@ class frmTemplatesOrg : public win::Dialog {
 
     MainWindow& main_;
     Mode mode_ = Mode::none;
+    ListText listText_;
     win::ToolTips tips_;
 };

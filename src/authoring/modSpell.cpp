@@ -62,6 +62,7 @@ void ReplacePage(MainWindow& main, frmChild& page, const Sent& sent, const std::
         page.txtPad().setChanged(true);
     }
     page.selectAll();
+    ::SendMessageA(page.txtPad().hwnd(), WM_VSCROLL, SB_TOP, 0);
     main.showLine(1);
 }
 

@@ -3,17 +3,20 @@
 #include <algorithm>
 
 #include "authoring/frmColors.h"
-#include "authoring/tag_menus.h"
 #include "authoring/frmFind.h"
 #include "authoring/frmReplace.h"
-#include "authoring/modPreview.h"
-#include "authoring/page_reset.h"
 #include "authoring/mTemplateLoad.h"
+#include "authoring/modPreview.h"
 #include "authoring/modSpell.h"
+#include "authoring/page_reset.h"
+#include "authoring/tag_menus.h"
 #include "document/edit_commands.h"
 #include "files/basMRU.h"
 #include "files/modOpen.h"
+#include "help/frmAbout.h"
+#include "help/frmHelp.h"
 #include "options/option_commands.h"
+#include "print/modPrint.h"
 #include "shell/menu_table.h"
 #include "shell/shell_commands.h"
 
@@ -46,7 +49,7 @@ constexpr auto kHandlers = std::to_array<Handler>({
     One(mnuFileClose, OnFileClose),
     One(mnuFileSave, modOpen::OnFileSave),
     One(mnuFileSaveAs, modOpen::OnFileSaveAs),
-    NotYet(mnuFilePrint),
+    One(mnuFilePrint, modPrint::OnFilePrint),
     Array(mnuFileMRU, 8, basMRU::OnFileMRU),
     One(mnuFileExit, OnFileExit),
     One(mnuEditCut, document::OnEditCut),
@@ -87,8 +90,8 @@ constexpr auto kHandlers = std::to_array<Handler>({
     Array(mnuOptTabsList, 6, options::OnTabLength),
     One(mnuOptWW, options::OnWordWrap),
     One(mnuOptFont, options::OnFonts),
-    NotYet(mnuHelpCont),
-    NotYet(mnuHelpAbout),
+    One(mnuHelpCont, help::OnHelpContents),
+    One(mnuHelpAbout, help::OnHelpAbout),
     One(mnuHelpOnline, OnHelpOnline),
     One(tbrFind, authoring::OnFind),
     One(tbrReplace, authoring::OnReplace),

@@ -5,8 +5,7 @@
 namespace {
 
 // The commands that no feature answers to yet, each by its caption. The list only ever gets shorter.
-constexpr const char* kMissing =
-    "Print,Upload File,Add A Site,Contents,About,Print,Help,";
+constexpr const char* kMissing = "Upload File,Add A Site,";
 
 class MenuTest : public AppTest {
  protected:
@@ -26,7 +25,7 @@ TEST_F(MenuTest, OnlyTheKnownCommandsAreMissing) {
         if (row.kind == win::MenuKind::item && !shell::IsAvailable(row.id))
             missing.append(row.caption).append(",");
     }
-    for (const shell::ToolButton& button : shell::kToolbar) {
+    for (const ToolButton& button : kToolbar) {
         if (!shell::IsAvailable(button.command)) missing.append(button.tip).append(",");
     }
     EXPECT_EQ(missing, kMissing);

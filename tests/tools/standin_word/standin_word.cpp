@@ -1,8 +1,9 @@
 // Stands in for the word processor that is driven as "Word.Basic": a COM server with one document.
 //   standin_word /register LOG [FAIL]   makes it the server of that name. It writes each call as a line to
 //   LOG,
-//                                       and call number FAIL, from 1, fails. "ask" for FAIL has its spelling
-//                                       dialog wait for an answer.
+//                                       and call number FAIL, from 1, fails. With "each" for FAIL it serves
+//                                       its callers one after the other, the n-th of whom sees the n-th call
+//                                       fail; with "ask" its spelling dialog waits for an answer.
 //   standin_word /unregister
 #include <windows.h>
 
@@ -27,6 +28,7 @@ struct Orders {
     std::string log;
     int failAt = 0;
     bool ask = false;
+    bool each = false;
 };
 
 std::string Bytes(const std::wstring& wide) {
@@ -59,9 +61,10 @@ class Word final : public IDispatch {
     ULONG STDMETHODCALLTYPE Release() override {
         const ULONG left = --references_;
         if (left == 0) {
+            const bool more = orders_.each && orders_.failAt < static_cast<int>(std::size(kMethods));
             log("released");
             delete this;
-            ::PostQuitMessage(0);
+            if (!more) ::PostQuitMessage(0);
         }
         return left;
     }
@@ -171,6 +174,7 @@ class Factory final : public IClassFactory {
     ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
     ULONG STDMETHODCALLTYPE Release() override { return 1; }
     HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown*, REFIID id, void** object) override {
+        if (orders_.each) ++orders_.failAt;
         auto* word = new Word(orders_);
         word->AddRef();
         const HRESULT result = word->QueryInterface(id, object);
@@ -191,7 +195,8 @@ int Serve(const Orders& orders) {
     ::CoInitialize(nullptr);
     Factory factory(orders);
     DWORD cookie = 0;
-    ::CoRegisterClassObject(kClass, &factory, CLSCTX_LOCAL_SERVER, REGCLS_SINGLEUSE, &cookie);
+    ::CoRegisterClassObject(kClass, &factory, CLSCTX_LOCAL_SERVER,
+                            orders.each ? REGCLS_MULTIPLEUSE : REGCLS_SINGLEUSE, &cookie);
     ::SetTimer(nullptr, 0, 60000, EndUnused);
     MSG message{};
     while (::GetMessageA(&message, nullptr, 0, 0) > 0) ::DispatchMessageA(&message);
@@ -229,7 +234,8 @@ int main(int argc, char** argv) {
     } else if (first == "/unregister") {
         Unregister();
     } else if (argc > 2) {
-        return Serve({first, std::atoi(argv[2]), std::string(argv[2]) == "ask"});
+        return Serve(
+            {first, std::atoi(argv[2]), std::string(argv[2]) == "ask", std::string(argv[2]) == "each"});
     } else {
         return 1;
     }
