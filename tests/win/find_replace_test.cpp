@@ -189,7 +189,7 @@ TEST_F(FindTest, BothDialogsGoWithAnyPageAndWithTheMainWindow) {
     EXPECT_FALSE(::IsWindow(replace));
     EXPECT_TRUE(pageHasFocus());
     const HWND again = open(tbrFind, "Find");
-    ::SendMessageA(main().mainHwnd(), WM_CLOSE, 0, 0);
+    closeMain();
     EXPECT_FALSE(::IsWindow(again));
 }
 
