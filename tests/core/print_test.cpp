@@ -1,0 +1,120 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "print/core/print_layout.h"
+#include "print/core/print_line.h"
+
+namespace {
+
+using modPrint::Measure;
+using modPrint::NextPrintLine;
+using Lines = std::vector<std::string>;
+
+// Every byte is ten twips wide.
+const Measure kTenATwip{[](std::string_view text) { return static_cast<int>(text.size()) * 10; }, {}};
+
+Lines Broken(std::string_view text, int width, const Measure& measure = kTenATwip, std::size_t likely = 80) {
+    Lines lines;
+    std::size_t position = 0;
+    while (const auto line = NextPrintLine(text, position, width, measure, likely)) lines.emplace_back(*line);
+    EXPECT_EQ(position, text.size());
+    return lines;
+}
+
+TEST(NextPrintLine, GivesEveryLineOfThePageEvenTheEmptyOnes) {
+    EXPECT_EQ(Broken("a\r\n\r\n\r\nb\r\n", 100), (Lines{"a", "", "", "b"}));
+    EXPECT_EQ(Broken("\r\na", 100), (Lines{"", "a"}));
+    EXPECT_EQ(Broken("a\nb\rc\r\rd\r\n\ne", 100), (Lines{"a", "b", "c", "", "d", "", "e"}));
+    EXPECT_EQ(Broken("", 100), Lines{});
+}
+
+TEST(NextPrintLine, BreaksAtTheLastBlankThatKeepsThePieceInTheWidth) {
+    for (const std::size_t likely : {1U, 7U, 80U}) {
+        EXPECT_EQ(Broken("one two three", 70, kTenATwip, likely), (Lines{"one two", "three"}));
+        EXPECT_EQ(Broken("one two three", 69, kTenATwip, likely), (Lines{"one", "two", "three"}));
+        EXPECT_EQ(Broken("one  two\r\nx", 40, kTenATwip, likely), (Lines{"one ", "two", "x"}));
+        EXPECT_EQ(Broken("abcd \r\nx", 40, kTenATwip, likely), (Lines{"abcd", "x"}));
+        EXPECT_EQ(Broken("abcd ", 40, kTenATwip, likely), (Lines{"abcd"}));
+    }
+}
+
+TEST(NextPrintLine, ATooWideWordLosesNothingAndAlwaysAdvances) {
+    EXPECT_EQ(Broken("to abcdefghij k", 40), (Lines{"to", "abcd", "efgh", "ij k"}));
+    EXPECT_EQ(Broken("abcdefgh\r\ni", 40), (Lines{"abcd", "efgh", "i"}));
+    EXPECT_EQ(Broken("ab\r\nc", 0), (Lines{"a", "b", "c"}));
+    EXPECT_EQ(Broken("a b", -5), (Lines{"a", "", "b"}));
+    const Measure doubleByte{kTenATwip.width, [](unsigned char c) { return c >= 0x81; }};
+    EXPECT_EQ(Broken("\x81z\x81z\x81z", 30, doubleByte), (Lines{"\x81z", "\x81z", "\x81z"}));
+    EXPECT_EQ(Broken("\x81z\x81", 5, doubleByte), (Lines{"\x81z", "\x81"}));
+}
+
+TEST(NextPrintLine, AMegabyteWithoutABlankIsMeasuredByTheLineOnly) {
+    std::size_t measured = 0;
+    const Measure counting{[&measured](std::string_view text) {
+                               measured += text.size();
+                               return static_cast<int>(text.size()) * 10;
+                           },
+                           {}};
+    const std::string text(1'000'000, 'x');
+    EXPECT_EQ(Broken(text, 1000, counting).size(), 10'000U);
+    EXPECT_LT(measured, 15 * text.size());
+}
+
+TEST(ExpandTabs, ReachTheNextColumn) {
+    EXPECT_EQ(modPrint::ExpandTabs("\ta\tbcd\te\r\n\tf", 4), "    a   bcd e\r\n    f");
+    EXPECT_EQ(modPrint::ExpandTabs("a\tb", 0), "a b");
+}
+
+struct Printed {
+    Lines tops;  // "page left top" of each line
+    Lines texts;
+};
+
+Printed Print(std::string_view text, std::string_view title, const modPrint::Paper& paper) {
+    modPrint::PrintLayout layout(text, title, paper, kTenATwip, 8);
+    Printed printed;
+    int page = 0;
+    while (const auto line = layout.next()) {
+        if (line->startsPage) ++page;
+        printed.tops.push_back(std::to_string(page) + " " + std::to_string(line->left) + " " +
+                               std::to_string(line->top));
+        printed.texts.emplace_back(line->text);
+    }
+    return printed;
+}
+
+TEST(PrintLayout, HeaderOnTheFirstPageAndTheBodyAtItsPlaceOnEach) {
+    // Three lines fit: tops 1440, 1640 and 1840 lie above 4000 - 2000, 2040 does not.
+    const Printed printed = Print("a\r\n\r\nc\r\nd\r\n", "C:\\p.htm", {1000, 4000, 200});
+    EXPECT_EQ(printed.texts, (Lines{"          C:\\p.htm", "a", "", "c", "d"}));
+    EXPECT_EQ(printed.tops, (Lines{"1 0 100", "1 780 1440", "1 780 1640", "1 780 1840", "2 780 1440"}));
+}
+
+TEST(PrintLayout, ALineThatReachesTheLimitExactlyStartsAPageAndAFullPageNoEmptyOne) {
+    EXPECT_EQ(Print("a\r\nb\r\nc", "", {1000, 3840, 200}).tops.back(), "2 780 1440");
+    EXPECT_EQ(Print("a\r\nb\r\n", "", {1000, 3840, 200}).tops.back(), "1 780 1640");
+    EXPECT_EQ(Print("a\r\nb", "", {1000, 10, 200}).tops, (Lines{"1 0 100", "1 780 1440", "2 780 1440"}));
+}
+
+TEST(PrintLayout, LeavesThirtyCharactersFreeAtTheRight) {
+    // A character is 10 wide: 500 - 300 leaves room for twenty.
+    EXPECT_EQ(Print(std::string(21, 'x'), "", {500, 9000, 200}).texts,
+              (Lines{std::string(10, ' '), std::string(20, 'x'), "x"}));
+    // Without metrics 2220 twips are kept free, and lines do not all fall on one another.
+    const Measure noMetrics{[](std::string_view text) { return text.size() == 10 ? 0 : 1000; }, {}};
+    modPrint::PrintLayout layout("ab\r\nc", "", {3219, 9000, 0}, noMetrics, 8);
+    EXPECT_EQ(layout.next()->text, std::string(10, ' '));
+    EXPECT_EQ(layout.next()->text, "a");
+    EXPECT_GT(layout.next()->top, 1440);
+}
+
+TEST(PrintLayout, AnEmptyTextPrintsNothingAndALongOneWhole) {
+    EXPECT_TRUE(Print("", "title", {1000, 4000, 200}).texts.empty());
+    std::string text;
+    for (int i = 0; i < 20'000; ++i) text += "line\r\n";
+    EXPECT_EQ(Print(text, "", {1000, 4000, 200}).texts.size(), 20'001U);
+}
+
+}  // namespace

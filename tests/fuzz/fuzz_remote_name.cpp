@@ -1,0 +1,67 @@
+// One byte for a buffer's size, then what a server might send: names and directories, one a line.
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "check.h"
+#include "ftp/core/local_name.h"
+#include "ftp/core/remote_listing.h"
+#include "ftp/core/remote_path.h"
+#include "ftp/core/scramble.h"
+#include "ftp/core/site_url.h"
+#include "ftp/core/transfer_type.h"
+
+namespace {
+
+void CheckLocalName(const std::string& remote, std::size_t bufferSize) {
+    const std::string name = ftp::ProposedLocalName(remote);
+    Check(!name.empty() && name.size() <= ftp::kMaxLocalName);
+    Check(name.find_first_of("<>\"/\\|?*:\x7F") == std::string::npos);
+    for (const char c : name) Check(static_cast<unsigned char>(c) >= 0x20);
+    Check(name.front() != ' ' && name.back() != '.' && name.back() != ' ');
+    Check(ftp::ProposedLocalName(name) == name);
+
+    std::vector<char> buffer(bufferSize, '?');
+    ftp::FillNameBuffer(buffer, remote);
+    Check(buffer.empty() || buffer.back() == '\0');
+}
+
+void CheckMoveUp(const std::string& current, const std::string& root) {
+    std::string directory = current;
+    for (std::size_t steps = 0;; ++steps) {
+        Check(steps <= current.size() + 2);
+        const auto above = ftp::DirectoryAbove(directory, root);
+        if (!above) return;
+        Check(above->size() >= root.size() || root.compare(0, above->size() + 1, *above + "/") != 0);
+        directory = *above;
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    if (size < 1) return 0;
+    const std::string input(reinterpret_cast<const char*>(data) + 1, size - 1);
+    ftp::RemoteListing listing;
+    std::string previous;
+    for (std::size_t start = 0; start <= input.size();) {
+        const std::size_t end = std::min(input.size(), input.find('\n', start));
+        const std::string name = input.substr(start, end - start);
+        start = end + 1;
+        CheckLocalName(name, data[0]);
+        CheckMoveUp(name, previous);
+        CheckMoveUp(ftp::JoinRemote("/" + previous, name), "/" + previous);
+        Check(ftp::ScramblePassword(ftp::ScramblePassword(name)) == name);
+        Check(ftp::SplitSiteUrl(name).host.find('/') == std::string::npos);
+        ftp::ChooseTransferType(ftp::TransferMode::automatic, name);
+        Check(listing.add(name, data[0]));
+        previous = name;
+    }
+    for (const std::string& line : listing.lines()) {
+        Check(!line.empty() && line.size() <= ftp::kMaxRemoteName + 1);
+        Check(line != "./" && line != "../" && ftp::NameOfLine(line) != ".." && ftp::NameOfLine(line) != ".");
+    }
+    return 0;
+}

@@ -1,0 +1,123 @@
+// Rows of a store in any state, then changes of the list, each of them stopped after any step.
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <set>
+#include <string>
+
+#include "../core/site_store.h"
+#include "check.h"
+
+namespace {
+
+using test::SiteStore;
+
+std::set<std::string> Urls(const SiteStore& store) {
+    std::set<std::string> urls;
+    for (const ftp::Site& site : ftp::ReadSites(store.read())) urls.insert(site.url);
+    return urls;
+}
+
+// A site's name and password are made from its address, unless a row is missing.
+void CheckPairs(const SiteStore& store) {
+    for (const ftp::Site& site : ftp::ReadSites(store.read())) {
+        Check(site.name.empty() || site.name == "n" + site.url);
+        Check(site.storedPassword.empty() || site.storedPassword == "p" + site.url);
+    }
+}
+
+void CheckMenu(const SiteStore& store) {
+    const auto menu = ftp::MenuRows(store.read());
+    Check(menu.size() <= static_cast<std::size_t>(ftp::kMaxMenuSites));
+    int checked = 0;
+    for (const ftp::MenuRow& row : menu) {
+        Check(row.index >= 0 && row.index < ftp::kMaxMenuSites && !row.caption.empty());
+        Check(ftp::FindSite(store.read(), row.index)->url == row.caption);
+        checked += row.checked ? 1 : 0;
+    }
+    Check(checked <= 1);
+}
+
+std::string MarkedUrl(const SiteStore& store) {
+    const auto mark = ftp::LastUsedIndex(store.read());
+    const auto site = mark ? ftp::FindSite(store.read(), *mark) : std::nullopt;
+    return site ? site->url : "";
+}
+
+// Every stop on the way must leave all sites that the whole change leaves.
+void ApplyInSteps(SiteStore& store, const ftp::SiteChanges& changes, const std::string& newUrl) {
+    SiteStore whole = store;
+    whole.apply(changes);
+    std::set<std::string> kept = Urls(whole);
+    kept.erase(newUrl);
+    for (const ftp::SiteChange& change : changes) {
+        store.apply(change);
+        CheckPairs(store);
+        const std::set<std::string> urls = Urls(store);
+        Check(std::includes(urls.begin(), urls.end(), kept.begin(), kept.end()));
+    }
+    CheckMenu(store);
+}
+
+void CheckOrder(const SiteStore& store) {
+    int index = 0;
+    for (const ftp::Site& site : ftp::ReadSites(store.read())) Check(site.index == index++);
+    Check(index <= ftp::kMaxSites);
+}
+
+void PutRow(SiteStore& store, unsigned key, unsigned sections) {
+    const std::string text = key < 110 ? std::to_string(key) : key < 200 ? "0" + std::to_string(key) : "x";
+    const std::string url = "u" + std::to_string(key);
+    if ((sections & 1U) != 0) store.sites()[text] = (sections & 8U) != 0 ? "" : url;
+    if ((sections & 2U) != 0) store.names()[text] = "n" + url;
+    if ((sections & 4U) != 0) store.passes()[text] = "p" + url;
+}
+
+void AddSite(SiteStore& store, const std::string& url) {
+    const std::string marked = MarkedUrl(store);
+    const ftp::SiteAddition addition = ftp::AddSite(store.read(), {0, url, "n" + url, "p" + url});
+    ApplyInSteps(store, addition.changes, url);
+    if (!addition.added) return Check(ftp::LastUsedIndex(store.read()) == std::nullopt);
+    CheckOrder(store);
+    Check(ftp::FindSite(store.read(), 0)->url == url);
+    if (!marked.empty()) Check(MarkedUrl(store) == marked || Urls(store).count(marked) == 0);
+    if (marked.empty() && Urls(store).size() > 1) Check(MarkedUrl(store).empty());
+}
+
+void RemoveSite(SiteStore& store, int index) {
+    const std::string marked = MarkedUrl(store);
+    const auto site = ftp::FindSite(store.read(), index);
+    const ftp::SiteChanges changes = ftp::RemoveSite(store.read(), index);
+    Check(changes.empty() == !site.has_value());
+    ApplyInSteps(store, changes, "");
+    if (!site) return;
+    CheckOrder(store);
+    const std::string now = MarkedUrl(store);
+    Check(now.empty() || now == marked || marked == site->url);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    SiteStore store;
+    std::size_t at = 0;
+    while (at + 1 < size && data[at] != 0xFF) {
+        PutRow(store, data[at], data[at + 1]);
+        at += 2;
+    }
+    store.names().erase("99");  // a name of no site; the mark comes from the changes
+    for (++at; at + 1 < size; at += 2) {
+        const unsigned value = data[at + 1];
+        switch (data[at] % 3) {
+            case 0:
+                AddSite(store, "new" + std::to_string(value));
+                break;
+            case 1:
+                RemoveSite(store, static_cast<int>(value % 100));
+                break;
+            default:
+                store.names()["99"] = value < 240 ? std::to_string(value % 16) : std::string("x", value % 2);
+        }
+    }
+    return 0;
+}
