@@ -16,3 +16,6 @@ set_source_files_properties(res/quillon.rc PROPERTIES OBJECT_DEPENDS "${resource
 
 add_executable(Quillon WIN32 src/main.cpp)
 target_link_libraries(Quillon PRIVATE quillon_app quillon_resources)
+if(MINGW AND CMAKE_SIZEOF_VOID_P EQUAL 4)
+    target_sources(Quillon PRIVATE cmake/mingw_tick_count.cpp)
+endif()

@@ -23,24 +23,27 @@ windows_path() {
     printf 'Z:%s' "${path//\//\\}"
 }
 
-# Runs one of Wine's Unix commands (wine, wineserver) for $prefix. HOME lies in the prefix so that
-# nothing, the trash included, reaches the user's own; the first override keeps Wine's programs out of
-# the user's menus, the second keeps Wine from asking for downloads.
+# Fills view with the words that run one of Wine's Unix commands (wine, wineserver) for $prefix. HOME
+# lies in the prefix so that nothing, the trash included, reaches the user's own; the first override
+# keeps Wine's programs out of the user's menus, the second keeps Wine from asking for downloads.
+set_view() {
+    view=(env WINEPREFIX="$prefix" WINEARCH=win32 WINEDEBUG="${WINEDEBUG--all}" LC_ALL=C.UTF-8
+        WINEDLLOVERRIDES='winemenubuilder.exe=d;mscoree,mshtml='
+        XAUTHORITY="${XAUTHORITY:-${HOME-}/.Xauthority}" HOME="$prefix/home")
+    [[ -d $wine_root ]] || return 0
+    # The command sees the i386 root's /usr in place of the machine's, and everything else, checkout,
+    # displays and ports included, as it is. The mounts end with it.
+    view+=(FONTCONFIG_PATH="$wine_root/etc/fonts" unshare --mount)
+    (( EUID == 0 )) || view+=(--map-current-user --keep-caps)
+    # shellcheck disable=SC2016
+    view+=(sh -c 'mount --bind "$0/etc/alternatives" /etc/alternatives &&
+                  mount --bind "$0/usr" /usr && exec "$@"' "$wine_root")
+}
+
 in_wine() {
-    local view=()
-    if [[ -d $wine_root ]]; then
-        # This process sees the i386 root's /usr in place of the machine's, and everything else,
-        # checkout, displays and ports included, as it is. The mounts end with the process.
-        view=(unshare --mount)
-        (( EUID == 0 )) || view+=(--map-current-user --keep-caps)
-        # shellcheck disable=SC2016
-        view+=(sh -c 'mount --bind "$0/etc/alternatives" /etc/alternatives &&
-                      mount --bind "$0/usr" /usr && exec "$@"' "$wine_root")
-    fi
-    env WINEPREFIX="$prefix" WINEARCH=win32 WINEDEBUG="${WINEDEBUG--all}" LC_ALL=C.UTF-8 \
-        WINEDLLOVERRIDES='winemenubuilder.exe=d;mscoree,mshtml=' \
-        XAUTHORITY="${XAUTHORITY:-${HOME:-/root}/.Xauthority}" HOME="$prefix/home" \
-        ${view:+FONTCONFIG_PATH="$wine_root/etc/fonts"} "${view[@]}" "$@"
+    local view
+    set_view
+    "${view[@]}" "$@"
 }
 
 # Makes $prefix if it is not there: a copy of the cache's, which takes Wine its 15 seconds once. The

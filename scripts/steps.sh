@@ -1,0 +1,59 @@
+# Sourced by test, after lib.sh: steps that run, are timed and are counted.
+# shellcheck shell=bash
+
+# shellcheck source=lib.sh
+[[ ${project-} ]] || source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
+results=$project/build/test
+
+# step NAME COMMAND...: runs the command, keeps its output, tells and keeps what came of it. A program of
+# GoogleTest's counts its tests, and one more failed when it ended badly or before its own summary; any
+# other command counts as one test.
+step() {
+    local name=$1 log=$results/$1.log start=$SECONDS code=0 passed=0 failed=0
+    shift
+    ("$@") >"$log" 2>&1 </dev/null || code=$?
+    if grep -q '^\[==========\] Running' "$log"; then
+        passed=$(grep -c '^\[       OK \]' "$log" || true)
+        failed=$(grep -cE '^\[  FAILED  \] .* \([0-9]+ ms\)' "$log" || true)
+        if ! grep -qE '^\[==========\].* ran\.' "$log" || (( code != 0 && failed == 0 )); then
+            failed=$((failed + 1))
+        fi
+    elif (( code == 0 )); then passed=1
+    else failed=1
+    fi
+    (( failed == 0 )) || tail -n 60 "$log" >&2
+    say "$(printf '%-18s %4d passed %3d failed %5d s' "$name" "$passed" "$failed" $((SECONDS - start)))"
+    printf '%d %d\n' "$passed" "$failed" >>"$results/counts"
+}
+
+# side_by_side FUNCTION...: runs the functions at the same time and waits for all of them. When this
+# script is stopped, so are they and what they started.
+side_by_side() {
+    local work
+    mkdir -p "$results"
+    rm -f "$results"/counts "$results"/*.log
+    started=()
+    trap 'for work in "${started[@]}"; do kill -- "-$work" 2>/dev/null || true; done' EXIT
+    trap 'exit 1' INT TERM
+    set -m  # each in a process group of its own
+    for work; do
+        "$work" &
+        started+=($!)
+    done
+    set +m
+    for work in "${started[@]}"; do
+        wait "$work" || { say "a part of the tests broke off"; echo 0 1 >>"$results/counts"; }
+    done
+    started=()
+}
+
+# Prints the sums as the last line; fails unless all passed and there was something to pass.
+report() {
+    local passed=0 failed=0 p f
+    while read -r p f; do
+        passed=$((passed + p)) failed=$((failed + f))
+    done <"$results/counts"
+    say "$SECONDS s in all; logs in $results"
+    echo "$passed passed, $failed failed"
+    (( failed == 0 && passed > 0 ))
+}
