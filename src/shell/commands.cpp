@@ -5,6 +5,8 @@
 #include "document/edit_commands.h"
 #include "files/basMRU.h"
 #include "files/modOpen.h"
+#include "ftp/core/site_list.h"
+#include "ftp/upload_commands.h"
 #include "shell/menu_table.h"
 #include "shell/shell_commands.h"
 
@@ -64,9 +66,9 @@ constexpr auto kHandlers = std::to_array<Handler>({
     NotYet(mnuTagsDate),
     NotYet(mnuScriptTags, 6),
     NotYet(mnuScriptDrops, 4),
-    NotYet(mnuUploadFile),
-    NotYet(mnuUploadSites, 13),
-    NotYet(mnuUploadSite),
+    One(mnuUploadFile, ftp::OnUploadFile),
+    Array(mnuUploadSites, ftp::kMaxMenuItems, ftp::OnUploadSites),
+    One(mnuUploadSite, ftp::OnUploadSite),
     NotYet(mnuOptDefOpenList, 4),
     NotYet(mnuOptDefSaveList, 4),
     NotYet(mnuOptsTempAdd),

@@ -6,6 +6,7 @@
 #include "files/basMRU.h"
 #include "files/modPubFuncs.h"
 #include "files/open_file.h"
+#include "ftp/site_store.h"
 #include "settings/app_settings.h"
 #include "shell/core/command_line.h"
 #include "shell/shell_commands.h"
@@ -55,6 +56,7 @@ void Load(MainWindow& main, const std::string& file) {
     modWndPos::MoveTo(main.mainHwnd(), kLeft, kTop);
     ::ShowWindow(main.mainHwnd(), SW_SHOWDEFAULT);
     try {
+        ftp::LoadSiteMenu(main);
         OpenStartDocument(main, file);
     } catch (const std::exception&) {
         win::ShowMessage(main.mainHwnd(),

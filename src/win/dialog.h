@@ -19,6 +19,8 @@ class Dialog {
     INT_PTR showModal(HWND owner);
     // Creates and shows the dialog. The object, made with new, deletes itself after the window.
     void showModeless(HWND owner);
+    // The same, not shown yet.
+    void createModeless(HWND owner);
 
  protected:
     // `templateName` is the name of the dialog template, which is the form's.

@@ -1,0 +1,663 @@
+#include "ftp/frmUpload.h"
+
+#include <exception>
+#include <utility>
+
+#include "document/frmChild.h"
+#include "files/modOpen.h"
+#include "files/modPubFuncs.h"
+#include "forms/frmUpload.h"
+#include "ftp/core/local_name.h"
+#include "ftp/core/remote_listing.h"
+#include "ftp/core/remote_path.h"
+#include "ftp/core/scramble.h"
+#include "ftp/core/site_url.h"
+#include "ftp/download.h"
+#include "ftp/frmConnect.h"
+#include "ftp/site_store.h"
+#include "win/input_box.h"
+#include "win/message_box.h"
+#include "win/message_loop.h"
+#include "win/modWndPos.h"
+#include "win/window.h"
+
+namespace {
+
+constexpr UINT kLoad = WM_APP;
+constexpr UINT kShowSite =
+    WM_APP + 1;  // wParam: a site's index; true when this window is to be the one for it
+constexpr UINT kDropped = WM_APP + 2;
+constexpr char kProperty[] = "frmUpload";  // of the main window: the FTP window while it is open
+constexpr char kPasswordHint[] = "ENTER PASSWORD HERE";
+
+constexpr int kSessionControls[] = {lstRemoteFiles, cmdUp,  cmdRefresh, cmdMakeDir,
+                                    cmdShut,        upType, upType + 1, upType + 2};
+constexpr int kLoginControls[] = {txtPassword, cmdPassword};
+
+}  // namespace
+
+// The window while it works: nothing in it can be clicked, the pointer shows it, and closing waits for the
+// end.
+class frmUpload::Busy {
+ public:
+    explicit Busy(frmUpload& form, const char* status = nullptr) : form_(form), focus_(::GetFocus()) {
+        if (form_.busy_++ == 0) form_.enableControls();
+        if (status) form_.showStatus(status);
+    }
+    ~Busy() {
+        if (form_.busy_ > 1) {
+            --form_.busy_;
+            return;
+        }
+        // What was clicked and typed meanwhile still finds the window at work, and comes to nothing.
+        win::RunPending();
+        form_.busy_ = 0;
+        form_.finishWork(focus_);
+    }
+    Busy(const Busy&) = delete;
+    Busy& operator=(const Busy&) = delete;
+
+ private:
+    frmUpload& form_;
+    HWND focus_;
+    win::WaitCursor cursor_;
+};
+
+class frmUpload::Drop final : public win::DropTarget {
+ public:
+    explicit Drop(const frmUpload& form) : form_(form) {}
+    std::optional<win::DroppedFiles> take() { return std::exchange(files_, std::nullopt); }
+
+ private:
+    bool isOpen() const override {
+        return form_.session_->isConnected() && form_.busy_ == 0 && ::IsWindowEnabled(form_.hwnd());
+    }
+    // The program that the files come from is not kept waiting for the server.
+    void onDrop(const std::optional<win::DroppedFiles>& files) override {
+        files_ = files;
+        ::PostMessageA(form_.hwnd(), kDropped, 0, 0);
+    }
+
+    const frmUpload& form_;
+    std::optional<win::DroppedFiles> files_;
+};
+
+void frmUpload::open(MainWindow& main, int siteIndex, ftp::SessionMaker makeSession) {
+    const auto shown = static_cast<HWND>(::GetPropA(main.mainHwnd(), kProperty));
+    if (shown && ::SendMessageA(shown, kShowSite, static_cast<WPARAM>(siteIndex), 0)) return;
+    const HWND connecting = frmConnect::open(main.mainHwnd());
+    win::RunPending();
+    if (!main.mainHwnd()) return;
+    auto* form = new frmUpload(main, siteIndex, connecting, makeSession);
+    form->createModeless(main.mainHwnd());
+    // As a message, because the object lasts as long as one of its handlers runs.
+    ::SendMessageA(form->hwnd(), kLoad, 0, 0);
+}
+
+frmUpload::frmUpload(MainWindow& main, int siteIndex, HWND connecting, ftp::SessionMaker makeSession)
+    : Dialog("frmUpload"),
+      main_(main),
+      siteIndex_(siteIndex),
+      connecting_(connecting),
+      session_(makeSession()),
+      drop_(std::make_unique<Drop>(*this)) {}
+
+frmUpload::~frmUpload() {
+    ftp::Wipe(password_);
+}
+
+bool frmUpload::onInit() {
+    lstRemoteFiles_.attach(item(lstRemoteFiles));
+    ::CheckRadioButton(hwnd(), upType, upType + 2, upType + 2);
+    drop_->attach(item(lstRemoteFiles));
+    ::SetPropA(main_.mainHwnd(), kProperty, hwnd());
+    showIdle();
+    return true;
+}
+
+void frmUpload::onClosing() {
+    unloadConnect();
+    drop_->detach();
+    session_->close();
+    modWndPos::DropTopmost(hwnd());
+    ::RemovePropA(main_.mainHwnd(), kProperty);
+    ::SetFocus(main_.mainHwnd());
+}
+
+void frmUpload::load() {
+    openSite();
+    if (!hwnd()) return;
+    win::RunPending();
+    if (!hwnd()) return;
+    notConnected = !session_->isConnected();
+    if (notConnected && noInfoNeeded) {
+        close();
+        return;
+    }
+    place();
+    ::ShowWindow(hwnd(), SW_SHOW);
+    focusItem(notConnected ? txtPassword : lstRemoteFiles);
+    win::RunPending();
+}
+
+void frmUpload::openSite() {
+    try {
+        const std::optional<ftp::Site> site = ftp::FindSite(ftp::ReadSections(), siteIndex_);
+        noInfoNeeded = !site || !site->storedPassword.empty();
+        if (!site) {
+            unloadConnect();
+            say("Must enter NEW FTP info before you can upload files.", "NO SITES LISTED");
+            return;
+        }
+        site_ = site->url;
+        user_ = site->name;
+        ReadPassword(site->storedPassword);
+    } catch (const std::exception&) {
+        noInfoNeeded = true;
+        unloadConnect();
+        say("Preset FTP settings not retrieved.\r\nMay need to set them from ADD A SITE menu.",
+            "NO SITE LOADED");
+        return;
+    }
+    if (password_.empty()) {
+        unloadConnect();
+        setItemText(txtPassword, kPasswordHint);
+    } else {
+        Connect();
+    }
+}
+
+void frmUpload::ReadPassword(const std::string& stored) {
+    password_ = ftp::ScramblePassword(stored);
+}
+
+void frmUpload::cmdPassword_Click() {
+    std::string typed = itemText(txtPassword);
+    if (typed.empty() || typed == kPasswordHint) {
+        say("Must enter PASSWORD to use FTP.", "NO PASSWORD GIVEN");
+        if (hwnd()) focusItem(txtPassword);
+        return;
+    }
+    password_ = typed;
+    ftp::Wipe(typed);
+    setItemText(txtPassword, "");
+    const Busy busy(*this);
+    showStatus("Connecting to " + site_);
+    Connect();
+}
+
+void frmUpload::Connect() {
+    const Busy busy(*this);
+    if (!session_->dial()) {
+        unloadConnect();
+        ::ShowWindow(hwnd(), SW_HIDE);
+        say("Could not connect to the internet through AutoDial.\r\n"
+            "Connect to Internet before attempting to use FTP.",
+            "NOT CONNECTED", MB_ICONINFORMATION);
+    }
+    if (isThere() && openSession() && isThere()) startInSiteDirectory();
+    ftp::Wipe(password_);
+}
+
+bool frmUpload::openSession() {
+    const char* failure = nullptr;
+    if (!session_->open()) {
+        failure = "Cannot obtain internet handle...";
+    } else if (!session_->connect(ftp::SplitSiteUrl(site_).host, user_, password_)) {
+        failure = "Cannot connect to FTP site...";
+    }
+    if (!failure) return true;
+    unloadConnect();
+    session_->close();
+    say(failure, "NOT CONNECTED");
+    if (hwnd()) close();
+    return false;
+}
+
+void frmUpload::startInSiteDirectory() {
+    const std::string path = ftp::SplitSiteUrl(site_).path;
+    if (!path.empty() && !session_->changeDirectory(path)) {
+        say("Cannot access Directory!", "Quillon Note:");
+        if (!isThere()) return;
+    }
+    root_ = session_->currentDirectory().value_or("/");
+    ListRemote();
+    if (!isThere()) return;
+    unloadConnect();
+    ftp::SaveLastSite(main_, siteIndex_, site_);
+    if (::IsWindowVisible(hwnd())) return;
+    place();
+    ::ShowWindow(hwnd(), SW_SHOW);
+}
+
+void frmUpload::CloseSession() {
+    session_->close();
+    current_.clear();
+    lstRemoteFiles_.clear();
+    idle_ = "NO SITE ACTIVE";
+    setItemText(txtPassword, kPasswordHint);
+    showIdle();
+    focusItem(txtPassword);
+}
+
+void frmUpload::ListRemote() {
+    const Busy busy(*this, "Listing Files...");
+    if (!isThere()) return;
+    const std::string selected = lstRemoteFiles_.selected();
+    const std::string before = std::exchange(current_, session_->currentDirectory().value_or(current_));
+    lstRemoteFiles_.clear();
+    ftp::RemoteListing listing;
+    auto entry = session_->findFirst("*");
+    while (entry && listing.add(entry->name, entry->attributes)) entry = session_->findNext();
+    session_->endFind();
+    listLines(listing.lines());
+    if (isThere() && current_ == before) lstRemoteFiles_.select(selected);
+}
+
+void frmUpload::listLines(const std::vector<std::string>& lines) {
+    // A server that has stopped to answer would be waited for once an entry.
+    bool probing = true;
+    for (const std::string& line : lines) {
+        const bool directory = probing && !ftp::IsDirectoryLine(line) && IsRemoteDirectory(line);
+        probing = probing && session_->answered();
+        lstRemoteFiles_.add(directory ? line + "/" : line);
+        win::RunPending();
+        if (!isThere()) return;
+    }
+}
+
+bool frmUpload::IsRemoteDirectory(const std::string& name) {
+    return session_->changeDirectory(ftp::JoinRemote(current_, name)) && session_->changeDirectory(current_);
+}
+
+void frmUpload::enterDirectory() {
+    const std::string line = lstRemoteFiles_.selected();
+    if (line.empty() || !ftp::OpensOnDoubleClick(line)) return;
+    bool entered = false;
+    {
+        const Busy busy(*this, "PROCESSING REQUEST...");
+        entered = isThere() && session_->changeDirectory(std::string(ftp::NameOfLine(line)));
+        if (entered) ListRemote();
+    }
+    if (isThere() && !entered) say("Cannot access Directory!", "Quillon Note:");
+}
+
+void frmUpload::cmdUpDir_Click() {
+    const std::optional<std::string> above = ftp::DirectoryAbove(current_, root_);
+    if (!above) return;
+    bool moved = false;
+    {
+        const Busy busy(*this, "PROCESSING REQUEST...");
+        moved = isThere() && session_->changeDirectory(*above);
+        if (moved) ListRemote();
+    }
+    if (isThere() && !moved) say("Cannot find it!", "Quillon Note:");
+}
+
+void frmUpload::cmdMakeDir_Click() {
+    const std::string name = win::AskText(hwnd(), "Enter a name for the New Directory", "NEW FOLDER");
+    if (name.empty() || !isThere()) return;
+    bool made = false;
+    {
+        const Busy busy(*this, "PROCESSING REQUEST...");
+        made = isThere() && session_->createDirectory(name);
+        if (made) ListRemote();
+    }
+    if (!isThere()) return;
+    if (made) {
+        lstRemoteFiles_.select(name + "/");
+        say("New Directory [ " + name + " ] successfully created.", "CONFIRMATION");
+    } else {
+        say("Could not create the Directory.", "DIRECTORY NOT MADE", MB_ICONEXCLAMATION);
+    }
+}
+
+void frmUpload::showMenu(POINT at) {
+    if (busy_ > 0 || !lstRemoteFiles_.findMenuPoint(at)) return;
+    const win::UniqueMenu menus(::LoadMenuA(::GetModuleHandleA(nullptr), "frmUpload"));
+    const int position = ftp::IsDirectoryLine(lstRemoteFiles_.selected()) ? 1 : 0;
+    ::TrackPopupMenu(::GetSubMenu(menus.get(), position), TPM_RIGHTBUTTON, at.x, at.y, 0, hwnd(), nullptr);
+}
+
+void frmUpload::checkSize(const std::string& name) {
+    std::optional<ftp::RemoteEntry> entry;
+    {
+        const Busy busy(*this, "PROCESSING REQUEST...");
+        if (isThere()) entry = session_->findFirst(name);
+        session_->endFind();
+    }
+    if (!isThere()) return;
+    if (entry) {
+        say("Approximately " + std::to_string(entry->size) + " Bytes", ("SIZE of " + name + " is:").c_str());
+    } else {
+        say("Could not retrieve requested information.");
+    }
+}
+
+void frmUpload::download(const std::string& name) {
+    const std::string path = modOpen::ChooseSavePath(main_, hwnd(), ftp::ProposedLocalName(name));
+    if (path.empty() || !isThere()) return;
+    bool done = false;
+    {
+        const Busy busy(*this, "Downloading.....");
+        done = isThere() && ftp::Download(*session_, name, path, transferType(name));
+    }
+    if (!isThere()) return;
+    if (done) {
+        say("Download of " + name + " is complete.", "TASK COMPLETE", MB_ICONINFORMATION);
+    } else {
+        say("Unable to download " + name + ".", "DOWNLOAD FAILURE", MB_ICONEXCLAMATION);
+    }
+}
+
+void frmUpload::renameFile(const std::string& name) {
+    const std::string newName = win::AskText(hwnd(), "Enter new file name below", "FILENAME CHANGE");
+    if (newName.empty() || !isThere()) return;
+    bool renamed = false;
+    {
+        const Busy busy(*this, "PROCESSING REQUEST...");
+        renamed = isThere() && session_->rename(name, newName);
+        if (renamed) ListRemote();
+    }
+    if (!isThere()) return;
+    if (renamed) {
+        lstRemoteFiles_.select(newName);
+        say("File has been Renamed", "CONFIRMATION");
+    } else {
+        say("Unable to rename file...", "NET GLITCH", MB_ICONEXCLAMATION);
+    }
+}
+
+void frmUpload::deleteFile(const std::string& name) {
+    if (say("Are you sure you want to delete " + name + " ?", "DELETION CONFIRMATION", MB_YESNO) != IDYES)
+        return;
+    if (!isThere()) return;
+    bool deleted = false;
+    {
+        const Busy busy(*this, "PROCESSING REQUEST...");
+        deleted = isThere() && session_->removeFile(name);
+        if (deleted) ListRemote();
+    }
+    if (!isThere()) return;
+    if (deleted) {
+        say("The File [ " + name + " ] was Deleted.", "DELETION CONFIRMATION");
+    } else {
+        say("Could not delete file", "FAILED TO DELETE", MB_ICONEXCLAMATION);
+    }
+}
+
+void frmUpload::mnuDirDelete_Click(const std::string& name) {
+    const std::string question = "Are you sure you want to delete the folder\r\n" + name + " ?";
+    if (say(question, "DELETION CONFIRMATION", MB_YESNO) != IDYES || !isThere()) return;
+    try {
+        removeDirectory(name);
+    } catch (const std::exception&) {
+        if (isThere()) say("There was a problem deleting " + name + ".", "DELETE DIFFICULTY");
+    }
+}
+
+void frmUpload::removeDirectory(const std::string& name) {
+    bool deleted = false;
+    {
+        const Busy busy(*this, "PROCESSING REQUEST...");
+        deleted = isThere() && session_->removeDirectory(std::string(ftp::NameOfLine(name)));
+        if (deleted) ListRemote();
+    }
+    if (!isThere()) return;
+    if (deleted) {
+        say("The Directory:\r\n[ " + name + " ]\r\nwas successfully Deleted.");
+    } else {
+        say("Could not delete file\r\n"
+            "A directory must be not contain any files in order to delete...\r\n"
+            "Are you sure this folder is empty?",
+            "FAILED TO DELETE");
+    }
+}
+
+void frmUpload::uploadDropped() {
+    try {
+        const std::optional<win::DroppedFiles> files = drop_->take();
+        if (!files) {
+            say("Unknown Object", "Quillon Note:");
+        } else if (session_->isConnected() && busy_ == 0) {
+            uploadAll(*files);
+        }
+    } catch (const std::exception&) {
+        if (isThere()) say("Could not upload files.");
+    }
+}
+
+void frmUpload::uploadAll(const win::DroppedFiles& files) {
+    const Busy busy(*this, "Uploading.....");
+    bool allDone = true;
+    for (const std::string& path : files) {
+        if (!isThere()) return;
+        allDone = UploadFile(path) && allDone;
+        win::RunPending();
+    }
+    if (isThere() && allDone && files.size() == 1) {
+        say("Upload of " + std::string(modPubFuncs::FileNameFromPath(files.front())) + " Complete");
+    } else if (isThere() && allDone) {
+        say("Uploading Completed.");
+    }
+    ListRemote();
+}
+
+bool frmUpload::UploadFile(const std::string& path) {
+    const std::string name(modPubFuncs::FileNameFromPath(path));
+    if (session_->put(path, ftp::JoinRemote(current_, name), transferType(name))) return true;
+    say("There was a problem uploading " + name + ".", "UPLOAD DIFFICULTY");
+    return false;
+}
+
+void frmUpload::cmdUp_Click() {
+    const frmChild* page = main_.activeDocument();
+    const std::string path = page ? page->Tag() : std::string();
+    if (!page) {
+        say("No file is currently open.", "NO FILE OPEN");
+    } else if (!modPubFuncs::FileExists(path)) {
+        say("The Current page SHOULD BE SAVED before uploading.", "PRECAUTION");
+    } else {
+        uploadDocument(path);
+    }
+}
+
+// Pages are text, so this one goes as text whatever the transfer mode says.
+void frmUpload::uploadDocument(const std::string& path) {
+    try {
+        const std::string name(modPubFuncs::FileNameFromPath(path));
+        bool done = false;
+        {
+            const Busy busy(*this, "Uploading.....");
+            done =
+                isThere() && session_->put(path, ftp::JoinRemote(current_, name), ftp::TransferType::ascii);
+            if (done) ListRemote();
+        }
+        if (!isThere()) return;
+        if (done) {
+            setItemText(txtCurDir, "Upload Complete");
+            say("Upload Complete");
+        } else {
+            say("Unable to upload the current file.", "UPLOAD FAILURE");
+        }
+    } catch (const std::exception&) {
+        if (isThere()) say("Error uploading", "ERROR");
+    }
+}
+
+ftp::TransferType frmUpload::transferType(const std::string& name) const {
+    const auto mode = isChecked(upType) ? ftp::TransferMode::binary : ftp::TransferMode::automatic;
+    return ftp::ChooseTransferType(mode, name);
+}
+
+int frmUpload::say(const std::string& text, const char* title, UINT style) const {
+    const HWND owner = ::IsWindowVisible(hwnd()) ? hwnd() : main_.mainHwnd();
+    return win::ShowMessage(owner, text, title, style);
+}
+
+void frmUpload::showStatus(const std::string& text) const {
+    setItemText(txtCurDir, text);
+    win::RunPending();
+}
+
+void frmUpload::showIdle() {
+    setItemText(txtCurDir, session_->isConnected() ? current_ : idle_);
+    enableControls();
+}
+
+void frmUpload::enableControls() const {
+    const bool idle = busy_ == 0;
+    const bool connected = session_->isConnected();
+    for (const int id : kSessionControls) enableItem(id, idle && connected);
+    for (const int id : kLoginControls) enableItem(id, idle && !connected);
+    enableItem(cmdUpDir, idle && connected && ftp::DirectoryAbove(current_, root_));
+}
+
+void frmUpload::finishWork(HWND focus) {
+    if (!hwnd()) return;
+    if (closeWanted_) {
+        close();
+        return;
+    }
+    showIdle();
+    // A control that was disabled has lost the keyboard.
+    if (::GetActiveWindow() != hwnd() || ::GetFocus()) return;
+    const int fallback = session_->isConnected() ? lstRemoteFiles : txtPassword;
+    ::SetFocus(::IsChild(hwnd(), focus) && ::IsWindowEnabled(focus) ? focus : item(fallback));
+}
+
+void frmUpload::unloadConnect() {
+    const HWND window = std::exchange(connecting_, nullptr);
+    if (window && ::IsWindow(window)) ::DestroyWindow(window);
+}
+
+void frmUpload::place() const {
+    modWndPos::MakeTopmost(hwnd());
+    const RECT main = modWndPos::RectInTwips(main_.mainHwnd());
+    const RECT own = modWndPos::RectInTwips(hwnd());
+    modWndPos::MoveTo(hwnd(), main.right - (own.right - own.left), main.top);
+}
+
+bool frmUpload::comeForward(int siteIndex) {
+    const bool occupied = busy_ > 0 || !::IsWindowEnabled(hwnd());
+    const std::optional<ftp::Site> site = ftp::FindSite(ftp::ReadSections(), siteIndex);
+    if (!occupied && !(session_->isConnected() && site && site->url == site_)) {
+        close();
+        return false;
+    }
+    ::SetForegroundWindow(::GetLastActivePopup(hwnd()));
+    return true;
+}
+
+bool frmUpload::showsHint() const {
+    if (::GetWindowTextLengthA(item(txtPassword)) != static_cast<int>(sizeof kPasswordHint) - 1) return false;
+    std::string text = itemText(txtPassword);
+    const bool hint = text == kPasswordHint;
+    ftp::Wipe(text);
+    return hint;
+}
+
+bool frmUpload::onPasswordField(WORD notification) {
+    const HWND field = item(txtPassword);
+    if (notification == EN_UPDATE) {
+        ::SendMessageA(field, EM_SETPASSWORDCHAR, showsHint() ? 0 : '*', 0);
+        ::InvalidateRect(field, nullptr, TRUE);
+    } else if (notification == EN_SETFOCUS && showsHint()) {
+        ::PostMessageA(field, EM_SETSEL, 0, -1);
+    }
+    return true;
+}
+
+bool frmUpload::runCommand(WORD id) {
+    const std::string line = lstRemoteFiles_.selected();
+    switch (id) {
+        case cmdUp:
+            cmdUp_Click();
+            return true;
+        case cmdRefresh:
+            ListRemote();
+            return true;
+        case cmdUpDir:
+            cmdUpDir_Click();
+            return true;
+        case cmdMakeDir:
+            cmdMakeDir_Click();
+            return true;
+        case cmdPassword:
+            cmdPassword_Click();
+            return true;
+        case cmdShut:
+            CloseSession();
+            return true;
+        default:
+            return !line.empty() && runMenu(id, line);
+    }
+}
+
+bool frmUpload::runMenu(WORD id, const std::string& line) {
+    switch (id) {
+        case mnuRClist:
+            checkSize(line);
+            return true;
+        case mnuRClist + 2:
+            download(line);
+            return true;
+        case mnuRClist + 3:
+            renameFile(line);
+            return true;
+        case mnuRClist + 5:
+            deleteFile(line);
+            return true;
+        case mnuDirDelete:
+            mnuDirDelete_Click(line);
+            return true;
+        default:
+            return false;
+    }
+}
+
+bool frmUpload::onCommand(WORD id, WORD notification) {
+    if (id == txtPassword) return onPasswordField(notification);
+    if (busy_ > 0) {
+        if (id == IDCANCEL) closeWanted_ = true;
+        return true;
+    }
+    if (id == lstRemoteFiles) {
+        if (notification == LBN_DBLCLK) enterDirectory();
+        return true;
+    }
+    // The Enter key: there is no default button, what it means depends on where the focus is.
+    if (id == IDOK) {
+        if (::GetFocus() == item(lstRemoteFiles)) enterDirectory();
+        if (::GetFocus() == item(txtPassword)) cmdPassword_Click();
+        return true;
+    }
+    return notification == BN_CLICKED && runCommand(id);
+}
+
+INT_PTR frmUpload::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case kLoad:
+            load();
+            return TRUE;
+        case kShowSite: {
+            const bool stays = comeForward(static_cast<int>(wParam));
+            if (stays) ::SetWindowLongPtrA(hwnd(), DWLP_MSGRESULT, TRUE);
+            return stays;
+        }
+        case kDropped:
+            uploadDropped();
+            return TRUE;
+        case WM_CONTEXTMENU:
+            if (reinterpret_cast<HWND>(wParam) != item(lstRemoteFiles)) return FALSE;
+            showMenu({static_cast<SHORT>(LOWORD(lParam)), static_cast<SHORT>(HIWORD(lParam))});
+            return TRUE;
+        case WM_SETCURSOR:
+            if (busy_ == 0) return FALSE;
+            ::SetCursor(::LoadCursorA(nullptr, IDC_WAIT));
+            ::SetWindowLongPtrA(hwnd(), DWLP_MSGRESULT, TRUE);
+            return TRUE;
+        default:
+            return FALSE;
+    }
+}
