@@ -6,6 +6,7 @@
 
 using Command = std::uint16_t;
 
+// clang-format off
 enum : Command {
     mnuFile = 0x0100, mnuFileNew, mnuFileOpen, mnuFileClose, mnuFileSep1, mnuFileSave, mnuFileSaveAs,
     mnuFilePrint, mnuFileSep2, mnuFileSep3, mnuFileExit,
@@ -63,3 +64,4 @@ enum : Command {
     windowList = 0x1000,
     mdiChildren = 0xC000,
 };
+// clang-format on

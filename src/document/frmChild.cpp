@@ -18,8 +18,10 @@ constexpr float kDefaultPoints = 10;
 
 document::Font StoredFont() {
     const CRegSettings settings;
-    document::Font font{settings.GetRegSetting("font preferences", "font_Face", kDefaultFace), kDefaultPoints};
-    const float points = std::strtof(settings.GetRegSetting("font preferences", "font_Size").c_str(), nullptr);
+    document::Font font{settings.GetRegSetting("font preferences", "font_Face", kDefaultFace),
+                        kDefaultPoints};
+    const float points =
+        std::strtof(settings.GetRegSetting("font preferences", "font_Size").c_str(), nullptr);
     if (points >= 1 && points <= 400) font.points = points;
     return font;
 }
@@ -56,8 +58,9 @@ class frmChild::Pad : public document::RichEdit {
                 return 0;
             }
             case WM_CONTEXTMENU:
-                document::ShowEditMenu(page_, page_.main_,
-                                       {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))});
+                document::ShowEditMenu(
+                    page_, page_.main_,
+                    {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))});
                 return 0;
             default:
                 break;
@@ -202,7 +205,8 @@ LRESULT frmChild::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             if (txtPad_) focusPage();
             return 0;
         case WM_NOTIFY:
-            if (reinterpret_cast<const NMHDR*>(lParam)->code == EN_SELCHANGE && main_.activeDocument() == this) {
+            if (reinterpret_cast<const NMHDR*>(lParam)->code == EN_SELCHANGE &&
+                main_.activeDocument() == this) {
                 showLine();
             }
             return 0;

@@ -11,8 +11,8 @@ namespace files {
 struct FileDialog {
     HWND owner = nullptr;
     const char* title = "";
-    const char* filters = "";    // pairs of caption and pattern, each ended by a NUL, an empty one at the end
-    DWORD filterIndex = 0;       // from 1; 0 shows the first
+    const char* filters = "";  // pairs of caption and pattern, each ended by a NUL, an empty one at the end
+    DWORD filterIndex = 0;     // from 1; 0 shows the first
     std::string proposedName;
     std::string folder;
     const char* extension = nullptr;  // added to a name typed without one

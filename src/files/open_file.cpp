@@ -12,8 +12,7 @@ frmChild* OpenFile(MainWindow& main, const std::string& path) {
     const auto bytes = mBinOpen::ReadFileBinary(path);
     // Reading lets messages through: the program may be closing, or the file may be open by now.
     if (!bytes || !main.mainHwnd() || modPubFuncs::IsFileOpen(main, path)) return nullptr;
-    frmChild& page =
-        frmChild::open(main, std::string(modPubFuncs::FileNameFromPath(path)), *bytes);
+    frmChild& page = frmChild::open(main, std::string(modPubFuncs::FileNameFromPath(path)), *bytes);
     page.setTag(path);
     return &page;
 }

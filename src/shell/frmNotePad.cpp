@@ -58,9 +58,10 @@ void frmNotePad::createParts() {
     ::SetMenu(hwnd(), menu_.handle());
     menu_.attach(hwnd());
     CLIENTCREATESTRUCT client{nullptr, mdiChildren};
-    mdiClient_ = win::Check(::CreateWindowExA(
-        WS_EX_CLIENTEDGE, "MDICLIENT", nullptr, WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_HSCROLL | WS_VSCROLL, 0,
-        0, 0, 0, hwnd(), nullptr, ::GetModuleHandleA(nullptr), &client));
+    mdiClient_ =
+        win::Check(::CreateWindowExA(WS_EX_CLIENTEDGE, "MDICLIENT", nullptr,
+                                     WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_HSCROLL | WS_VSCROLL, 0, 0,
+                                     0, 0, hwnd(), nullptr, ::GetModuleHandleA(nullptr), &client));
     Picture2_ = &shell::Toolbar::open(hwnd(), [this](int index) { clickTool(index); });
     Picture3_ = &shell::StatusStrip::open(hwnd());
     enableNew(false);
@@ -79,8 +80,9 @@ void frmNotePad::layOut() const {
 
 frmChild* frmNotePad::activeDocument() const {
     const auto active = reinterpret_cast<HWND>(::SendMessageA(mdiClient_, WM_MDIGETACTIVE, 0, 0));
-    const auto found = std::find_if(documents_.begin(), documents_.end(),
-                                    [active](const frmChild* document) { return document->hwnd() == active; });
+    const auto found = std::find_if(documents_.begin(), documents_.end(), [active](const frmChild* document) {
+        return document->hwnd() == active;
+    });
     return found == documents_.end() ? nullptr : *found;
 }
 
@@ -101,7 +103,8 @@ void frmNotePad::showLine(long line) {
 void frmNotePad::enableNew(bool state) {
     menu_.setDocumentOpen(state);
     for (int index = 0; index < static_cast<int>(shell::kToolbar.size()); ++index) {
-        const bool needsDocument = index >= shell::kFirstDocumentButton && index <= shell::kLastDocumentButton;
+        const bool needsDocument =
+            index >= shell::kFirstDocumentButton && index <= shell::kLastDocumentButton;
         const Command command = shell::kToolbar[static_cast<std::size_t>(index)].command;
         Picture2_->enableButton(index, shell::IsAvailable(command) && (state || !needsDocument));
     }
@@ -159,7 +162,8 @@ void frmNotePad::refreshWindowList() {
 void frmNotePad::run(Command command) {
     if (command >= windowList && command < windowList + documents_.size()) {
         const HWND chosen = documents_[static_cast<std::size_t>(command - windowList)]->hwnd();
-        if (::IsIconic(chosen)) ::SendMessageA(mdiClient_, WM_MDIRESTORE, reinterpret_cast<WPARAM>(chosen), 0);
+        if (::IsIconic(chosen))
+            ::SendMessageA(mdiClient_, WM_MDIRESTORE, reinterpret_cast<WPARAM>(chosen), 0);
         ::SendMessageA(mdiClient_, WM_MDIACTIVATE, reinterpret_cast<WPARAM>(chosen), 0);
     } else if (command < windowList) {
         shell::Run(*this, command);

@@ -176,7 +176,7 @@ inline constexpr auto kExtraKeys = std::to_array<MenuRow>({
 });
 
 struct ToolButton {
-    const char* tip;      // tool tip and window text
+    const char* tip;  // tool tip and window text
     Command command;
     const char* picture;  // name of the icon resource
 };

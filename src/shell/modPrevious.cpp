@@ -49,9 +49,8 @@ void PressKey(WORD virtualKey) {
 // As characters and not as keys, so that no layout and no sign with a meaning of its own changes the path.
 void TypeText(const std::string& text) {
     std::wstring wide(text.size(), L'\0');
-    wide.resize(static_cast<std::size_t>(::MultiByteToWideChar(CP_ACP, 0, text.data(),
-                                                               static_cast<int>(text.size()), wide.data(),
-                                                               static_cast<int>(wide.size()))));
+    wide.resize(static_cast<std::size_t>(::MultiByteToWideChar(
+        CP_ACP, 0, text.data(), static_cast<int>(text.size()), wide.data(), static_cast<int>(wide.size()))));
     std::vector<INPUT> keys;
     for (const wchar_t c : wide) {
         INPUT key{};
@@ -96,7 +95,8 @@ std::string PathForOther(const std::string& commandLine) {
 }  // namespace
 
 InstanceMark::InstanceMark()
-    : mutex_(::CreateMutexA(nullptr, FALSE, "Quillon.Instance")), first_(::GetLastError() != ERROR_ALREADY_EXISTS) {}
+    : mutex_(::CreateMutexA(nullptr, FALSE, "Quillon.Instance")),
+      first_(::GetLastError() != ERROR_ALREADY_EXISTS) {}
 
 HWND FindWindowLike(const std::string& titlePattern, const std::string& classPattern, HWND start) {
     HWND window = ::GetWindow(start ? start : ::GetDesktopWindow(), GW_CHILD);
@@ -109,7 +109,7 @@ HWND FindWindowLike(const std::string& titlePattern, const std::string& classPat
 
 bool ActivateWindow(HWND window) {
     const HWND front = ::GetForegroundWindow();
-    if (window == front) return true;
+    if (window == front && !::IsIconic(window)) return true;
     const DWORD frontThread = ::GetWindowThreadProcessId(front, nullptr);
     const DWORD thread = ::GetWindowThreadProcessId(window, nullptr);
     // The system lets only the thread that has the foreground give it away.

@@ -29,8 +29,9 @@ int StatusStrip::height() {
 
 HWND StatusStrip::makeLabel(const char* text, DWORD style) const {
     // Names of files are shown as they are, so "&" has no meaning of its own.
-    const HWND label = win::Check(::CreateWindowExA(0, "STATIC", text, WS_CHILD | WS_VISIBLE | SS_NOPREFIX | style,
-                                                    0, 0, 0, 0, hwnd(), nullptr, ::GetModuleHandleA(nullptr), nullptr));
+    const HWND label =
+        win::Check(::CreateWindowExA(0, "STATIC", text, WS_CHILD | WS_VISIBLE | SS_NOPREFIX | style, 0, 0, 0,
+                                     0, hwnd(), nullptr, ::GetModuleHandleA(nullptr), nullptr));
     ::SendMessageA(label, WM_SETFONT, reinterpret_cast<WPARAM>(font_.get()), FALSE);
     return label;
 }
@@ -41,7 +42,8 @@ void StatusStrip::layOut() const {
     const int margin = win::Scaled(kMargin);
     const int lineNo = std::min<int>(win::Scaled(kLineNoWidth), area.right / 2);
     const int height = area.bottom - 2 * margin;
-    ::MoveWindow(lblResults_, 2 * margin, margin, std::max<int>(0, area.right - lineNo - 4 * margin), height, TRUE);
+    ::MoveWindow(lblResults_, 2 * margin, margin, std::max<int>(0, area.right - lineNo - 4 * margin), height,
+                 TRUE);
     ::MoveWindow(lblLineNo_, area.right - lineNo - margin, margin, lineNo, height, TRUE);
 }
 

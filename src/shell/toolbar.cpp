@@ -34,16 +34,17 @@ int Toolbar::height() {
 
 void Toolbar::makeButtons() {
     const HINSTANCE instance = ::GetModuleHandleA(nullptr);
-    const HWND tips = ::CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP, 0, 0, 0, 0,
-                                        hwnd(), nullptr, instance, nullptr);
+    const HWND tips = ::CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP, 0,
+                                        0, 0, 0, hwnd(), nullptr, instance, nullptr);
     const int picture = win::Scaled(kPicture);
     const int size = win::Scaled(kButton);
     int left = win::Scaled(kMargin);
     for (std::size_t i = 0; i < kToolbar.size(); ++i) {
         if (BeginsGroup(i)) left += win::Scaled(kGap);
-        Picture1_[i] = win::Check(::CreateWindowExA(
-            0, "BUTTON", kToolbar[i].tip, WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW, left, win::Scaled(kMargin), size,
-            size, hwnd(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(i)), instance, nullptr));
+        Picture1_[i] = win::Check(
+            ::CreateWindowExA(0, "BUTTON", kToolbar[i].tip, WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW,
+                              left, win::Scaled(kMargin), size, size, hwnd(),
+                              reinterpret_cast<HMENU>(static_cast<INT_PTR>(i)), instance, nullptr));
         pictures_[i].reset(static_cast<HICON>(
             ::LoadImageA(instance, kToolbar[i].picture, IMAGE_ICON, picture, picture, LR_DEFAULTCOLOR)));
         if (tips) addTip(tips, Picture1_[i], kToolbar[i].tip);
@@ -71,8 +72,8 @@ void Toolbar::draw(const DRAWITEMSTRUCT& item) const {
     const int shift = pressed ? 1 : 0;
     const int left = (area.right - picture) / 2 + shift;
     const int top = (area.bottom - picture) / 2 + shift;
-    ::DrawStateA(item.hDC, nullptr, nullptr, reinterpret_cast<LPARAM>(pictures_[item.CtlID].get()), 0, left, top,
-                 picture, picture, static_cast<UINT>(DST_ICON) | (disabled ? DSS_DISABLED : DSS_NORMAL));
+    ::DrawStateA(item.hDC, nullptr, nullptr, reinterpret_cast<LPARAM>(pictures_[item.CtlID].get()), 0, left,
+                 top, picture, picture, static_cast<UINT>(DST_ICON) | (disabled ? DSS_DISABLED : DSS_NORMAL));
     if (item.itemState & ODS_FOCUS) {
         ::InflateRect(&area, -2, -2);
         ::DrawFocusRect(item.hDC, &area);

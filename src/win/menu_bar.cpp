@@ -128,8 +128,7 @@ void MenuBar::applyState(const Entry& entry) {
     if (!entry.shown || IsSeparator(*entry.row)) return;
     const auto at = static_cast<UINT>(position(entry));
     const bool enabled = entry.enabled && (documentOpen_ || !entry.needsDocument);
-    ::EnableMenuItem(entry.parent, at,
-                     static_cast<UINT>(MF_BYPOSITION) | (enabled ? MF_ENABLED : MF_GRAYED));
+    ::EnableMenuItem(entry.parent, at, static_cast<UINT>(MF_BYPOSITION) | (enabled ? MF_ENABLED : MF_GRAYED));
     if (entry.popup) return;
     ::CheckMenuItem(entry.parent, at,
                     static_cast<UINT>(MF_BYPOSITION) | (entry.checked ? MF_CHECKED : MF_UNCHECKED));

@@ -15,14 +15,15 @@ enum class MenuKind : std::uint8_t { item, popup, separator, hidden, hiddenSepar
 
 struct MenuRow {
     std::uint16_t id;
-    std::uint8_t level;    // 0 on the bar; a popup's items are the following rows of a higher level
+    std::uint8_t level;  // 0 on the bar; a popup's items are the following rows of a higher level
     const char* caption;
-    const char* shortcut;  // "F2", "Ctrl+P" or empty
-    Needs needs = Needs::nothing;  // a popup's need holds for all below it
+    const char* shortcut;            // "F2", "Ctrl+P" or empty
+    Needs needs = Needs::nothing;    // a popup's need holds for all below it
     MenuKind kind = MenuKind::item;  // a hidden one is not there until show()
 };
 
-// The accelerator table of a menu's shortcuts. Text that is no "F1" to "F24" or "Ctrl+" and a letter has none.
+// The accelerator table of a menu's shortcuts. Text that is no "F1" to "F24" or "Ctrl+" and a letter has
+// none.
 std::vector<ACCEL> Accelerators(std::span<const MenuRow> rows);
 
 class MenuBar {

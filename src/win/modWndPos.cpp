@@ -17,8 +17,8 @@ void DropTopmost(HWND window) {
 RECT RectInTwips(HWND window) {
     RECT rect{};
     ::GetWindowRect(window, &rect);
-    return {win::TwipsFromPixels(rect.left), win::TwipsFromPixels(rect.top),
-            win::TwipsFromPixels(rect.right), win::TwipsFromPixels(rect.bottom)};
+    return {win::TwipsFromPixels(rect.left), win::TwipsFromPixels(rect.top), win::TwipsFromPixels(rect.right),
+            win::TwipsFromPixels(rect.bottom)};
 }
 
 void MoveTo(HWND window, int leftTwips, int topTwips) {

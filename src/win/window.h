@@ -47,8 +47,8 @@ class Window {
     LRESULT dispatch(UINT message, WPARAM wParam, LPARAM lParam);
 
     HWND hwnd_ = nullptr;
-    int depth_ = 0;       // handlers of this object on the stack
-    bool dead_ = false;   // WM_NCDESTROY has passed
+    int depth_ = 0;      // handlers of this object on the stack
+    bool dead_ = false;  // WM_NCDESTROY has passed
 };
 
 // The text of any window of this process, of any length.

@@ -6,8 +6,8 @@
 
 namespace shell {
 
-// What follows the program's name, which may stand in double quotes, without the blanks around it. The text is
-// one path; quotes in it are part of it.
+// What follows the program's name, which may stand in double quotes, without the blanks around it. The text
+// is one path; quotes in it are part of it.
 std::string TextAfterProgramName(std::string_view commandLine);
 
 }  // namespace shell

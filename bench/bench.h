@@ -1,0 +1,33 @@
+// Measuring our way of doing a thing beside another way, in the same run.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "main_window.h"
+
+namespace bench {
+
+// Milliseconds that the middle one of `runs` runs takes.
+double Median(int runs, const std::function<void()>& run);
+
+// Runs the two by turns, so that both meet the same state of the machine, and prints their middle times and
+// the ratio beside the one that is aimed at. `prepare` runs before each of either, untimed.
+void Compare(const std::string& what, double aim, int runs, const std::function<void()>& ours,
+             const std::function<void()>& theirs, const std::function<void()>& prepare = {});
+
+// One line of the table.
+void Print(const std::string& what, double ours, double theirs, double aim);
+
+// An HTML page of about this many bytes.
+std::string Page(std::size_t bytes);
+
+// A path in the folder for what the benchmark writes.
+std::string Scratch(const std::string& name);
+void WriteFile(const std::string& path, const std::string& bytes);
+
+// The parts of the benchmark.
+void Start();
+void OpenAndSave(MainWindow& main);
+
+}  // namespace bench

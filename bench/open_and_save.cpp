@@ -1,0 +1,78 @@
+// Opening and saving a page, beside what the bare control and the file system need.
+#include <algorithm>
+#include <cstring>
+#include <string_view>
+
+#include "bench.h"
+#include "document/frmChild.h"
+#include "files/modOpen.h"
+#include "files/open_file.h"
+#include "files/replace_file.h"
+#include "win/error.h"
+#include "win/wide_path.h"
+
+namespace bench {
+namespace {
+
+DWORD CALLBACK Feed(DWORD_PTR cookie, LPBYTE buffer, LONG size, LONG* done) {
+    auto& rest = *reinterpret_cast<std::string_view*>(cookie);
+    const std::size_t count = std::min(rest.size(), static_cast<std::size_t>(size));
+    std::memcpy(buffer, rest.data(), count);
+    rest.remove_prefix(count);
+    *done = static_cast<LONG>(count);
+    return 0;
+}
+
+void BareControl(HWND parent, const std::string& page) {
+    const HWND control = win::Check(::CreateWindowExA(
+        0, "RICHEDIT", "", WS_CHILD | WS_VISIBLE | WS_HSCROLL | WS_VSCROLL | ES_MULTILINE | ES_AUTOHSCROLL, 0,
+        40, 400, 300, parent, nullptr, nullptr, nullptr));
+    ::SendMessageA(control, EM_EXLIMITTEXT, 0, 0x7FFFFFFE);
+    ::SendMessageA(control, EM_SETTARGETDEVICE, 0, 1);
+    std::string_view rest = page;
+    EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&rest), 0, Feed};
+    ::SendMessageA(control, EM_STREAMIN, SF_TEXT, reinterpret_cast<LPARAM>(&stream));
+    ::DestroyWindow(control);
+}
+
+void OpenAndClose(MainWindow& main, const std::string& path) {
+    ::SendMessageA(files::OpenFile(main, path)->hwnd(), WM_CLOSE, 0, 0);
+}
+
+void Save(MainWindow& main, const std::string& path) {
+    if (!modOpen::SaveDocument(main, main.activeDocument()->id(), path))
+        throw std::runtime_error("The save failed.");
+}
+
+}  // namespace
+
+void OpenAndSave(MainWindow& main) {
+    const std::string one = Scratch("one.htm");
+    const std::string four = Scratch("four.htm");
+    const std::string page = Page(1000000);
+    WriteFile(one, page);
+    WriteFile(four, Page(4000000));
+    OpenAndClose(main, one);
+    Compare(
+        "opening 1 MB, beside the bare control streaming it", 1.15, 5, [&] { OpenAndClose(main, one); },
+        [&] { BareControl(main.mainHwnd(), page); });
+
+    frmChild& large = *files::OpenFile(main, four);
+    const double largeSave = Median(7, [&] { Save(main, four); });
+    ::SendMessageA(large.hwnd(), WM_CLOSE, 0, 0);
+    frmChild& small = *files::OpenFile(main, one);
+    Compare(
+        "saving 1 MB, beside reading the control and writing a file", 2.0, 15, [&] { Save(main, one); },
+        [&] {
+            files::FileCalls calls;
+            const HANDLE file =
+                calls.create(win::WidePath(Scratch("plain.htm")), GENERIC_WRITE, CREATE_ALWAYS);
+            calls.write(file, small.txtPad().text());
+            calls.flush(file);
+            calls.close(file);
+        });
+    Print("saving 4 MB, beside saving 1 MB", largeSave, Median(7, [&] { Save(main, one); }), 4.5);
+    ::SendMessageA(small.hwnd(), WM_CLOSE, 0, 0);
+}
+
+}  // namespace bench

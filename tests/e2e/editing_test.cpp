@@ -1,0 +1,113 @@
+#include <random>
+
+#include "e2e/quillon.h"
+
+namespace {
+
+class EditingTest : public QuillonTest {};
+
+std::string RealPage(std::size_t size) {
+    std::string page = "<HTML>\r\n<BODY>\r\n";
+    for (int line = 0; page.size() < size; ++line) {
+        page += "<P>Line " + std::to_string(line) + ": caf\xE9 &amp; <B>bread</B>,\ttwo  blanks.</P>\r\n";
+    }
+    return page + "</BODY>\r\n</HTML>";
+}
+
+TEST_F(EditingTest, APageIsOpenedEditedAndSaved) {
+    const std::string page = RealPage(200000);
+    writeFile(scratch("my page.htm"), page);
+    Quillon quillon(scratch("my page.htm"));
+    EXPECT_EQ(quillon.pageCaption(), "my page.htm");
+    EXPECT_EQ(quillon.pageText(), page);
+    EXPECT_TRUE(quillon.shows("Current Line No: 1"));
+    quillon.typeText("<!-- x -->");
+    quillon.pressKey(VK_TAB);
+    quillon.pressKey(VK_BACK);
+    quillon.pressKey('Z');
+    ASSERT_TRUE(seen::Until([&] { return quillon.pageText() == "<!-- x -->z" + page; }));
+    quillon.pressKey('S', true);
+    EXPECT_TRUE(quillon.shows("Saved :  " + scratch("my page.htm")));
+    EXPECT_EQ(readFile(scratch("my page.htm")), "<!-- x -->z" + page + "\r\n");
+    ::PostMessageA(quillon.window(), WM_CLOSE, 0, 0);
+    EXPECT_TRUE(quillon.waitForEnd()) << "nothing is left to ask about";
+}
+
+TEST_F(EditingTest, FunctionKeysWorkAndExitAsksOncePerChangedPage) {
+    Quillon quillon;
+    EXPECT_EQ(quillon.pageCaption(), "Untitled1");
+    quillon.typeText("a");
+    quillon.pressKey(VK_F2);
+    ASSERT_TRUE(seen::Until([&] { return quillon.pageCaption() == "Untitled2"; }));
+    quillon.typeText("b");
+    quillon.pressKey('N', true);
+    ASSERT_TRUE(seen::Until([&] { return quillon.pageCaption() == "Untitled3"; }));
+    quillon.pressKey(VK_F5);
+    const std::string question =
+        " has changed since last saved...(or has not yet been saved.)\r\n\r\n"
+        "                     Would you like to save that file now?\r\n\r\n";
+    EXPECT_EQ(quillon.answer("Quillon", IDNO), "UNTITLED1" + question);
+    EXPECT_EQ(quillon.answer("Quillon", IDYES), "UNTITLED2" + question);
+    quillon.chooseFile("Save File As...", scratch("second.htm"));
+    EXPECT_TRUE(quillon.waitForEnd());
+    EXPECT_EQ(readFile(scratch("second.htm")).substr(0, 7), "b<HTML>");
+}
+
+TEST_F(EditingTest, ASecondStartHandsItsFileOver) {
+    const std::string name = scratch("[b] c ~+%^{d} caf\xE9.htm");
+    writeFile(name, "handed over");
+    Quillon first;
+    Quillon second(name, false);
+    EXPECT_TRUE(second.waitForEnd());
+    EXPECT_TRUE(seen::Until([&] { return first.pages().size() == 2 && first.pageText() == "handed over"; }));
+    Quillon third(name, false);
+    EXPECT_EQ(first.answer("Quillon", IDOK), "That file is already open.");
+    EXPECT_TRUE(third.waitForEnd());
+    ::ShowWindow(first.window(), SW_MINIMIZE);
+    Quillon fourth("", false);
+    EXPECT_TRUE(fourth.waitForEnd());
+    EXPECT_TRUE(seen::Until([&] { return !::IsIconic(first.window()); }));
+}
+
+TEST_F(EditingTest, WhatCannotBeOpenedAtTheStartIsToldAndCostsNothing) {
+    {
+        Quillon folder(scratch(""));
+        EXPECT_EQ(folder.pageCaption(), "Untitled1") << "a folder is no file";
+    }
+    writeFile(scratch("empty.htm"), "");
+    {
+        Quillon empty(scratch("empty.htm"));
+        EXPECT_EQ(empty.pageCaption(), "empty.htm");
+        EXPECT_EQ(empty.pageText(), "");
+    }
+    const HANDLE lock =
+        ::CreateFileA(scratch("empty.htm").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    Quillon locked(scratch("empty.htm"), false);
+    EXPECT_EQ(locked.answer("Quillon Note:", IDOK), "Unable to open File");
+    ::CloseHandle(lock);
+    EXPECT_TRUE(locked.isRunning());
+}
+
+TEST_F(EditingTest, KilledInMidSaveItLeavesTheOldFileOrTheNewOne) {
+    const std::string path = scratch("killed.htm");
+    const std::string page = RealPage(20000);
+    const std::string saved = "x" + page + "\r\n";
+    std::mt19937 random(20260);
+    int fresh = 0;
+    constexpr int kRounds = 100;
+    for (int round = 0; round < kRounds; ++round) {
+        writeFile(path, page);
+        Quillon quillon(path);
+        ::PostMessageA(quillon.pad(), WM_CHAR, 'x', 0);
+        quillon.choose("File/Save");
+        for (unsigned spin = random() % 8000; spin > 0; --spin) ::SwitchToThread();
+        quillon.kill();
+        const std::string left = readFile(path);
+        ASSERT_TRUE(left == page || left == saved) << "round " << round << ": " << left.size() << " bytes";
+        fresh += left == saved;
+    }
+    RecordProperty("saved", fresh);
+    std::printf("%d of %d killed after the file had changed\n", fresh, kRounds);
+}
+
+}  // namespace

@@ -1,0 +1,61 @@
+// The shipped program, started and used from outside.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "support/windows_seen.h"
+
+// One running Quillon.exe. Ends with the object, without questions.
+class Quillon {
+ public:
+    // Waits until the main window shows a page, unless `wait` is false. `file` goes onto the command line as
+    // it is.
+    explicit Quillon(const std::string& file = "", bool wait = true);
+    ~Quillon();
+    Quillon(const Quillon&) = delete;
+    Quillon& operator=(const Quillon&) = delete;
+
+    DWORD process() const { return id_; }
+    HWND window() const { return window_; }
+    bool isRunning() const;
+    bool waitForEnd();
+    void kill();
+
+    // The page in front: its document window and its edit control.
+    HWND page() const;
+    HWND pad() const { return seen::ChildOfClass(page(), "RICHEDIT"); }
+    std::string pageText() const { return seen::TextOf(pad()); }
+    std::string pageCaption() const { return seen::TextOf(page()); }
+    bool shows(const std::string& label) const;
+    std::vector<HWND> pages() const;
+
+    // Chooses a menu item by the captions on the way to it, as "File/Save As".
+    void choose(const std::string& path) const;
+    // Brings the program to the front and sends keys to whatever has the focus there.
+    void typeText(const std::string& text) const;
+    void pressKey(WORD virtualKey, bool control = false) const;
+
+    HWND waitForDialog(const std::string& title) const;
+    // Waits for the dialog, presses the button and waits until it is gone. Gives what it said.
+    std::string answer(const std::string& title, WORD button) const;
+    void chooseFile(const std::string& title, const std::string& path) const;
+
+ private:
+    void bringToFront() const;
+
+    HANDLE handle_ = nullptr;
+    DWORD id_ = 0;
+    HWND window_ = nullptr;
+};
+
+// Each test starts with no settings but a welcome already given, and an empty folder of its own.
+class QuillonTest : public ::testing::Test {
+ protected:
+    void SetUp() override;
+    static std::string scratch(const std::string& name);
+    static void writeFile(const std::string& path, const std::string& bytes);
+    static std::string readFile(const std::string& path);
+};

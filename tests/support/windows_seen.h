@@ -1,0 +1,36 @@
+// Windows as a person finds them: by what can be read on them.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <windows.h>
+
+namespace seen {
+
+// The text of a window of any process. Long texts come whole.
+std::string TextOf(HWND window);
+std::string ClassOf(HWND window);
+
+// Visible top-level windows of a process.
+std::vector<HWND> TopLevel(DWORD process);
+// All windows below `parent`, at any depth.
+std::vector<HWND> Below(HWND parent);
+
+// The visible top-level window of the process with this title; null when there is none.
+HWND Titled(DWORD process, const std::string& title);
+// The visible window below `parent` with this text, and of this class unless that is empty.
+HWND Child(HWND parent, const std::string& text, const std::string& cls = "");
+HWND ChildOfClass(HWND parent, const std::string& cls);
+
+// What a dialog says: the texts of its labels, in order, without the empty ones.
+std::string LabelsOf(HWND dialog);
+
+// Polls until the condition holds; false when it has not come true within ten seconds.
+bool Until(const std::function<bool()>& condition, DWORD milliseconds = 10000);
+
+// Puts a path into a file dialog of the system and presses its default button.
+void ChooseFile(HWND dialog, const std::string& path);
+
+}  // namespace seen

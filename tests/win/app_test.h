@@ -1,0 +1,79 @@
+// The main window in the test's own process, over an empty settings store.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "document/frmChild.h"
+#include "main_window.h"
+#include "support/windows_seen.h"
+
+// Points HKEY_CURRENT_USER at an empty key for the test's life.
+class ScratchRegistry {
+ public:
+    ScratchRegistry();
+    ~ScratchRegistry();
+    ScratchRegistry(const ScratchRegistry&) = delete;
+    ScratchRegistry& operator=(const ScratchRegistry&) = delete;
+};
+
+// Plays the user before the dialogs that come up while the test's own thread is busy showing them. Each is
+// waited for by its title, in this order; the test fails when one does not come.
+class User {
+ public:
+    struct Act {
+        std::string title;
+        std::function<void(HWND dialog)> act;
+    };
+
+    explicit User(std::vector<Act> acts);
+    ~User() { finish(); }
+    User(const User&) = delete;
+    User& operator=(const User&) = delete;
+
+    // What the dialogs said, once all have come.
+    const std::vector<std::string>& heard();
+
+    static Act press(const std::string& title, WORD button);
+    static Act chooseFile(const std::string& title, const std::string& path);
+
+ private:
+    void finish();
+
+    std::vector<std::string> heard_;
+    std::string missing_;
+    std::thread thread_;
+};
+
+class AppTest : public ::testing::Test {
+ protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    MainWindow& main() { return *main_; }
+    // A new page with this text instead of the outline, unchanged.
+    frmChild& newPage(const std::string& text);
+    frmChild& active() { return *main().activeDocument(); }
+    std::string pageText() { return active().txtPad().text(); }
+    // Runs a command through the main window's own WM_COMMAND.
+    void run(Command command) { ::SendMessageA(main().mainHwnd(), WM_COMMAND, command, 0); }
+    // A key as the page's control gets it.
+    void pressKey(WPARAM key) { ::SendMessageA(active().txtPad().hwnd(), WM_KEYDOWN, key, 0); }
+    void type(const std::string& text);
+    HWND label(const std::string& text) { return seen::Child(main().mainHwnd(), text, "Static"); }
+
+    // A path in a folder of this test's own, which is empty at the start.
+    std::string scratch(const std::string& name) const { return folder_ + "\\" + name; }
+    static void writeFile(const std::string& path, const std::string& bytes);
+    static std::string readFile(const std::string& path);
+
+ private:
+    std::optional<ScratchRegistry> registry_;
+    MainWindow* main_ = nullptr;
+    std::string folder_;
+};

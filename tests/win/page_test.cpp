@@ -1,0 +1,206 @@
+#include <random>
+
+#include "document/mTxtBoxAPI.h"
+#include "files/page_writer.h"
+#include "win/app_test.h"
+#include "win/clipboard.h"
+#include "win/message_loop.h"
+
+namespace {
+
+using document::Selection;
+
+class PageTest : public AppTest {
+ protected:
+    void holdKey(BYTE key, bool down) {
+        BYTE keys[256];
+        ::GetKeyboardState(keys);
+        keys[key] = down ? 0x80 : 0;
+        ::SetKeyboardState(keys);
+    }
+    void pressControl(WPARAM key) {
+        holdKey(VK_CONTROL, true);
+        pressKey(key);
+        holdKey(VK_CONTROL, false);
+    }
+    std::string fragmentAt(long start, long end, const std::string& text) {
+        frmChild& page = newPage(text);
+        page.txtPad().select(start, end);
+        return page.txtPad().selectedText();
+    }
+};
+
+std::string RandomPage(unsigned seed, std::size_t length) {
+    constexpr char kAlphabet[] = "ab \t\r\n\r\n\r\n<>\xE9\x80\xFF\x81";
+    std::mt19937 random(seed);
+    std::string page;
+    while (page.size() < length) page += kAlphabet[random() % (sizeof kAlphabet - 1)];
+    return page;
+}
+
+TEST_F(PageTest, EveryByteOfAPageIsKept) {
+    std::string allBytes;
+    for (int c = 0; c < 256; ++c) allBytes += static_cast<char>(c);
+    for (const std::string& page :
+         {allBytes, std::string("{\\rtf1 not formatted}"), std::string("\xEF\xBB\xBF<p>"),
+          std::string("\xEF\xBB\xBF\xEF\xBB\xBF"), std::string("\xEF\xBB\xBF"), std::string("\0\0", 2),
+          std::string("a\rb\nc\r\r\nd\r\n"), std::string(200000, 'x'),
+          std::string(4095, 'x') + "\r\n" + std::string(4095, 'y') + "\r\n"}) {
+        EXPECT_EQ(newPage(page).txtPad().text(), page) << page.substr(0, 20);
+        EXPECT_FALSE(active().txtPad().isChanged());
+        active().setPage(page);
+        EXPECT_EQ(pageText(), page) << "a second time: " << page.substr(0, 20);
+    }
+}
+
+TEST_F(PageTest, PositionsAreBytesOfThePage) {
+    EXPECT_EQ(fragmentAt(3, 5, "a\r\nbc"), "bc");
+    EXPECT_EQ(fragmentAt(0, 4, "a\r\nbc"), "a\r\nb");
+    active().selectAll();
+    const Selection all = active().txtPad().selection();
+    EXPECT_EQ(all.start, 0);
+    EXPECT_EQ(all.end, 5);
+    EXPECT_EQ(active().txtPad().selectedText(), "a\r\nbc");
+}
+
+TEST_F(PageTest, WhatIsWrittenAreTheControlsLinesWhateverTheBreaksAndTheWrap) {
+    for (unsigned seed = 1; seed <= 25; ++seed) {
+        const std::string page = RandomPage(seed, 20 + seed * 7);
+        document::RichEdit& pad = newPage(page).txtPad();
+        std::string expected;
+        for (long line = 0; line < mTxtBoxAPI::LineCount(pad.hwnd()); ++line) {
+            const long start = mTxtBoxAPI::LineStart(pad.hwnd(), line);
+            expected += pad.textRange(start, start + mTxtBoxAPI::LineLength(pad.hwnd(), line)) + "\r\n";
+        }
+        EXPECT_EQ(files::PageBytes(pad), expected) << "seed " << seed;
+        pad.setWordWrap(true);
+        EXPECT_EQ(files::PageBytes(pad), expected) << "wrapped, seed " << seed;
+        EXPECT_TRUE(pad.wordWrap());
+        run(mnuFileClose);
+    }
+    const std::string longLine = std::string(70000, 'x') + " y";
+    EXPECT_EQ(files::PageBytes(newPage(longLine).txtPad()), longLine + "\r\n");
+}
+
+TEST_F(PageTest, NewPagesAreNumberedAndHoldTheOutline) {
+    run(mnuFileNew);
+    EXPECT_EQ(active().Caption(), "Untitled1");
+    EXPECT_EQ(pageText(),
+              "<HTML>\r\n<HEAD>\r\n<TITLE> * UNTITLED PAGE * </TITLE>\r\n<META NAME=\"generator\" "
+              "CONTENT=\"Quillon\">\r\n</HEAD>\r\n<BODY>\r\n\r\n\r\n\r\n\r\n</BODY>\r\n</HTML>");
+    EXPECT_TRUE(label("Current Line No: 1"));
+    run(mnuFileClose);
+    run(mnuFileNew);
+    EXPECT_EQ(active().Caption(), "Untitled2") << "closing gives no number back";
+}
+
+TEST_F(PageTest, TheTabKeyInsertsARunThatOneBackspaceRemoves) {
+    newPage("ab");
+    active().setTab("      ");
+    active().txtPad().select(1, 1);
+    pressKey(VK_TAB);
+    EXPECT_EQ(pageText(), "a      b");
+    pressKey(VK_BACK);
+    EXPECT_EQ(pageText(), "ab");
+    EXPECT_EQ(active().txtPad().selection().start, 1);
+    pressKey(VK_TAB);
+    active().txtPad().select(4, 7);
+    pressKey(VK_BACK);
+    EXPECT_EQ(pageText().substr(0, 4), "a   ") << "with a selection only that goes";
+    type("\t");
+    EXPECT_EQ(pageText().find('\t'), std::string::npos);
+}
+
+TEST_F(PageTest, TheLineLabelFollowsTheCaretAndThePageInFront) {
+    frmChild& first = newPage("a\r\nb\r\nc");
+    pressKey(VK_DOWN);
+    EXPECT_TRUE(label("Current Line No: 2")) << "after the key, not before";
+    newPage("x");
+    EXPECT_TRUE(label("Current Line No: 1"));
+    ::SendMessageA(main().mdiClient(), WM_MDIACTIVATE, reinterpret_cast<WPARAM>(first.hwnd()), 0);
+    EXPECT_TRUE(label("Current Line No: 2"));
+}
+
+TEST_F(PageTest, CutCopyPasteAndUndo) {
+    newPage("one two");
+    active().txtPad().select(0, 3);
+    run(mnuEditCopy);
+    active().txtPad().select(7, 7);
+    pressControl('V');
+    EXPECT_EQ(pageText(), "one twoone");
+    active().txtPad().select(0, 4);
+    run(mnuEditCut);
+    EXPECT_EQ(pageText(), "twoone");
+    EXPECT_EQ(win::ClipboardText(main().mainHwnd()), "one ");
+    run(mnuEditUndo);
+    EXPECT_EQ(pageText(), "one twoone");
+    run(mnuEditClear);
+    EXPECT_EQ(pageText(), "");
+    run(mnuEditUndo);
+    EXPECT_EQ(pageText(), "one twoone") << "one step";
+    active().txtPad().select(0, 0);
+    run(mnuEditCut);
+    EXPECT_EQ(pageText(), "one twoone") << "cutting nothing";
+}
+
+TEST_F(PageTest, PastingTakesTheCharactersOnly) {
+    newPage("");
+    win::SetClipboardText(main().mainHwnd(), "{\\rtf1 \\b bold}");
+    ::SendMessageA(active().txtPad().hwnd(), WM_PASTE, 0, 0);
+    EXPECT_EQ(pageText(), "{\\rtf1 \\b bold}");
+}
+
+TEST_F(PageTest, ClosingAsksOnlyForAChangedPageAndSavesTheOneItAsksAbout) {
+    newPage("unchanged");
+    run(mnuFileClose);
+    EXPECT_TRUE(main().documents().empty());
+
+    const std::string path = scratch("asked.htm");
+    newPage("asked").setCaption("asked.htm");
+    type("x");
+    frmChild* asked = &active();
+    newPage("in front");
+    User user({User::press("Quillon", IDYES), User::chooseFile("Save File As...", path)});
+    ::SendMessageA(asked->hwnd(), WM_CLOSE, 0, 0);
+    EXPECT_EQ(user.heard()[0],
+              "ASKED.HTM has changed since last saved...(or has not yet been saved.)\r\n\r\n"
+              "                     Would you like to save that file now?\r\n\r\n");
+    EXPECT_EQ(readFile(path), "xasked\r\n");
+    EXPECT_EQ(main().documents().size(), 1U);
+}
+
+TEST_F(PageTest, ACloseWhileABoxWaitsIsIgnoredAndExitAsksForEveryChangedPage) {
+    newPage("");
+    type("x");
+    newPage("");
+    type("y");
+    const HWND window = main().mainHwnd();
+    User user({{"Quillon",
+                [window](HWND box) {
+                    ::SendMessageA(window, WM_CLOSE, 0, 0);
+                    ::PostMessageA(box, WM_COMMAND, IDNO, 0);
+                }},
+               User::press("Quillon", IDNO)});
+    run(mnuFileExit);
+    EXPECT_EQ(user.heard().size(), 2U);
+    EXPECT_FALSE(::IsWindow(window));
+}
+
+TEST_F(PageTest, AThousandPagesLeaveNothingBehind) {
+    const auto objects = [](DWORD kind) { return ::GetGuiResources(::GetCurrentProcess(), kind); };
+    for (int i = 0; i < 5; ++i) {
+        newPage("warm");
+        run(mnuFileClose);
+    }
+    const DWORD user = objects(GR_USEROBJECTS);
+    const DWORD gdi = objects(GR_GDIOBJECTS);
+    for (int i = 0; i < 1000; ++i) {
+        newPage("page");
+        run(mnuFileClose);
+        win::RunPending();
+    }
+    EXPECT_LE(objects(GR_USEROBJECTS), user);
+    EXPECT_LE(objects(GR_GDIOBJECTS), gdi);
+}
+
+}  // namespace
