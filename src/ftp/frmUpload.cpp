@@ -3,23 +3,18 @@
 #include <exception>
 #include <utility>
 
-#include "document/frmChild.h"
-#include "files/modOpen.h"
-#include "files/modPubFuncs.h"
 #include "forms/frmUpload.h"
-#include "ftp/core/local_name.h"
 #include "ftp/core/remote_listing.h"
 #include "ftp/core/remote_path.h"
 #include "ftp/core/scramble.h"
 #include "ftp/core/site_url.h"
-#include "ftp/download.h"
 #include "ftp/frmConnect.h"
+#include "ftp/remote_commands.h"
 #include "ftp/site_store.h"
-#include "win/input_box.h"
+#include "ftp/uploads.h"
+#include "win/drop_target.h"
 #include "win/message_box.h"
-#include "win/message_loop.h"
 #include "win/modWndPos.h"
-#include "win/window.h"
 
 namespace {
 
@@ -28,7 +23,6 @@ constexpr UINT kShowSite =
     WM_APP + 1;  // wParam: a site's index; true when this window is to be the one for it
 constexpr UINT kDropped = WM_APP + 2;
 constexpr char kProperty[] = "frmUpload";  // of the main window: the FTP window while it is open
-constexpr char kPasswordHint[] = "ENTER PASSWORD HERE";
 
 constexpr int kSessionControls[] = {lstRemoteFiles, cmdUp,  cmdRefresh, cmdMakeDir,
                                     cmdShut,        upType, upType + 1, upType + 2};
@@ -36,32 +30,18 @@ constexpr int kLoginControls[] = {txtPassword, cmdPassword};
 
 }  // namespace
 
-// The window while it works: nothing in it can be clicked, the pointer shows it, and closing waits for the
-// end.
-class frmUpload::Busy {
- public:
-    explicit Busy(frmUpload& form, const char* status = nullptr) : form_(form), focus_(::GetFocus()) {
-        if (form_.busy_++ == 0) form_.enableControls();
-        if (status) form_.showStatus(status);
-    }
-    ~Busy() {
-        if (form_.busy_ > 1) {
-            --form_.busy_;
-            return;
-        }
-        // What was clicked and typed meanwhile still finds the window at work, and comes to nothing.
-        win::RunPending();
-        form_.busy_ = 0;
-        form_.finishWork(focus_);
-    }
-    Busy(const Busy&) = delete;
-    Busy& operator=(const Busy&) = delete;
+frmUpload::Busy::Busy(frmUpload& form, const char* status) : form_(form), focus_(::GetFocus()) {
+    if (form_.busy_++ == 0) form_.enableControls();
+    if (!status) return;
+    form_.showResult(status);
+    win::RunPending();
+}
 
- private:
-    frmUpload& form_;
-    HWND focus_;
-    win::WaitCursor cursor_;
-};
+frmUpload::Busy::~Busy() {
+    // What was clicked and typed meanwhile still finds the window at work, and comes to nothing.
+    if (form_.busy_ == 1) win::RunPending();
+    if (--form_.busy_ == 0) form_.finishWork(focus_);
+}
 
 class frmUpload::Drop final : public win::DropTarget {
  public:
@@ -108,6 +88,7 @@ frmUpload::~frmUpload() {
 
 bool frmUpload::onInit() {
     lstRemoteFiles_.attach(item(lstRemoteFiles));
+    txtPassword_.attach(item(txtPassword));
     ::CheckRadioButton(hwnd(), upType, upType + 2, upType + 2);
     drop_->attach(item(lstRemoteFiles));
     ::SetPropA(main_.mainHwnd(), kProperty, hwnd());
@@ -161,7 +142,7 @@ void frmUpload::openSite() {
     }
     if (password_.empty()) {
         unloadConnect();
-        setItemText(txtPassword, kPasswordHint);
+        txtPassword_.showHint();
     } else {
         Connect();
     }
@@ -172,18 +153,15 @@ void frmUpload::ReadPassword(const std::string& stored) {
 }
 
 void frmUpload::cmdPassword_Click() {
-    std::string typed = itemText(txtPassword);
-    if (typed.empty() || typed == kPasswordHint) {
+    password_ = txtPassword_.typed();
+    if (password_.empty()) {
         say("Must enter PASSWORD to use FTP.", "NO PASSWORD GIVEN");
         if (hwnd()) focusItem(txtPassword);
         return;
     }
-    password_ = typed;
-    ftp::Wipe(typed);
-    setItemText(txtPassword, "");
-    const Busy busy(*this);
-    showStatus("Connecting to " + site_);
-    Connect();
+    txtPassword_.clear();
+    const Busy busy(*this, ("Connecting to " + site_).c_str());
+    if (isThere()) Connect();
 }
 
 void frmUpload::Connect() {
@@ -235,7 +213,7 @@ void frmUpload::CloseSession() {
     current_.clear();
     lstRemoteFiles_.clear();
     idle_ = "NO SITE ACTIVE";
-    setItemText(txtPassword, kPasswordHint);
+    txtPassword_.showHint();
     showIdle();
     focusItem(txtPassword);
 }
@@ -273,43 +251,18 @@ bool frmUpload::IsRemoteDirectory(const std::string& name) {
 void frmUpload::enterDirectory() {
     const std::string line = lstRemoteFiles_.selected();
     if (line.empty() || !ftp::OpensOnDoubleClick(line)) return;
-    bool entered = false;
-    {
-        const Busy busy(*this, "PROCESSING REQUEST...");
-        entered = isThere() && session_->changeDirectory(std::string(ftp::NameOfLine(line)));
-        if (entered) ListRemote();
-    }
+    const std::string name(ftp::NameOfLine(line));
+    const bool entered = change("PROCESSING REQUEST...",
+                                [&](ftp::FtpSession& session) { return session.changeDirectory(name); });
     if (isThere() && !entered) say("Cannot access Directory!", "Quillon Note:");
 }
 
 void frmUpload::cmdUpDir_Click() {
     const std::optional<std::string> above = ftp::DirectoryAbove(current_, root_);
     if (!above) return;
-    bool moved = false;
-    {
-        const Busy busy(*this, "PROCESSING REQUEST...");
-        moved = isThere() && session_->changeDirectory(*above);
-        if (moved) ListRemote();
-    }
+    const bool moved = change("PROCESSING REQUEST...",
+                              [&](ftp::FtpSession& session) { return session.changeDirectory(*above); });
     if (isThere() && !moved) say("Cannot find it!", "Quillon Note:");
-}
-
-void frmUpload::cmdMakeDir_Click() {
-    const std::string name = win::AskText(hwnd(), "Enter a name for the New Directory", "NEW FOLDER");
-    if (name.empty() || !isThere()) return;
-    bool made = false;
-    {
-        const Busy busy(*this, "PROCESSING REQUEST...");
-        made = isThere() && session_->createDirectory(name);
-        if (made) ListRemote();
-    }
-    if (!isThere()) return;
-    if (made) {
-        lstRemoteFiles_.select(name + "/");
-        say("New Directory [ " + name + " ] successfully created.", "CONFIRMATION");
-    } else {
-        say("Could not create the Directory.", "DIRECTORY NOT MADE", MB_ICONEXCLAMATION);
-    }
 }
 
 void frmUpload::showMenu(POINT at) {
@@ -319,185 +272,18 @@ void frmUpload::showMenu(POINT at) {
     ::TrackPopupMenu(::GetSubMenu(menus.get(), position), TPM_RIGHTBUTTON, at.x, at.y, 0, hwnd(), nullptr);
 }
 
-void frmUpload::checkSize(const std::string& name) {
-    std::optional<ftp::RemoteEntry> entry;
-    {
-        const Busy busy(*this, "PROCESSING REQUEST...");
-        if (isThere()) entry = session_->findFirst(name);
-        session_->endFind();
-    }
-    if (!isThere()) return;
-    if (entry) {
-        say("Approximately " + std::to_string(entry->size) + " Bytes", ("SIZE of " + name + " is:").c_str());
-    } else {
-        say("Could not retrieve requested information.");
-    }
-}
-
-void frmUpload::download(const std::string& name) {
-    const std::string path = modOpen::ChooseSavePath(main_, hwnd(), ftp::ProposedLocalName(name));
-    if (path.empty() || !isThere()) return;
-    bool done = false;
-    {
-        const Busy busy(*this, "Downloading.....");
-        done = isThere() && ftp::Download(*session_, name, path, transferType(name));
-    }
-    if (!isThere()) return;
-    if (done) {
-        say("Download of " + name + " is complete.", "TASK COMPLETE", MB_ICONINFORMATION);
-    } else {
-        say("Unable to download " + name + ".", "DOWNLOAD FAILURE", MB_ICONEXCLAMATION);
-    }
-}
-
-void frmUpload::renameFile(const std::string& name) {
-    const std::string newName = win::AskText(hwnd(), "Enter new file name below", "FILENAME CHANGE");
-    if (newName.empty() || !isThere()) return;
-    bool renamed = false;
-    {
-        const Busy busy(*this, "PROCESSING REQUEST...");
-        renamed = isThere() && session_->rename(name, newName);
-        if (renamed) ListRemote();
-    }
-    if (!isThere()) return;
-    if (renamed) {
-        lstRemoteFiles_.select(newName);
-        say("File has been Renamed", "CONFIRMATION");
-    } else {
-        say("Unable to rename file...", "NET GLITCH", MB_ICONEXCLAMATION);
-    }
-}
-
-void frmUpload::deleteFile(const std::string& name) {
-    if (say("Are you sure you want to delete " + name + " ?", "DELETION CONFIRMATION", MB_YESNO) != IDYES)
-        return;
-    if (!isThere()) return;
-    bool deleted = false;
-    {
-        const Busy busy(*this, "PROCESSING REQUEST...");
-        deleted = isThere() && session_->removeFile(name);
-        if (deleted) ListRemote();
-    }
-    if (!isThere()) return;
-    if (deleted) {
-        say("The File [ " + name + " ] was Deleted.", "DELETION CONFIRMATION");
-    } else {
-        say("Could not delete file", "FAILED TO DELETE", MB_ICONEXCLAMATION);
-    }
-}
-
-void frmUpload::mnuDirDelete_Click(const std::string& name) {
-    const std::string question = "Are you sure you want to delete the folder\r\n" + name + " ?";
-    if (say(question, "DELETION CONFIRMATION", MB_YESNO) != IDYES || !isThere()) return;
-    try {
-        removeDirectory(name);
-    } catch (const std::exception&) {
-        if (isThere()) say("There was a problem deleting " + name + ".", "DELETE DIFFICULTY");
-    }
-}
-
-void frmUpload::removeDirectory(const std::string& name) {
-    bool deleted = false;
-    {
-        const Busy busy(*this, "PROCESSING REQUEST...");
-        deleted = isThere() && session_->removeDirectory(std::string(ftp::NameOfLine(name)));
-        if (deleted) ListRemote();
-    }
-    if (!isThere()) return;
-    if (deleted) {
-        say("The Directory:\r\n[ " + name + " ]\r\nwas successfully Deleted.");
-    } else {
-        say("Could not delete file\r\n"
-            "A directory must be not contain any files in order to delete...\r\n"
-            "Are you sure this folder is empty?",
-            "FAILED TO DELETE");
-    }
-}
-
-void frmUpload::uploadDropped() {
-    try {
-        const std::optional<win::DroppedFiles> files = drop_->take();
-        if (!files) {
-            say("Unknown Object", "Quillon Note:");
-        } else if (session_->isConnected() && busy_ == 0) {
-            uploadAll(*files);
-        }
-    } catch (const std::exception&) {
-        if (isThere()) say("Could not upload files.");
-    }
-}
-
-void frmUpload::uploadAll(const win::DroppedFiles& files) {
-    const Busy busy(*this, "Uploading.....");
-    bool allDone = true;
-    for (const std::string& path : files) {
-        if (!isThere()) return;
-        allDone = UploadFile(path) && allDone;
-        win::RunPending();
-    }
-    if (isThere() && allDone && files.size() == 1) {
-        say("Upload of " + std::string(modPubFuncs::FileNameFromPath(files.front())) + " Complete");
-    } else if (isThere() && allDone) {
-        say("Uploading Completed.");
-    }
-    ListRemote();
-}
-
-bool frmUpload::UploadFile(const std::string& path) {
-    const std::string name(modPubFuncs::FileNameFromPath(path));
-    if (session_->put(path, ftp::JoinRemote(current_, name), transferType(name))) return true;
-    say("There was a problem uploading " + name + ".", "UPLOAD DIFFICULTY");
-    return false;
-}
-
-void frmUpload::cmdUp_Click() {
-    const frmChild* page = main_.activeDocument();
-    const std::string path = page ? page->Tag() : std::string();
-    if (!page) {
-        say("No file is currently open.", "NO FILE OPEN");
-    } else if (!modPubFuncs::FileExists(path)) {
-        say("The Current page SHOULD BE SAVED before uploading.", "PRECAUTION");
-    } else {
-        uploadDocument(path);
-    }
-}
-
-// Pages are text, so this one goes as text whatever the transfer mode says.
-void frmUpload::uploadDocument(const std::string& path) {
-    try {
-        const std::string name(modPubFuncs::FileNameFromPath(path));
-        bool done = false;
-        {
-            const Busy busy(*this, "Uploading.....");
-            done =
-                isThere() && session_->put(path, ftp::JoinRemote(current_, name), ftp::TransferType::ascii);
-            if (done) ListRemote();
-        }
-        if (!isThere()) return;
-        if (done) {
-            setItemText(txtCurDir, "Upload Complete");
-            say("Upload Complete");
-        } else {
-            say("Unable to upload the current file.", "UPLOAD FAILURE");
-        }
-    } catch (const std::exception&) {
-        if (isThere()) say("Error uploading", "ERROR");
-    }
-}
-
 ftp::TransferType frmUpload::transferType(const std::string& name) const {
     const auto mode = isChecked(upType) ? ftp::TransferMode::binary : ftp::TransferMode::automatic;
     return ftp::ChooseTransferType(mode, name);
 }
 
-int frmUpload::say(const std::string& text, const char* title, UINT style) const {
+int frmUpload::say(const std::string& text, const std::string& title, UINT style) const {
     const HWND owner = ::IsWindowVisible(hwnd()) ? hwnd() : main_.mainHwnd();
     return win::ShowMessage(owner, text, title, style);
 }
 
-void frmUpload::showStatus(const std::string& text) const {
+void frmUpload::showResult(const std::string& text) const {
     setItemText(txtCurDir, text);
-    win::RunPending();
 }
 
 void frmUpload::showIdle() {
@@ -549,30 +335,11 @@ bool frmUpload::comeForward(int siteIndex) {
     return true;
 }
 
-bool frmUpload::showsHint() const {
-    if (::GetWindowTextLengthA(item(txtPassword)) != static_cast<int>(sizeof kPasswordHint) - 1) return false;
-    std::string text = itemText(txtPassword);
-    const bool hint = text == kPasswordHint;
-    ftp::Wipe(text);
-    return hint;
-}
-
-bool frmUpload::onPasswordField(WORD notification) {
-    const HWND field = item(txtPassword);
-    if (notification == EN_UPDATE) {
-        ::SendMessageA(field, EM_SETPASSWORDCHAR, showsHint() ? 0 : '*', 0);
-        ::InvalidateRect(field, nullptr, TRUE);
-    } else if (notification == EN_SETFOCUS && showsHint()) {
-        ::PostMessageA(field, EM_SETSEL, 0, -1);
-    }
-    return true;
-}
-
 bool frmUpload::runCommand(WORD id) {
     const std::string line = lstRemoteFiles_.selected();
     switch (id) {
         case cmdUp:
-            cmdUp_Click();
+            ftp::UploadCurrentDocument(*this);
             return true;
         case cmdRefresh:
             ListRemote();
@@ -581,7 +348,7 @@ bool frmUpload::runCommand(WORD id) {
             cmdUpDir_Click();
             return true;
         case cmdMakeDir:
-            cmdMakeDir_Click();
+            ftp::MakeDirectory(*this);
             return true;
         case cmdPassword:
             cmdPassword_Click();
@@ -597,19 +364,19 @@ bool frmUpload::runCommand(WORD id) {
 bool frmUpload::runMenu(WORD id, const std::string& line) {
     switch (id) {
         case mnuRClist:
-            checkSize(line);
+            ftp::CheckFileSize(*this, line);
             return true;
         case mnuRClist + 2:
-            download(line);
+            ftp::DownloadFile(*this, line);
             return true;
         case mnuRClist + 3:
-            renameFile(line);
+            ftp::RenameFile(*this, line);
             return true;
         case mnuRClist + 5:
-            deleteFile(line);
+            ftp::DeleteRemoteFile(*this, line);
             return true;
         case mnuDirDelete:
-            mnuDirDelete_Click(line);
+            ftp::DeleteDirectory(*this, line);
             return true;
         default:
             return false;
@@ -617,7 +384,10 @@ bool frmUpload::runMenu(WORD id, const std::string& line) {
 }
 
 bool frmUpload::onCommand(WORD id, WORD notification) {
-    if (id == txtPassword) return onPasswordField(notification);
+    if (id == txtPassword) {
+        txtPassword_.onNotification(notification);
+        return true;
+    }
     if (busy_ > 0) {
         if (id == IDCANCEL) closeWanted_ = true;
         return true;
@@ -646,7 +416,7 @@ INT_PTR frmUpload::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return stays;
         }
         case kDropped:
-            uploadDropped();
+            if (busy_ == 0) ftp::UploadDropped(*this, drop_->take());
             return TRUE;
         case WM_CONTEXTMENU:
             if (reinterpret_cast<HWND>(wParam) != item(lstRemoteFiles)) return FALSE;
