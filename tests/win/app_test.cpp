@@ -9,15 +9,6 @@ namespace {
 
 constexpr char kScratchKey[] = "Software\\Quillon tests";
 
-void DeleteTree(const std::string& folder) {
-    std::string from = folder + '\0';
-    SHFILEOPSTRUCTA operation{};
-    operation.wFunc = FO_DELETE;
-    operation.pFrom = from.c_str();
-    operation.fFlags = FOF_NOCONFIRMATION | FOF_SILENT | FOF_NOERRORUI;
-    ::SHFileOperationA(&operation);
-}
-
 void DeleteKeyTree(HKEY parent, const std::string& name) {
     HKEY opened = nullptr;
     if (::RegOpenKeyExA(parent, name.c_str(), 0, KEY_ALL_ACCESS, &opened) != ERROR_SUCCESS) return;
@@ -37,6 +28,15 @@ std::string ScratchFolder() {
 }
 
 }  // namespace
+
+void DeleteTree(const std::string& folder) {
+    std::string from = folder + '\0';
+    SHFILEOPSTRUCTA operation{};
+    operation.wFunc = FO_DELETE;
+    operation.pFrom = from.c_str();
+    operation.fFlags = FOF_NOCONFIRMATION | FOF_SILENT | FOF_NOERRORUI;
+    ::SHFileOperationA(&operation);
+}
 
 ScratchRegistry::ScratchRegistry() {
     HKEY key = nullptr;

@@ -18,7 +18,7 @@ constexpr const char* kMissing =
     "LCase Roman Numerals,Definition List,quote,space,less than,greater "
     "than,amperstand,copyright,trademark,Date,"
     "JavaScript,VB Script,Style,Applet,Object,Embed,w/Redirect,above w/ GO button,w/ New Window Option,"
-    "Dynamic Duel-Combo,Upload File,Add A Site,.htm,.txt,.asp,All Files,.htm,.txt,.asp,All Files,Add  "
+    "Dynamic Duel-Combo,.htm,.txt,.asp,All Files,.htm,.txt,.asp,All Files,Add  "
     "Current Page,"
     "3,4,5,6,7,8,Word Wrap,Fonts,Contents,About,Find,Replace,Reset,Preview,Spelling,Print,Color,Help,";
 
