@@ -28,6 +28,20 @@ constexpr int kSessionControls[] = {lstRemoteFiles, cmdUp,  cmdRefresh, cmdMakeD
                                     cmdShut,        upType, upType + 1, upType + 2};
 constexpr int kLoginControls[] = {txtPassword, cmdPassword};
 
+struct ButtonPicture {
+    int button;
+    const char* icon;
+};
+constexpr ButtonPicture kPictures[] = {
+    {cmdUp, "ftp"}, {cmdRefresh, "refresh"}, {cmdUpDir, "up"}, {cmdMakeDir, "new_folder"}};
+
+// Not a shared one: those keep the size at which they were asked for first.
+HICON SmallIcon(const char* name) {
+    return static_cast<HICON>(::LoadImageA(::GetModuleHandleA(nullptr), name, IMAGE_ICON,
+                                           ::GetSystemMetrics(SM_CXSMICON), ::GetSystemMetrics(SM_CYSMICON),
+                                           0));
+}
+
 }  // namespace
 
 frmUpload::Busy::Busy(frmUpload& form, const char* status) : form_(form), focus_(::GetFocus()) {
@@ -89,11 +103,21 @@ frmUpload::~frmUpload() {
 bool frmUpload::onInit() {
     lstRemoteFiles_.attach(item(lstRemoteFiles));
     txtPassword_.attach(item(txtPassword));
+    showPictures();
     ::CheckRadioButton(hwnd(), upType, upType + 2, upType + 2);
     drop_->attach(item(lstRemoteFiles));
     ::SetPropA(main_.mainHwnd(), kProperty, hwnd());
     showIdle();
     return true;
+}
+
+void frmUpload::showPictures() {
+    for (std::size_t i = 0; i < pictures_.size(); ++i) {
+        pictures_[i] = win::UniqueIcon(SmallIcon(kPictures[i].icon));
+        const auto icon = reinterpret_cast<LPARAM>(pictures_[i].get());
+        ::SendMessageA(item(kPictures[i].button), BM_SETIMAGE, IMAGE_ICON, icon);
+        if (i == 0) ::SendMessageA(hwnd(), WM_SETICON, ICON_SMALL, icon);
+    }
 }
 
 void frmUpload::onClosing() {

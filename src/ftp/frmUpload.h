@@ -1,6 +1,7 @@
 // The FTP window: one session with a stored site, and the directory that it shows.
 #pragma once
 
+#include <array>
 #include <memory>
 #include <string>
 #include <vector>
@@ -11,6 +12,7 @@
 #include "main_window.h"
 #include "win/dialog.h"
 #include "win/message_loop.h"
+#include "win/unique.h"
 
 class frmUpload : public win::Dialog {
  public:
@@ -74,6 +76,7 @@ class frmUpload : public win::Dialog {
     bool onCommand(WORD id, WORD notification) override;
     INT_PTR onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void onClosing() override;
+    void showPictures();
     bool runCommand(WORD id);
     bool runMenu(WORD id, const std::string& line);
 
@@ -107,6 +110,7 @@ class frmUpload : public win::Dialog {
     ftp::RemoteList lstRemoteFiles_;
     ftp::PasswordField txtPassword_;
     std::unique_ptr<Drop> drop_;
+    std::array<win::UniqueIcon, 4> pictures_;
     std::string site_;
     std::string user_;
     std::string password_;  // only until the server has it
