@@ -18,14 +18,15 @@ std::string Environment(const char* name) {
 std::unique_ptr<ftp::FtpSession> SessionOn(const char* variable) {
     return ftp::MakeSession(static_cast<unsigned short>(std::atoi(Environment(variable).c_str())));
 }
+}  // namespace
+
 std::unique_ptr<ftp::FtpSession> HonestSession() {
     return SessionOn("QUILLON_FTP_PORT");
 }
+
 std::unique_ptr<ftp::FtpSession> ScriptedSession() {
     return SessionOn("QUILLON_FTP_SCRIPTED_PORT");
 }
-
-}  // namespace
 
 void FtpTest::SetUp() {
     AppTest::SetUp();
@@ -53,6 +54,10 @@ HWND FtpTest::openHonest(const std::vector<std::string>& files) {
         }
     }
     addSite("127.0.0.1/own", "user", "secret");
+    return reopen();
+}
+
+HWND FtpTest::reopen() {
     frmUpload::open(main(), 0, HonestSession);
     return ftpWindow();
 }

@@ -1,11 +1,15 @@
 // The FTP window over the servers that tests/ftp/servers keeps up during a test run.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "ftp/ftp_session.h"
 #include "win/app_test.h"
+
+std::unique_ptr<ftp::FtpSession> HonestSession();
+std::unique_ptr<ftp::FtpSession> ScriptedSession();
 
 class FtpTest : public AppTest {
  protected:
@@ -16,6 +20,7 @@ class FtpTest : public AppTest {
     // Opens the FTP window for the first site on the ordinary server, with a folder of this test's own as its
     // start, or on the scripted server, where the name of the login says what happens.
     HWND openHonest(const std::vector<std::string>& files = {});
+    HWND reopen();  // the first site as it is stored
     HWND openScripted(const std::string& behaviour);
     // Null when there is none.
     static HWND ftpWindow();
