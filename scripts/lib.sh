@@ -5,7 +5,7 @@ project=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cache=${XDG_CACHE_HOME:-~/.cache}/quillon
 # Where apt cannot install 32-bit Wine, setup makes an i386 Debian of its own here.
 wine_root=$cache/wine-root
-prefix=${QUILLON_PREFIX:-$project/build/wine-prefix}
+prefix=$(realpath -ms "${QUILLON_PREFIX:-$project/build/wine-prefix}")
 
 say() { printf '%s\n' "$*" >&2; }
 die() { say "$(basename "$0"): $*"; exit 1; }

@@ -45,6 +45,8 @@ class MainWindow {
     virtual void documentClosed(frmChild& document) = 0;
     virtual void documentRenamed(frmChild& document) = 0;
     virtual void documentActivated(frmChild& document) = 0;
+    // The files that were dropped onto its page, in their order; none when it was something else.
+    virtual void filesDropped(DocumentId document, const std::vector<std::string>& paths) = 0;
 
  protected:
     ~MainWindow() = default;

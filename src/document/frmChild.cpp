@@ -1,29 +1,30 @@
 #include "document/frmChild.h"
 
-#include <cstdlib>
+#include <algorithm>
 #include <exception>
+#include <utility>
 
+#include "document/core/font_size.h"
 #include "document/page_keys.h"
 #include "settings/CRegSettings.h"
 #include "win/clipboard.h"
+#include "win/drop_target.h"
 #include "win/message_box.h"
 #include "win/message_loop.h"
 
 namespace {
 
 constexpr int kPadId = 1;
-constexpr char kDefaultTab[] = "    ";
 constexpr char kDefaultFace[] = "Courier New";
-constexpr float kDefaultPoints = 10;
+
+// Posted to a document: something was dropped onto its page.
+constexpr UINT kDropsWaiting = WM_APP;
 
 document::Font StoredFont() {
     const CRegSettings settings;
-    document::Font font{settings.GetRegSetting("font preferences", "font_Face", kDefaultFace),
-                        kDefaultPoints};
-    const float points =
-        std::strtof(settings.GetRegSetting("font preferences", "font_Size").c_str(), nullptr);
-    if (points >= 1 && points <= 400) font.points = points;
-    return font;
+    const float points = document::ParseFontSize(settings.GetRegSetting("font preferences", "font_Size"));
+    return {settings.GetRegSetting("font preferences", "font_Face", kDefaultFace),
+            points > 0 ? points : frmChild::kDefaultPoints};
 }
 
 std::string UpperCase(std::string text) {
@@ -62,6 +63,13 @@ class frmChild::Pad : public document::RichEdit {
                     page_, page_.main_,
                     {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))});
                 return 0;
+            case win::kDropped:
+                page_.drops_.push_back(*reinterpret_cast<const std::vector<std::string>*>(lParam));
+                ::PostMessageA(page_.hwnd(), kDropsWaiting, 0, 0);
+                return 0;
+            case WM_DESTROY:
+                win::RefuseDrops(hwnd());
+                break;
             default:
                 break;
         }
@@ -101,6 +109,7 @@ frmChild& frmChild::open(MainWindow& main, const std::string& caption, std::stri
 std::unique_ptr<document::RichEdit> frmChild::makePad(const document::Font& font) {
     auto pad = std::make_unique<Pad>(*this);
     pad->create(hwnd(), kPadId, font);
+    win::AcceptDrops(pad->hwnd());
     return pad;
 }
 
@@ -111,7 +120,12 @@ void frmChild::setCaption(const std::string& caption) {
 
 void frmChild::setPage(std::string_view page) {
     auto fresh = makePad(txtPad_->font());
-    fresh->load(page);
+    try {
+        fresh->load(page);
+    } catch (...) {
+        ::DestroyWindow(fresh->hwnd());
+        throw;
+    }
     fresh->setWordWrap(txtPad_->wordWrap());
     const bool focused = ::GetFocus() == txtPad_->hwnd();
     const HWND old = txtPad_->hwnd();
@@ -119,6 +133,23 @@ void frmChild::setPage(std::string_view page) {
     layOut();
     ::DestroyWindow(old);
     if (focused) focusPage();
+}
+
+void frmChild::replacePage(std::string_view page) {
+    const long caret = std::min(txtPad_->selection().start, static_cast<long>(page.size()));
+    const long line = txtPad_->firstVisibleLine();
+    setPage(page);
+    txtPad_->setChanged(true);
+    txtPad_->select(caret, caret);
+    txtPad_->scrollLines(line - txtPad_->firstVisibleLine());
+    showLine();
+}
+
+void frmChild::toReset(std::string_view saved) {
+    // Of an empty page nothing would be left to paste: the clipboard keeps what it has.
+    if (const std::string edited = txtPad_->text(); !edited.empty()) win::SetClipboardText(hwnd(), edited);
+    setPage(saved);
+    showLine();
 }
 
 void frmChild::layOut() const {
@@ -159,6 +190,13 @@ void frmChild::kidUndo() {
 
 void frmChild::selectAll() {
     txtPad_->select(0, txtPad_->textLength());
+}
+
+void frmChild::handOverDrops() {
+    // Messages about the files may outlast the page.
+    MainWindow& main = main_;
+    const DocumentId id = id_;
+    for (const auto& paths : std::exchange(drops_, {})) main.filesDropped(id, paths);
 }
 
 void frmChild::closingCheck() {
@@ -209,6 +247,9 @@ LRESULT frmChild::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
                 main_.activeDocument() == this) {
                 showLine();
             }
+            return 0;
+        case kDropsWaiting:
+            handOverDrops();
             return 0;
         case WM_MDIACTIVATE:
             if (reinterpret_cast<HWND>(lParam) == hwnd()) main_.documentActivated(*this);

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "document/rich_edit.h"
 #include "main_window.h"
@@ -11,6 +12,10 @@
 
 class frmChild : public win::Window {
  public:
+    // Where nothing is stored.
+    static constexpr char kDefaultTab[] = "    ";
+    static constexpr float kDefaultPoints = 10;
+
     // Creates the window, shown and active, with this caption and page, unchanged and with no path. Throws
     // when the window cannot be made.
     static frmChild& open(MainWindow& main, const std::string& caption, std::string_view page);
@@ -28,6 +33,10 @@ class frmChild : public win::Window {
     // a full one is slower by orders of magnitude; font, wrap and size carry over, what can be undone does
     // not.
     void setPage(std::string_view page);
+    // The same as an edit: the page counts as changed, the caret and the lines in view stay where they are.
+    void replacePage(std::string_view page);
+    // Takes the saved text in place of the edited one, which goes to the clipboard.
+    void toReset(std::string_view saved);
 
     void kidCut();
     void kidCopy();
@@ -57,11 +66,13 @@ class frmChild : public win::Window {
     void layOut() const;
     void close();
     void closingCheck();
+    void handOverDrops();
 
     MainWindow& main_;
     DocumentId id_ = 0;
     std::string tag_;
     std::string tabText_;
     std::unique_ptr<document::RichEdit> txtPad_;
+    std::vector<std::vector<std::string>> drops_;  // not handed over yet
     bool closing_ = false;
 };

@@ -19,6 +19,7 @@ struct Selection {
 struct Font {
     std::string face;
     float points = 0;
+    friend bool operator==(const Font&, const Font&) = default;
 };
 
 class RichEdit : public win::Control {
@@ -33,12 +34,16 @@ class RichEdit : public win::Control {
 
     Selection selection() const;
     void select(long start, long end);
+    void scrollToCaret() const { send(EM_SCROLLCARET); }
     std::string selectedText() const;
     // As one step that can be undone. The caret ends behind the text, which holds no NUL.
     void replaceSelection(const std::string& text);
     std::string textRange(long start, long end) const;
 
-    // The displayed line, from 0, that holds a position.
+    // Displayed lines, from 0.
+    long firstVisibleLine() const { return static_cast<long>(send(EM_GETFIRSTVISIBLELINE)); }
+    void scrollLines(long down) const { send(EM_LINESCROLL, 0, down); }
+    // The one that holds a position.
     long lineOf(long position) const { return static_cast<long>(send(EM_EXLINEFROMCHAR, 0, position)); }
 
     // The first match at or after `start`, whatever the case of its letters; -1 when there is none.

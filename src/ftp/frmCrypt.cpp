@@ -10,21 +10,17 @@
 namespace {
 
 constexpr UINT kCheckUrl = WM_APP;
-constexpr char kProperty[] = "frmCrypt";  // of the main window: the dialog while it is open
-constexpr int kFromMainLeft = 600;        // twips
+constexpr int kFromMainLeft = 600;  // twips
 constexpr int kFromMainTop = 900;
 
 }  // namespace
 
 void frmCrypt::open(MainWindow& main) {
-    const auto shown = static_cast<HWND>(::GetPropA(main.mainHwnd(), kProperty));
-    if (shown) {
-        ::SetForegroundWindow(shown);
-        return;
+    if (const Dialog* shown = find(main.mainHwnd(), "frmCrypt")) {
+        ::SetForegroundWindow(shown->hwnd());
+    } else {
+        (new frmCrypt(main))->showModeless(main.mainHwnd());
     }
-    auto* form = new frmCrypt(main);
-    form->showModeless(main.mainHwnd());
-    ::SetPropA(main.mainHwnd(), kProperty, form->hwnd());
 }
 
 bool frmCrypt::onInit() {
@@ -52,7 +48,6 @@ INT_PTR frmCrypt::onMessage(UINT message, WPARAM, LPARAM) {
 
 void frmCrypt::onClosing() {
     modWndPos::DropTopmost(hwnd());
-    ::RemovePropA(main_.mainHwnd(), kProperty);
     ::SetFocus(main_.mainHwnd());
 }
 

@@ -19,10 +19,7 @@
 namespace {
 
 constexpr UINT kLoad = WM_APP;
-constexpr UINT kShowSite =
-    WM_APP + 1;  // wParam: a site's index; true when this window is to be the one for it
-constexpr UINT kDropped = WM_APP + 2;
-constexpr char kProperty[] = "frmUpload";  // of the main window: the FTP window while it is open
+constexpr UINT kUpload = WM_APP + 1;  // what was dropped before
 
 constexpr int kSessionControls[] = {lstRemoteFiles, cmdUp,  cmdRefresh, cmdMakeDir,
                                     cmdShut,        upType, upType + 1, upType + 2};
@@ -57,28 +54,9 @@ frmUpload::Busy::~Busy() {
     if (--form_.busy_ == 0) form_.finishWork(focus_);
 }
 
-class frmUpload::Drop final : public win::DropTarget {
- public:
-    explicit Drop(const frmUpload& form) : form_(form) {}
-    std::optional<win::DroppedFiles> take() { return std::exchange(files_, std::nullopt); }
-
- private:
-    bool isOpen() const override {
-        return form_.session_->isConnected() && form_.busy_ == 0 && ::IsWindowEnabled(form_.hwnd());
-    }
-    // The program that the files come from is not kept waiting for the server.
-    void onDrop(const std::optional<win::DroppedFiles>& files) override {
-        files_ = files;
-        ::PostMessageA(form_.hwnd(), kDropped, 0, 0);
-    }
-
-    const frmUpload& form_;
-    std::optional<win::DroppedFiles> files_;
-};
-
 void frmUpload::open(MainWindow& main, int siteIndex, ftp::SessionMaker makeSession) {
-    const auto shown = static_cast<HWND>(::GetPropA(main.mainHwnd(), kProperty));
-    if (shown && ::SendMessageA(shown, kShowSite, static_cast<WPARAM>(siteIndex), 0)) return;
+    auto* shown = static_cast<frmUpload*>(find(main.mainHwnd(), "frmUpload"));
+    if (shown && shown->comeForward(siteIndex)) return;
     const HWND connecting = frmConnect::open(main.mainHwnd());
     win::RunPending();
     if (!main.mainHwnd()) return;
@@ -93,8 +71,7 @@ frmUpload::frmUpload(MainWindow& main, int siteIndex, HWND connecting, ftp::Sess
       main_(main),
       siteIndex_(siteIndex),
       connecting_(connecting),
-      session_(makeSession()),
-      drop_(std::make_unique<Drop>(*this)) {}
+      session_(makeSession()) {}
 
 frmUpload::~frmUpload() {
     ftp::Wipe(password_);
@@ -105,8 +82,6 @@ bool frmUpload::onInit() {
     txtPassword_.attach(item(txtPassword));
     showPictures();
     ::CheckRadioButton(hwnd(), upType, upType + 2, upType + 2);
-    drop_->attach(item(lstRemoteFiles));
-    ::SetPropA(main_.mainHwnd(), kProperty, hwnd());
     showIdle();
     return true;
 }
@@ -122,10 +97,8 @@ void frmUpload::showPictures() {
 
 void frmUpload::onClosing() {
     unloadConnect();
-    drop_->detach();
     session_->close();
     modWndPos::DropTopmost(hwnd());
-    ::RemovePropA(main_.mainHwnd(), kProperty);
     ::SetFocus(main_.mainHwnd());
 }
 
@@ -434,13 +407,13 @@ INT_PTR frmUpload::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case kLoad:
             load();
             return TRUE;
-        case kShowSite: {
-            const bool stays = comeForward(static_cast<int>(wParam));
-            if (stays) ::SetWindowLongPtrA(hwnd(), DWLP_MSGRESULT, TRUE);
-            return stays;
-        }
-        case kDropped:
-            if (busy_ == 0) ftp::UploadDropped(*this, drop_->take());
+        case win::kDropped:
+            // The program that the files come from is not kept waiting for the server.
+            dropped_ = *reinterpret_cast<const std::vector<std::string>*>(lParam);
+            ::PostMessageA(hwnd(), kUpload, 0, 0);
+            return TRUE;
+        case kUpload:
+            if (busy_ == 0 && session_->isConnected()) ftp::UploadDropped(*this, std::exchange(dropped_, {}));
             return TRUE;
         case WM_CONTEXTMENU:
             if (reinterpret_cast<HWND>(wParam) != item(lstRemoteFiles)) return FALSE;

@@ -67,7 +67,6 @@ class frmUpload : public win::Dialog {
         HWND focus_;
         win::WaitCursor cursor_;
     };
-    class Drop;
 
     frmUpload(MainWindow& main, int siteIndex, HWND connecting, ftp::SessionMaker makeSession);
     ~frmUpload() override;
@@ -109,8 +108,8 @@ class frmUpload : public win::Dialog {
     std::unique_ptr<ftp::FtpSession> session_;
     ftp::RemoteList lstRemoteFiles_;
     ftp::PasswordField txtPassword_;
-    std::unique_ptr<Drop> drop_;
     std::array<win::UniqueIcon, 4> pictures_;
+    std::vector<std::string> dropped_;
     std::string site_;
     std::string user_;
     std::string password_;  // only until the server has it

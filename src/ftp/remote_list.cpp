@@ -2,9 +2,21 @@
 
 #include <algorithm>
 
+#include "win/drop_target.h"
 #include "win/units.h"
 
 namespace ftp {
+
+void RemoteList::attach(HWND listBox) {
+    Control::attach(listBox);
+    win::AcceptDrops(listBox);
+}
+
+LRESULT RemoteList::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == win::kDropped) return ::SendMessageA(::GetParent(hwnd()), message, wParam, lParam);
+    if (message == WM_DESTROY) win::RefuseDrops(hwnd());
+    return Control::onMessage(message, wParam, lParam);
+}
 
 void RemoteList::clear() {
     send(LB_RESETCONTENT);
@@ -18,12 +30,12 @@ void RemoteList::add(const std::string& line) {
 }
 
 void RemoteList::widen(const std::string& line) {
-    const HDC dc = ::GetDC(box_);
+    const HDC dc = ::GetDC(hwnd());
     const HGDIOBJ old = ::SelectObject(dc, reinterpret_cast<HFONT>(send(WM_GETFONT)));
     SIZE size{};
     ::GetTextExtentPoint32A(dc, line.c_str(), static_cast<int>(line.size()), &size);
     ::SelectObject(dc, old);
-    ::ReleaseDC(box_, dc);
+    ::ReleaseDC(hwnd(), dc);
     const int width = static_cast<int>(size.cx) + win::Scaled(8);
     if (width <= width_) return;
     width_ = width;
@@ -62,11 +74,11 @@ bool RemoteList::findMenuPoint(POINT& at) {
             send(LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&area)) == LB_ERR)
             return false;
         at = {area.left + win::Scaled(16), area.bottom};
-        ::ClientToScreen(box_, &at);
+        ::ClientToScreen(hwnd(), &at);
         return true;
     }
     POINT inside = at;
-    ::ScreenToClient(box_, &inside);
+    ::ScreenToClient(hwnd(), &inside);
     const LRESULT hit = send(LB_ITEMFROMPOINT, 0, MAKELPARAM(inside.x, inside.y));
     if (HIWORD(hit) != 0 || send(LB_GETITEMRECT, LOWORD(hit), reinterpret_cast<LPARAM>(&area)) == LB_ERR ||
         !::PtInRect(&area, inside)) {

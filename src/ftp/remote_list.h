@@ -3,13 +3,14 @@
 
 #include <string>
 
-#include "win/windows.h"
+#include "win/control.h"
 
 namespace ftp {
 
-class RemoteList {
+// What is dropped on it goes to its parent.
+class RemoteList : public win::Control {
  public:
-    void attach(HWND listBox) { box_ = listBox; }
+    void attach(HWND listBox);
 
     void clear();
     void add(const std::string& line);
@@ -23,13 +24,10 @@ class RemoteList {
     bool findMenuPoint(POINT& at);
 
  private:
-    LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
-        return ::SendMessageA(box_, message, wParam, lParam);
-    }
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     std::string line(WPARAM index) const;
     void widen(const std::string& line);
 
-    HWND box_ = nullptr;
     int width_ = 0;  // of the widest line, pixels
 };
 

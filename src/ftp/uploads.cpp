@@ -25,7 +25,7 @@ bool UploadFile(frmUpload& form, FtpSession& session, const std::string& path) {
 }
 
 // False when the window has gone or a file has failed.
-bool UploadEach(frmUpload& form, FtpSession& session, const win::DroppedFiles& files) {
+bool UploadEach(frmUpload& form, FtpSession& session, const std::vector<std::string>& files) {
     bool allDone = true;
     for (const std::string& path : files) {
         allDone = UploadFile(form, session, path) && allDone;
@@ -35,7 +35,7 @@ bool UploadEach(frmUpload& form, FtpSession& session, const win::DroppedFiles& f
     return allDone;
 }
 
-void UploadAll(frmUpload& form, const win::DroppedFiles& files) {
+void UploadAll(frmUpload& form, const std::vector<std::string>& files) {
     form.work(kUploading, [&](FtpSession& session) {
         if (UploadEach(form, session, files)) {
             form.say(files.size() == 1 ? "Upload of " + NameOf(files.front()) + " Complete"
@@ -61,12 +61,12 @@ void UploadDocument(frmUpload& form, const std::string& path) {
 
 }  // namespace
 
-void UploadDropped(frmUpload& form, const std::optional<win::DroppedFiles>& files) {
+void UploadDropped(frmUpload& form, const std::vector<std::string>& files) {
     try {
-        if (files) {
-            UploadAll(form, *files);
-        } else {
+        if (files.empty()) {
             form.say("Unknown Object", "Quillon Note:");
+        } else {
+            UploadAll(form, files);
         }
     } catch (const std::exception&) {
         if (form.isThere()) form.say("Could not upload files.");

@@ -2,16 +2,31 @@
 
 #include <algorithm>
 
+#include "authoring/frmColors.h"
+#include "authoring/frmFind.h"
+#include "authoring/frmReplace.h"
+#include "authoring/mTemplateLoad.h"
+#include "authoring/modPreview.h"
+#include "authoring/modSpell.h"
+#include "authoring/page_reset.h"
+#include "authoring/tag_menus.h"
 #include "document/edit_commands.h"
 #include "files/basMRU.h"
 #include "files/modOpen.h"
 #include "ftp/core/site_list.h"
 #include "ftp/upload_commands.h"
+#include "help/frmAbout.h"
+#include "help/frmHelp.h"
+#include "options/option_commands.h"
+#include "print/modPrint.h"
 #include "shell/menu_table.h"
 #include "shell/shell_commands.h"
 
 namespace shell {
 namespace {
+
+using authoring::OnTags;
+using authoring::TagMenu;
 
 struct Handler {
     Command first;  // an item array is one row: its handler is given the index
@@ -36,7 +51,7 @@ constexpr auto kHandlers = std::to_array<Handler>({
     One(mnuFileClose, OnFileClose),
     One(mnuFileSave, modOpen::OnFileSave),
     One(mnuFileSaveAs, modOpen::OnFileSaveAs),
-    NotYet(mnuFilePrint),
+    One(mnuFilePrint, modPrint::OnFilePrint),
     Array(mnuFileMRU, 8, basMRU::OnFileMRU),
     One(mnuFileExit, OnFileExit),
     One(mnuEditCut, document::OnEditCut),
@@ -46,46 +61,46 @@ constexpr auto kHandlers = std::to_array<Handler>({
     One(mnuEditClear, document::OnEditClear),
     One(mnuEditUndo, document::OnEditUndo),
     Array(mnuWind, 3, document::OnWindowState),
-    NotYet(mnuTagsBasicList, 4),
-    NotYet(mnuTagsBodyInc, 5),
-    NotYet(mnuTagsModList, 6),
-    NotYet(mnuTagsFontList, 5),
-    NotYet(mnuTagsImg),
-    NotYet(mnuTagsHref),
-    NotYet(mnuTagsRuleList, 6),
-    NotYet(mnuTagsAlignList, 4),
-    NotYet(mnutagsTableList, 2),
-    NotYet(mnuTagsFSetList, 4),
-    NotYet(mnuTagsFrameList, 4),
-    NotYet(mnuTagsFormList, 7),
-    NotYet(mnuTagsInputList, 8),
-    NotYet(mnuTagsLsList, 3),
-    NotYet(mnuTagsOlList, 5),
-    NotYet(mnutagsDLs),
-    NotYet(mnuTagsSpecialChar, 7),
-    NotYet(mnuTagsDate),
-    NotYet(mnuScriptTags, 6),
-    NotYet(mnuScriptDrops, 4),
+    Array(mnuTagsBasicList, 4, OnTags<TagMenu::Basic>),
+    Array(mnuTagsBodyInc, 5, OnTags<TagMenu::BodyInc>),
+    Array(mnuTagsModList, 6, OnTags<TagMenu::Mod>),
+    Array(mnuTagsFontList, 5, authoring::OnTagsFont),
+    One(mnuTagsImg, OnTags<TagMenu::Img>),
+    One(mnuTagsHref, OnTags<TagMenu::Href>),
+    Array(mnuTagsRuleList, 6, OnTags<TagMenu::Rule>),
+    Array(mnuTagsAlignList, 4, OnTags<TagMenu::Align>),
+    Array(mnutagsTableList, 2, OnTags<TagMenu::Table>),
+    Array(mnuTagsFSetList, 4, OnTags<TagMenu::FSet>),
+    Array(mnuTagsFrameList, 4, OnTags<TagMenu::Frame>),
+    Array(mnuTagsFormList, 7, OnTags<TagMenu::Form>),
+    Array(mnuTagsInputList, 8, OnTags<TagMenu::Input>),
+    Array(mnuTagsLsList, 3, OnTags<TagMenu::Ls>),
+    Array(mnuTagsOlList, 5, OnTags<TagMenu::Ol>),
+    One(mnutagsDLs, OnTags<TagMenu::DLs>),
+    Array(mnuTagsSpecialChar, 7, OnTags<TagMenu::Special>),
+    One(mnuTagsDate, authoring::OnTagsDate),
+    Array(mnuScriptTags, 6, authoring::OnScriptTags),
+    Array(mnuScriptDrops, 4, authoring::OnScriptDrops),
     One(mnuUploadFile, ftp::OnUploadFile),
     Array(mnuUploadSites, ftp::kMaxMenuItems, ftp::OnUploadSites),
     One(mnuUploadSite, ftp::OnUploadSite),
-    NotYet(mnuOptDefOpenList, 4),
-    NotYet(mnuOptDefSaveList, 4),
-    NotYet(mnuOptsTempAdd),
-    NotYet(mnuOptsTempOrg),
-    NotYet(mnuOptsTempList, 9),
-    NotYet(mnuOptTabsList, 6),
-    NotYet(mnuOptWW),
-    NotYet(mnuOptFont),
-    NotYet(mnuHelpCont),
-    NotYet(mnuHelpAbout),
+    Array(mnuOptDefOpenList, 4, options::OnDefaultOpen),
+    Array(mnuOptDefSaveList, 4, options::OnDefaultSave),
+    One(mnuOptsTempAdd, mTemplateLoad::OnTemplateAdd),
+    One(mnuOptsTempOrg, mTemplateLoad::OnTemplateOrganize),
+    Array(mnuOptsTempList, 9, mTemplateLoad::OnTemplateOpen),
+    Array(mnuOptTabsList, 6, options::OnTabLength),
+    One(mnuOptWW, options::OnWordWrap),
+    One(mnuOptFont, options::OnFonts),
+    One(mnuHelpCont, help::OnHelpContents),
+    One(mnuHelpAbout, help::OnHelpAbout),
     One(mnuHelpOnline, OnHelpOnline),
-    NotYet(tbrFind),
-    NotYet(tbrReplace),
-    NotYet(tbrReset),
-    NotYet(tbrPreview),
-    NotYet(tbrSpelling),
-    NotYet(tbrColor),
+    One(tbrFind, authoring::OnFind),
+    One(tbrReplace, authoring::OnReplace),
+    One(tbrReset, authoring::OnReset),
+    One(tbrPreview, modPreview::OnPreview),
+    One(tbrSpelling, modSpell::OnSpelling),
+    One(tbrColor, authoring::OnColor),
     One(tbrList, OnToolList),
 });
 

@@ -3,14 +3,19 @@
 #include <algorithm>
 #include <exception>
 
+#include "authoring/image_drop.h"
+#include "authoring/page_dialog.h"
 #include "document/edit_commands.h"
 #include "document/frmChild.h"
 #include "files/modOpen.h"
+#include "options/option_commands.h"
 #include "shell/commands.h"
+#include "shell/menu_table.h"
 #include "shell/shell_commands.h"
 #include "win/error.h"
 #include "win/message_box.h"
 #include "win/message_loop.h"
+#include "win/modWndPos.h"
 #include "win/units.h"
 
 namespace {
@@ -55,6 +60,7 @@ void frmNotePad::createParts() {
         if (row.kind == shell::MenuKind::item) menu_.enable(row.id, shell::IsAvailable(row.id));
     }
     menuPictures_.addTo(menu_);
+    options::ShowStored(*this);
     ::SetMenu(hwnd(), menu_.handle());
     menu_.attach(hwnd());
     CLIENTCREATESTRUCT client{nullptr, mdiChildren};
@@ -102,18 +108,18 @@ void frmNotePad::showLine(long line) {
 
 void frmNotePad::enableNew(bool state) {
     menu_.setDocumentOpen(state);
-    for (int index = 0; index < static_cast<int>(shell::kToolbar.size()); ++index) {
+    for (int index = 0; index < static_cast<int>(kToolbar.size()); ++index) {
         const bool needsDocument =
             index >= shell::kFirstDocumentButton && index <= shell::kLastDocumentButton;
-        const Command command = shell::kToolbar[static_cast<std::size_t>(index)].command;
+        const Command command = kToolbar[static_cast<std::size_t>(index)].command;
         Picture2_->enableButton(index, shell::IsAvailable(command) && (state || !needsDocument));
     }
     if (!state) Picture3_->setLineNo("No File Open");
 }
 
 bool frmNotePad::isEnabled(Command command) const {
-    for (std::size_t i = 0; i < shell::kToolbar.size(); ++i) {
-        if (shell::kToolbar[i].command == command) return Picture2_->isEnabled(static_cast<int>(i));
+    for (std::size_t i = 0; i < kToolbar.size(); ++i) {
+        if (kToolbar[i].command == command) return Picture2_->isEnabled(static_cast<int>(i));
     }
     return menu_.isEnabled(command);
 }
@@ -135,7 +141,11 @@ DocumentId frmNotePad::documentCreated(frmChild& document) {
 
 void frmNotePad::documentClosed(frmChild& document) {
     std::erase(documents_, &document);
-    if (documents_.empty()) enableNew(false);
+    if (documents_.empty()) {
+        enableNew(false);
+        options::ShowWordWrap(*this, nullptr);
+    }
+    authoring::UnloadPageDialogs(*this);
     refreshWindowList();
 }
 
@@ -145,7 +155,12 @@ void frmNotePad::documentRenamed(frmChild&) {
 
 void frmNotePad::documentActivated(frmChild& document) {
     document.showLine();
+    options::ShowWordWrap(*this, &document);
     refreshWindowList();
+}
+
+void frmNotePad::filesDropped(DocumentId document, const std::vector<std::string>& paths) {
+    authoring::OnDrop(*this, document, paths);
 }
 
 void frmNotePad::refreshWindowList() {
@@ -171,11 +186,11 @@ void frmNotePad::run(Command command) {
 }
 
 void frmNotePad::clickTool(int index) {
-    if (index < 0 || index >= static_cast<int>(shell::kToolbar.size())) {
+    if (index < 0 || index >= static_cast<int>(kToolbar.size())) {
         win::ShowMessage(hwnd(), "Tool selection error.", "Quillon", MB_ICONEXCLAMATION);
         return;
     }
-    run(shell::kToolbar[static_cast<std::size_t>(index)].command);
+    run(kToolbar[static_cast<std::size_t>(index)].command);
     // A clicked button has taken the focus; unless the command moved it on, it goes back to the page.
     const frmChild* page = hwnd() ? activeDocument() : nullptr;
     if (page && Picture2_->owns(::GetFocus())) page->focusPage();
@@ -239,6 +254,12 @@ LRESULT frmNotePad::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_INITMENUPOPUP:
             if (reinterpret_cast<HMENU>(wParam) == menu_.popup(mnuEdit)) document::UpdateEditMenu(*this);
+            break;
+        case WM_DISPLAYCHANGE:
+            modWndPos::KeepAllOnScreen();
+            break;
+        case WM_SYSCOLORCHANGE:
+            menuPictures_.addTo(menu_);
             break;
         case win::kPreTranslate:
             return preTranslate(*reinterpret_cast<MSG*>(lParam));

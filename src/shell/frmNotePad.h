@@ -33,6 +33,7 @@ class frmNotePad : public win::Window, public MainWindow {
     void documentClosed(frmChild& document) override;
     void documentRenamed(frmChild& document) override;
     void documentActivated(frmChild& document) override;
+    void filesDropped(DocumentId document, const std::vector<std::string>& paths) override;
 
  private:
     frmNotePad();

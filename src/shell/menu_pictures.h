@@ -1,4 +1,4 @@
-// The small pictures beside menu items.
+// The pictures beside menu items.
 #pragma once
 
 #include <vector>
@@ -9,7 +9,8 @@ namespace shell {
 
 class MenuPictures {
  public:
-    // Puts them into the menu, which must not outlive this object.
+    // Puts them into the menu, which must not outlive this object. Again after a change of the system's
+    // colours.
     void addTo(win::MenuBar& menu);
 
  private:

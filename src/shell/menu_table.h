@@ -1,9 +1,10 @@
-// The menu tree and the toolbar: captions, shortcuts and what each needs.
+// The menu tree: captions, shortcuts and what each needs.
 #pragma once
 
 #include <array>
 
 #include "menu_ids.h"
+#include "tool_buttons.h"
 #include "win/menu_bar.h"
 
 namespace shell {
@@ -175,33 +176,7 @@ inline constexpr auto kExtraKeys = std::to_array<MenuRow>({
     Item(tbrReplace, 0, "Replace", "Ctrl+H"),
 });
 
-struct ToolButton {
-    const char* tip;  // tool tip and window text
-    Command command;
-    const char* picture;  // name of the icon resource
-};
-
-inline constexpr auto kToolbar = std::to_array<ToolButton>({
-    {"New", mnuFileNew, "new"},
-    {"Open", mnuFileOpen, "open"},
-    {"Close", mnuFileClose, "close"},
-    {"Save", mnuFileSave, "save"},
-    {"Save As", mnuFileSaveAs, "save_as"},
-    {"Cut", mnuEditCut, "cut"},
-    {"Copy", mnuEditCopy, "copy"},
-    {"Paste", mnuEditPaste, "paste"},
-    {"Undo Cut/Paste", mnuEditUndo, "undo"},
-    {"Find", tbrFind, "find"},
-    {"Replace", tbrReplace, "replace"},
-    {"Reset", tbrReset, "reset"},
-    {"Preview", tbrPreview, "preview"},
-    {"Spelling", tbrSpelling, "spelling"},
-    {"Print", mnuFilePrint, "print"},
-    {"Color", tbrColor, "color"},
-    {"Help", mnuHelpCont, "help"},
-});
-
-// The buttons of these indices work only while a document is open.
+// The toolbar buttons of these indices work only while a document is open.
 inline constexpr int kFirstDocumentButton = 2;
 inline constexpr int kLastDocumentButton = 15;
 

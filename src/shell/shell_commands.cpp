@@ -5,6 +5,7 @@
 #include "settings/CRegSettings.h"
 #include "shell/menu_table.h"
 #include "win/error.h"
+#include "win/shell_open.h"
 
 namespace shell {
 namespace {
@@ -27,7 +28,7 @@ void OnFileExit(MainWindow& main, int) {
 }
 
 void OnHelpOnline(MainWindow&, int) {
-    ::ShellExecuteA(nullptr, nullptr, kOnlineHelp, nullptr, nullptr, SW_SHOWNORMAL);
+    win::OpenAddress(kOnlineHelp);
 }
 
 void OnToolList(MainWindow& main, int) {

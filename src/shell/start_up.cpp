@@ -2,6 +2,7 @@
 
 #include <exception>
 
+#include "authoring/mTemplateLoad.h"
 #include "document/frmChild.h"
 #include "files/basMRU.h"
 #include "files/modPubFuncs.h"
@@ -20,30 +21,32 @@ namespace {
 constexpr int kLeft = 180;  // twips
 constexpr int kTop = 160;
 
-void OpenStartFile(MainWindow& main, const std::string& file) {
-    // Made absolute, because the current folder moves with every file dialog.
-    const std::string path = win::FullPath(file);
-    if (!files::OpenFile(main, path)) {
-        if (!main.mainHwnd()) return;
-        basMRU::LoadRecentFiles(main);
-        win::ShowMessage(main.mainHwnd(), "Unable to open File", "Quillon Note:");
-        return;
-    }
-    if (settings::Get("File Count", "Count").empty()) {
+// The recent files, and what there is to say about the start document.
+void FinishStart(MainWindow& main, const std::string& path, bool opened) {
+    const bool firstRun = settings::Get("File Count", "Count").empty();
+    if (firstRun && opened && !path.empty()) {
         settings::Save("File Count", "Count", "0");
     } else {
         basMRU::LoadRecentFiles(main);
     }
-    basMRU::AddRecentFile(main, path);
+    if (path.empty()) return;
+    if (opened) {
+        basMRU::AddRecentFile(main, path);
+    } else {
+        win::ShowMessage(main.mainHwnd(), "Unable to open File", "Quillon Note:");
+    }
 }
 
-void OpenStartDocument(MainWindow& main, const std::string& file) {
-    if (modPubFuncs::FileExists(file)) {
-        OpenStartFile(main, file);
-    } else {
-        OnFileNew(main, 0);
-        basMRU::LoadRecentFiles(main);
-    }
+// Made absolute, because the current folder moves with every file dialog. Empty when there is no such file.
+std::string StartFile(const std::string& file) {
+    return modPubFuncs::FileExists(file) ? win::FullPath(file) : std::string();
+}
+
+// False when the file cannot be read.
+bool OpenStartDocument(MainWindow& main, const std::string& path) {
+    if (!path.empty()) return files::OpenFile(main, path) != nullptr;
+    OnFileNew(main, 0);
+    return true;
 }
 
 }  // namespace
@@ -54,11 +57,16 @@ std::string CommandLineFile() {
 
 void Load(MainWindow& main, const std::string& file) {
     modWndPos::MoveTo(main.mainHwnd(), kLeft, kTop);
-    ::ShowWindow(main.mainHwnd(), SW_SHOWDEFAULT);
+    ftp::LoadSiteMenu(main);
+    mTemplateLoad::RebuildTemplateMenu(main);
     try {
-        ftp::LoadSiteMenu(main);
-        OpenStartDocument(main, file);
+        // The window comes up with its page in it, so that all is painted once.
+        const std::string path = StartFile(file);
+        const bool opened = OpenStartDocument(main, path);
+        ::ShowWindow(main.mainHwnd(), SW_SHOWDEFAULT);
+        FinishStart(main, path, opened);
     } catch (const std::exception&) {
+        ::ShowWindow(main.mainHwnd(), SW_SHOWDEFAULT);
         win::ShowMessage(main.mainHwnd(),
                          "There was a loading error, likely due to an incompatible filetype.\r\n\r\n"
                          "                       Quillon will open without it.",

@@ -1,20 +1,12 @@
 #include "shell/toolbar.h"
 
-#include "win/error.h"
+#include "tool_buttons.h"
 #include "win/units.h"
 
 namespace shell {
 namespace {
 
-constexpr int kPicture = 16;  // all measures in pixels of a 96-dpi screen
-constexpr int kButton = 24;
-constexpr int kMargin = 2;
-constexpr int kGap = 6;  // between groups
-
-// Buttons that begin a group stand a little apart.
-bool BeginsGroup(std::size_t index) {
-    return index == 5 || index == 9 || index == 11 || index == 15;
-}
+constexpr int kMargin = 2;  // pixels of a 96-dpi screen
 
 }  // namespace
 
@@ -29,55 +21,14 @@ Toolbar& Toolbar::open(HWND parent, std::function<void(int)> onClick) {
 }
 
 int Toolbar::height() {
-    return win::Scaled(kButton + 2 * kMargin);
+    return win::PictureButtons::height() + 2 * win::Scaled(kMargin);
 }
 
 void Toolbar::makeButtons() {
-    const HINSTANCE instance = ::GetModuleHandleA(nullptr);
-    const HWND tips = ::CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP, 0,
-                                        0, 0, 0, hwnd(), nullptr, instance, nullptr);
-    const int picture = win::Scaled(kPicture);
-    const int size = win::Scaled(kButton);
-    int left = win::Scaled(kMargin);
-    for (std::size_t i = 0; i < kToolbar.size(); ++i) {
-        if (BeginsGroup(i)) left += win::Scaled(kGap);
-        Picture1_[i] = win::Check(
-            ::CreateWindowExA(0, "BUTTON", kToolbar[i].tip, WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW,
-                              left, win::Scaled(kMargin), size, size, hwnd(),
-                              reinterpret_cast<HMENU>(static_cast<INT_PTR>(i)), instance, nullptr));
-        pictures_[i].reset(static_cast<HICON>(
-            ::LoadImageA(instance, kToolbar[i].picture, IMAGE_ICON, picture, picture, LR_DEFAULTCOLOR)));
-        if (tips) addTip(tips, Picture1_[i], kToolbar[i].tip);
-        left += size;
-    }
-}
-
-void Toolbar::addTip(HWND tips, HWND button, const char* text) const {
-    TOOLINFOA tool{};
-    tool.cbSize = TTTOOLINFOA_V2_SIZE;
-    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
-    tool.hwnd = hwnd();
-    tool.uId = reinterpret_cast<UINT_PTR>(button);
-    tool.lpszText = const_cast<char*>(text);
-    ::SendMessageA(tips, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
-}
-
-void Toolbar::draw(const DRAWITEMSTRUCT& item) const {
-    RECT area = item.rcItem;
-    const bool pressed = (item.itemState & ODS_SELECTED) != 0;
-    const bool disabled = (item.itemState & ODS_DISABLED) != 0;
-    ::FillRect(item.hDC, &area, ::GetSysColorBrush(COLOR_BTNFACE));
-    if (pressed) ::DrawEdge(item.hDC, &area, BDR_SUNKENOUTER, BF_RECT);
-    const int picture = win::Scaled(kPicture);
-    const int shift = pressed ? 1 : 0;
-    const int left = (area.right - picture) / 2 + shift;
-    const int top = (area.bottom - picture) / 2 + shift;
-    ::DrawStateA(item.hDC, nullptr, nullptr, reinterpret_cast<LPARAM>(pictures_[item.CtlID].get()), 0, left,
-                 top, picture, picture, static_cast<UINT>(DST_ICON) | (disabled ? DSS_DISABLED : DSS_NORMAL));
-    if (item.itemState & ODS_FOCUS) {
-        ::InflateRect(&area, -2, -2);
-        ::DrawFocusRect(item.hDC, &area);
-    }
+    Picture1_.open(hwnd(), win::Scaled(kMargin), win::Scaled(kMargin));
+    int index = 0;
+    for (const ToolButton& button : kToolbar)
+        Picture1_.add(index++, button.tip, button.picture, button.beginsGroup);
 }
 
 LRESULT Toolbar::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -91,8 +42,7 @@ LRESULT Toolbar::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             onClick_(LOWORD(wParam));
             return 0;
         case WM_DRAWITEM:
-            draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
-            return TRUE;
+            return Picture1_.draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
         default:
             return defaultHandling(message, wParam, lParam);
     }

@@ -1,11 +1,9 @@
-// The toolbar: a strip of real buttons, so that each has a name, a tool tip and a place for the keyboard.
+// The toolbar: a strip of picture buttons.
 #pragma once
 
-#include <array>
 #include <functional>
 
-#include "shell/menu_table.h"
-#include "win/unique.h"
+#include "win/picture_buttons.h"
 #include "win/window.h"
 
 namespace shell {
@@ -16,23 +14,20 @@ class Toolbar : public win::Window {
     static Toolbar& open(HWND parent, std::function<void(int index)> onClick);
 
     static int height();  // pixels
-    void enableButton(int index, bool enabled) const { ::EnableWindow(Picture1_[index_(index)], enabled); }
-    bool isEnabled(int index) const { return ::IsWindowEnabled(Picture1_[index_(index)]) != FALSE; }
+    void enableButton(int index, bool enabled) const { ::EnableWindow(button(index), enabled); }
+    bool isEnabled(int index) const { return ::IsWindowEnabled(button(index)) != FALSE; }
     bool owns(HWND window) const { return ::GetParent(window) == hwnd(); }
 
  private:
     explicit Toolbar(std::function<void(int)> onClick) : onClick_(std::move(onClick)) {}
     ~Toolbar() override = default;
 
-    static std::size_t index_(int index) { return static_cast<std::size_t>(index); }
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void makeButtons();
-    void addTip(HWND tips, HWND button, const char* text) const;
-    void draw(const DRAWITEMSTRUCT& item) const;
+    HWND button(int index) const { return Picture1_.button(static_cast<std::size_t>(index)); }
 
     std::function<void(int)> onClick_;
-    std::array<HWND, kToolbar.size()> Picture1_{};
-    std::array<win::UniqueIcon, kToolbar.size()> pictures_;
+    win::PictureButtons Picture1_;
 };
 
 }  // namespace shell

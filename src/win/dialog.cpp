@@ -27,6 +27,19 @@ void Dialog::showModeless(HWND owner) {
     ::ShowWindow(hwnd_, SW_SHOW);
 }
 
+Dialog* Dialog::find(HWND owner, std::string_view templateName) {
+    HWND window = nullptr;
+    while ((window = ::FindWindowExA(nullptr, window, WC_DIALOG, nullptr)) != nullptr) {
+        if (::GetWindow(window, GW_OWNER) != owner ||
+            ::GetWindowLongPtrA(window, DWLP_DLGPROC) != reinterpret_cast<LONG_PTR>(procedure)) {
+            continue;
+        }
+        auto* dialog = reinterpret_cast<Dialog*>(::GetWindowLongPtrA(window, DWLP_USER));
+        if (dialog && !dialog->modal_ && dialog->templateName_ == templateName) return dialog;
+    }
+    return nullptr;
+}
+
 void Dialog::close(INT_PTR result) {
     if (modal_) {
         ::EndDialog(hwnd_, result);

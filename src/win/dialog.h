@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "win/windows.h"
 
@@ -15,12 +16,16 @@ class Dialog {
 
     HWND hwnd() const { return hwnd_; }  // null before and after the window's life
 
+    // The open modeless dialog of this template that `owner` owns; null when there is none.
+    static Dialog* find(HWND owner, std::string_view templateName);
+
     // Runs the dialog over `owner` and returns what close() was given. The object belongs to the caller.
     INT_PTR showModal(HWND owner);
     // Creates and shows the dialog. The object, made with new, deletes itself after the window.
     void showModeless(HWND owner);
     // The same, not shown yet.
     void createModeless(HWND owner);
+    void close(INT_PTR result = 0);
 
  protected:
     // `templateName` is the name of the dialog template, which is the form's.
@@ -36,7 +41,6 @@ class Dialog {
     // Just before the window goes, whoever closes it.
     virtual void onClosing() {}
 
-    void close(INT_PTR result = 0);
     HWND item(int id) const { return ::GetDlgItem(hwnd_, id); }
     std::string itemText(int id) const;
     void setItemText(int id, const std::string& text) const { ::SetDlgItemTextA(hwnd_, id, text.c_str()); }

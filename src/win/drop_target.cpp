@@ -1,70 +1,105 @@
 #include "win/drop_target.h"
 
 #include <exception>
+#include <string>
+#include <vector>
+
+#include "win/error.h"
 
 namespace win {
 namespace {
 
-DroppedFiles Paths(HDROP drop) {
-    DroppedFiles files(::DragQueryFileA(drop, 0xFFFFFFFF, nullptr, 0));
-    for (UINT i = 0; i < files.size(); ++i) {
-        const UINT length = ::DragQueryFileA(drop, i, nullptr, 0);
-        files[i].resize(length + 1);
-        files[i].resize(::DragQueryFileA(drop, i, files[i].data(), length + 1));
-    }
-    return files;
+std::string DroppedPath(HDROP files, UINT index) {
+    std::string path(::DragQueryFileA(files, index, nullptr, 0) + 1U, '\0');
+    path.resize(::DragQueryFileA(files, index, path.data(), static_cast<UINT>(path.size())));
+    return path;
 }
 
-std::optional<DroppedFiles> Files(IDataObject* data) {
+std::vector<std::string> DroppedFiles(IDataObject& data) {
     FORMATETC format{CF_HDROP, nullptr, DVASPECT_CONTENT, -1, TYMED_HGLOBAL};
     STGMEDIUM medium{};
-    if (FAILED(data->GetData(&format, &medium))) return std::nullopt;
-    DroppedFiles files = Paths(static_cast<HDROP>(medium.hGlobal));
+    std::vector<std::string> paths;
+    if (FAILED(data.GetData(&format, &medium))) return paths;
+    const auto files = reinterpret_cast<HDROP>(medium.hGlobal);
+    const UINT count = ::DragQueryFileA(files, 0xFFFFFFFF, nullptr, 0);
+    for (UINT i = 0; i < count; ++i) paths.push_back(DroppedPath(files, i));
     ::ReleaseStgMedium(&medium);
-    return files;
+    return paths;
 }
+
+// Owned by the system's references alone: a program that drags may hold one when the window has gone.
+class DropTarget : public IDropTarget {
+ public:
+    explicit DropTarget(HWND window) : window_(window) {}
+    virtual ~DropTarget() = default;
+
+    STDMETHOD(QueryInterface)(REFIID iid, void** object) override {
+        const bool known = iid == IID_IUnknown || iid == IID_IDropTarget;
+        *object = known ? this : nullptr;
+        if (known) AddRef();
+        return known ? S_OK : E_NOINTERFACE;
+    }
+    STDMETHOD_(ULONG, AddRef)() override { return ++references_; }
+    STDMETHOD_(ULONG, Release)() override {
+        const ULONG left = --references_;
+        if (left == 0) delete this;
+        return left;
+    }
+
+    STDMETHOD(DragEnter)(IDataObject*, DWORD, POINTL, DWORD* effect) override {
+        *effect = allowed(*effect);
+        return S_OK;
+    }
+    STDMETHOD(DragOver)(DWORD, POINTL, DWORD* effect) override {
+        *effect = allowed(*effect);
+        return S_OK;
+    }
+    STDMETHOD(DragLeave)() override { return S_OK; }
+
+    STDMETHOD(Drop)(IDataObject* data, DWORD, POINTL, DWORD* effect) override {
+        const DWORD taken = allowed(*effect);
+        // Never a move: the source would delete what it gave.
+        *effect = taken == DROPEFFECT_MOVE ? DROPEFFECT_NONE : taken;
+        if (taken == DROPEFFECT_NONE || !data) return S_OK;
+        try {
+            const std::vector<std::string> paths = DroppedFiles(*data);
+            if (paths.empty()) *effect = DROPEFFECT_NONE;
+            ::SendMessageA(window_, kDropped, 0, reinterpret_cast<LPARAM>(&paths));
+            return S_OK;
+        } catch (const std::exception&) {
+            return E_OUTOFMEMORY;
+        }
+    }
+
+ private:
+    // One effect of those that the source offers, none while a dialog keeps the user from the window.
+    DWORD allowed(DWORD offered) const {
+        if (!::IsWindowEnabled(::GetAncestor(window_, GA_ROOT))) return DROPEFFECT_NONE;
+        for (const DWORD effect : {DROPEFFECT_COPY, DROPEFFECT_LINK, DROPEFFECT_MOVE}) {
+            if (offered & effect) return effect;
+        }
+        return DROPEFFECT_NONE;
+    }
+
+    HWND window_;
+    ULONG references_ = 1;
+};
 
 }  // namespace
 
-void DropTarget::attach(HWND window) {
-    // Some controls come with a target of their own.
-    if (::RegisterDragDrop(window, this) == DRAGDROP_E_ALREADYREGISTERED) {
+void AcceptDrops(HWND window) {
+    auto* target = new DropTarget(window);
+    HRESULT result = ::RegisterDragDrop(window, target);
+    if (result == DRAGDROP_E_ALREADYREGISTERED) {
         ::RevokeDragDrop(window);
-        ::RegisterDragDrop(window, this);
+        result = ::RegisterDragDrop(window, target);
     }
-    window_ = window;
+    target->Release();
+    if (FAILED(result)) throw Error(static_cast<DWORD>(result));
 }
 
-void DropTarget::detach() {
-    if (window_) ::RevokeDragDrop(window_);
-    window_ = nullptr;
-}
-
-HRESULT DropTarget::QueryInterface(REFIID id, void** object) {
-    const bool known = id == IID_IUnknown || id == IID_IDropTarget;
-    *object = known ? static_cast<IDropTarget*>(this) : nullptr;
-    return known ? S_OK : E_NOINTERFACE;
-}
-
-HRESULT DropTarget::DragEnter(IDataObject*, DWORD keys, POINTL at, DWORD* effect) {
-    return DragOver(keys, at, effect);
-}
-
-HRESULT DropTarget::DragOver(DWORD, POINTL, DWORD* effect) {
-    *effect &= isOpen() ? DROPEFFECT_COPY : DROPEFFECT_NONE;
-    return S_OK;
-}
-
-HRESULT DropTarget::Drop(IDataObject* data, DWORD keys, POINTL at, DWORD* effect) {
-    DragOver(keys, at, effect);
-    if (*effect == DROPEFFECT_NONE) return S_OK;
-    try {
-        onDrop(Files(data));
-        return S_OK;
-    } catch (const std::exception&) {
-        *effect = DROPEFFECT_NONE;
-        return E_FAIL;
-    }
+void RefuseDrops(HWND window) {
+    ::RevokeDragDrop(window);
 }
 
 }  // namespace win

@@ -12,6 +12,10 @@ void DropTopmost(HWND window);
 // in the work area of the nearest monitor.
 void MoveTo(HWND window, int leftTwips, int topTwips);
 
+// Moves every open window of this thread that a smaller screen has left outside, wholly or in part, back
+// onto the nearest monitor; one with a sizing frame shrinks to fit.
+void KeepAllOnScreen();
+
 // The window's rectangle on the screen, in twips.
 RECT RectInTwips(HWND window);
 

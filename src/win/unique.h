@@ -42,5 +42,6 @@ using UniqueBitmap = Unique<HBITMAP, ::DeleteObject>;
 using UniqueBrush = Unique<HBRUSH, ::DeleteObject>;
 using UniqueFont = Unique<HFONT, ::DeleteObject>;
 using UniqueAccelerators = Unique<HACCEL, ::DestroyAcceleratorTable>;
+using UniqueDc = Unique<HDC, ::DeleteDC>;
 
 }  // namespace win

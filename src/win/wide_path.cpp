@@ -1,5 +1,6 @@
 #include "win/wide_path.h"
 
+#include "win/unicode.h"
 #include "win/windows.h"
 
 namespace win {
@@ -7,22 +8,6 @@ namespace {
 
 // Room for the short name that a folder needs beside its own path.
 constexpr std::size_t kOrdinaryLimit = MAX_PATH - 12;
-
-std::wstring ToWide(const std::string& text) {
-    const int size = static_cast<int>(text.size());
-    const int length = ::MultiByteToWideChar(CP_ACP, 0, text.data(), size, nullptr, 0);
-    std::wstring wide(static_cast<std::size_t>(length), L'\0');
-    ::MultiByteToWideChar(CP_ACP, 0, text.data(), size, wide.data(), length);
-    return wide;
-}
-
-std::string ToAnsi(const std::wstring& wide) {
-    const int size = static_cast<int>(wide.size());
-    const int length = ::WideCharToMultiByte(CP_ACP, 0, wide.data(), size, nullptr, 0, nullptr, nullptr);
-    std::string text(static_cast<std::size_t>(length), '\0');
-    ::WideCharToMultiByte(CP_ACP, 0, wide.data(), size, text.data(), length, nullptr, nullptr);
-    return text;
-}
 
 std::wstring FullWidePath(const std::wstring& path) {
     const DWORD needed = ::GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);

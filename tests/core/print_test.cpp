@@ -58,7 +58,7 @@ TEST(NextPrintLine, AMegabyteWithoutABlankIsMeasuredByTheLineOnly) {
                            },
                            {}};
     const std::string text(1'000'000, 'x');
-    EXPECT_EQ(Broken(text, 1000, counting).size(), 10'000U);
+    EXPECT_EQ(Broken(text, 1000, counting, 1).size(), 10'000U);
     EXPECT_LT(measured, 15 * text.size());
 }
 

@@ -28,7 +28,8 @@ void CheckLocalName(const std::string& remote, std::size_t bufferSize) {
     Check(buffer.empty() || buffer.back() == '\0');
 }
 
-void CheckMoveUp(const std::string& current, const std::string& root) {
+void CheckMoveUp(const std::string& current, std::string root) {
+    while (root.size() > 1 && root.back() == '/') root.pop_back();
     std::string directory = current;
     for (std::size_t steps = 0;; ++steps) {
         Check(steps <= current.size() + 2);

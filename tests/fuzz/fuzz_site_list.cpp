@@ -12,18 +12,15 @@ namespace {
 
 using test::SiteStore;
 
-std::set<std::string> Urls(const SiteStore& store) {
-    std::set<std::string> urls;
-    for (const ftp::Site& site : ftp::ReadSites(store.read())) urls.insert(site.url);
-    return urls;
-}
-
 // A site's name and password are made from its address, unless a row is missing.
-void CheckPairs(const SiteStore& store) {
+std::set<std::string> CheckedUrls(const SiteStore& store) {
+    std::set<std::string> urls;
     for (const ftp::Site& site : ftp::ReadSites(store.read())) {
         Check(site.name.empty() || site.name == "n" + site.url);
         Check(site.storedPassword.empty() || site.storedPassword == "p" + site.url);
+        urls.insert(site.url);
     }
+    return urls;
 }
 
 void CheckMenu(const SiteStore& store) {
@@ -48,12 +45,11 @@ std::string MarkedUrl(const SiteStore& store) {
 void ApplyInSteps(SiteStore& store, const ftp::SiteChanges& changes, const std::string& newUrl) {
     SiteStore whole = store;
     whole.apply(changes);
-    std::set<std::string> kept = Urls(whole);
+    std::set<std::string> kept = CheckedUrls(whole);
     kept.erase(newUrl);
     for (const ftp::SiteChange& change : changes) {
         store.apply(change);
-        CheckPairs(store);
-        const std::set<std::string> urls = Urls(store);
+        const std::set<std::string> urls = CheckedUrls(store);
         Check(std::includes(urls.begin(), urls.end(), kept.begin(), kept.end()));
     }
     CheckMenu(store);
@@ -80,8 +76,8 @@ void AddSite(SiteStore& store, const std::string& url) {
     if (!addition.added) return Check(ftp::LastUsedIndex(store.read()) == std::nullopt);
     CheckOrder(store);
     Check(ftp::FindSite(store.read(), 0)->url == url);
-    if (!marked.empty()) Check(MarkedUrl(store) == marked || Urls(store).count(marked) == 0);
-    if (marked.empty() && Urls(store).size() > 1) Check(MarkedUrl(store).empty());
+    if (!marked.empty()) Check(MarkedUrl(store) == marked || CheckedUrls(store).count(marked) == 0);
+    if (marked.empty() && CheckedUrls(store).size() > 1) Check(MarkedUrl(store).empty());
 }
 
 void RemoveSite(SiteStore& store, int index) {

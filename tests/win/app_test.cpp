@@ -58,7 +58,7 @@ User::User(std::vector<Act> acts)
           for (const Act& act : acts) {
               HWND dialog = nullptr;
               const bool came = seen::Until([&] {
-                  dialog = seen::Titled(process, act.title);
+                  dialog = seen::Dialog(process, act.title);
                   return dialog && dialog != last && ::IsWindowEnabled(dialog);
               });
               if (!came) {

@@ -54,7 +54,7 @@ std::optional<std::string_view> NextPrintLine(std::string_view text, std::size_t
         const std::size_t end = line.find_first_of(kLineEnds);
         const bool isWhole = end != std::string_view::npos || line.size() == rest.size();
         line = line.substr(0, end);
-        if (!line.empty() && measure.width(line) > width) break;
+        if (measure.width(line) > width) break;
         if (isWhole) {
             position = SkipLineEnd(text, position + line.size());
             return line;

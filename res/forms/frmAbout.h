@@ -1,0 +1,4 @@
+#define cmdOK IDOK
+#define lblDescription 101
+#define lblVersion 102
+#define lblLinks 110

@@ -1,0 +1,1 @@
+#define lblColor 101

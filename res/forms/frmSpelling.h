@@ -1,0 +1,12 @@
+#define cmdChange 1
+#define cmdCancel 2
+#define lblWordIs 101
+#define lblWord 102
+#define lblContext 103
+#define lblChange 104
+#define txtChange 105
+#define lblSuggestions 106
+#define lstSuggestions 107
+#define cmdIgnore 108
+#define cmdIgnoreAll 109
+#define cmdAdd 110

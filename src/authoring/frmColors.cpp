@@ -1,0 +1,142 @@
+#include "authoring/frmColors.h"
+
+#include "document/edit_commands.h"
+#include "document/frmChild.h"
+#include "forms/frmColors.h"
+#include "win/clipboard.h"
+#include "win/error.h"
+#include "win/message_box.h"
+#include "win/message_loop.h"
+#include "win/modWndPos.h"
+#include "win/units.h"
+
+namespace {
+
+using authoring::kSwatchCount;
+using authoring::PlaceOfSwatch;
+using authoring::Swatch;
+
+constexpr int kMargin = 120;  // twips: from the edges of the screen
+constexpr int kLabelHeight = 300;
+constexpr int kPadding = 45;
+
+// The main window's property that holds the open chart.
+constexpr char kOpenChart[] = "frmColors";
+
+void MoveToCorner(HWND chart) {
+    RECT rect{};
+    ::GetWindowRect(chart, &rect);
+    const int width = win::TwipsFromPixels(rect.right - rect.left);
+    const int screen = win::TwipsFromPixels(::GetSystemMetrics(SM_CXSCREEN));
+    modWndPos::MoveTo(chart, screen - (width + kMargin), kMargin);
+}
+
+}  // namespace
+
+void frmColors::open(MainWindow& main) {
+    if (const auto chart = static_cast<HWND>(::GetPropA(main.mainHwnd(), kOpenChart))) {
+        MoveToCorner(chart);
+        ::SetActiveWindow(chart);
+        return;
+    }
+    (new frmColors(main))->showModeless(main.mainHwnd());
+}
+
+bool frmColors::onInit() {
+    ::SetPropA(main_.mainHwnd(), kOpenChart, hwnd());
+    for (int i = 0; i < kSwatchCount; ++i) Text1_[static_cast<std::size_t>(i)].create(hwnd(), i);
+    layOut();
+    modWndPos::MakeTopmost(hwnd());
+    MoveToCorner(hwnd());
+    ::SetFocus(Text1_.front().hwnd());
+    return false;
+}
+
+void frmColors::layOut() const {
+    const authoring::SwatchPlace last = PlaceOfSwatch(kSwatchCount - 1);
+    const int width = win::PixelsFromTwips(last.left + last.size);
+    const int labelTop = win::PixelsFromTwips(last.top + last.size + kPadding);
+    const int padding = win::PixelsFromTwips(kPadding);
+    const int labelHeight = win::PixelsFromTwips(kLabelHeight);
+    ::MoveWindow(item(lblColor), padding, labelTop, width - 2 * padding, labelHeight, FALSE);
+    RECT area{0, 0, width, labelTop + labelHeight};
+    ::AdjustWindowRectEx(&area, static_cast<DWORD>(::GetWindowLongA(hwnd(), GWL_STYLE)), FALSE,
+                         static_cast<DWORD>(::GetWindowLongA(hwnd(), GWL_EXSTYLE)));
+    ::SetWindowPos(hwnd(), nullptr, 0, 0, area.right - area.left, area.bottom - area.top,
+                   SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void frmColors::insert(int index) const {
+    win::SetClipboardText(main_.mainHwnd(), authoring::TextOfSwatch(index));
+    const frmChild* page = main_.activeDocument();
+    if (!page) return;
+    document::InsertAtCaret(main_, win::ClipboardText(main_.mainHwnd()));
+    page->focusPage();
+}
+
+void frmColors::pick(int index) {
+    // The chart stays above a dialog that keeps the user from the page.
+    if (!::IsWindowEnabled(main_.mainHwnd())) {
+        ::MessageBeep(MB_OK);
+        return;
+    }
+    try {
+        insert(index);
+    } catch (const win::Error& error) {
+        win::ShowMessage(hwnd(), error.what(), "Quillon", MB_ICONEXCLAMATION);
+    }
+    unload();
+}
+
+void frmColors::unload() {
+    if (closing_) return;
+    closing_ = true;
+    win::RunPending();
+    if (!hwnd()) return;
+    modWndPos::DropTopmost(hwnd());
+    close();
+    if (const frmChild* page = main_.activeDocument()) page->focusPage();
+}
+
+bool frmColors::onCommand(WORD id, WORD notification) {
+    if (id == IDCANCEL) {
+        unload();
+        return true;
+    }
+    const int control = id == IDOK ? ::GetDlgCtrlID(::GetFocus()) : id;
+    if (!Swatch::isSwatch(control)) return false;
+    if (notification == BN_CLICKED) pick(control - Swatch::kFirstId);
+    // The label has no quotes, so that only the box has the text that is inserted.
+    if (notification == EN_SETFOCUS || notification == Swatch::kHovered) {
+        setItemText(lblColor, authoring::TextOfSwatch(control - Swatch::kFirstId).substr(1, 7));
+    }
+    return true;
+}
+
+INT_PTR frmColors::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_CTLCOLOREDIT:
+        case WM_CTLCOLORSTATIC: {
+            const int id = ::GetDlgCtrlID(reinterpret_cast<HWND>(lParam));
+            if (!Swatch::isSwatch(id)) return FALSE;
+            return reinterpret_cast<INT_PTR>(Swatch::paint(reinterpret_cast<HDC>(wParam), id));
+        }
+        case WM_KEYDOWN:
+            if (wParam == VK_ESCAPE) unload();
+            return TRUE;
+        default:
+            return FALSE;
+    }
+}
+
+void frmColors::onClosing() {
+    ::RemovePropA(main_.mainHwnd(), kOpenChart);
+}
+
+namespace authoring {
+
+void OnColor(MainWindow& main, int) {
+    frmColors::open(main);
+}
+
+}  // namespace authoring

@@ -1,0 +1,37 @@
+// The chart of the 216 web-safe colours.
+#pragma once
+
+#include <array>
+
+#include "authoring/core/web_colors.h"
+#include "authoring/swatch.h"
+#include "main_window.h"
+#include "win/dialog.h"
+
+class frmColors : public win::Dialog {
+ public:
+    // Shows the chart at the top right of the screen. One that is open already goes back there.
+    static void open(MainWindow& main);
+
+ private:
+    explicit frmColors(MainWindow& main) : Dialog("frmColors"), main_(main) {}
+
+    bool onInit() override;
+    bool onCommand(WORD id, WORD notification) override;
+    INT_PTR onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void onClosing() override;
+    void layOut() const;
+    void pick(int index);
+    void insert(int index) const;
+    void unload();
+
+    MainWindow& main_;
+    std::array<authoring::Swatch, authoring::kSwatchCount> Text1_;
+    bool closing_ = false;
+};
+
+namespace authoring {
+
+void OnColor(MainWindow& main, int);
+
+}  // namespace authoring

@@ -1,0 +1,73 @@
+#include "authoring/template_store.h"
+
+#include "settings/CRegSettings.h"
+#include "win/wide_path.h"
+#include "win/windows.h"
+
+namespace authoring {
+namespace {
+
+constexpr char kNames[] = "templateNames";
+constexpr char kIds[] = "templateIDs";
+
+DWORD Attributes(const std::string& path) {
+    return ::GetFileAttributesW(win::WidePath(path).c_str());
+}
+
+}  // namespace
+
+std::string TemplateFolder() {
+    std::string program(MAX_PATH, '\0');
+    DWORD length = ::GetModuleFileNameA(nullptr, program.data(), MAX_PATH);
+    while (length == program.size()) {
+        program.resize(program.size() * 2);
+        length = ::GetModuleFileNameA(nullptr, program.data(), static_cast<DWORD>(program.size()));
+    }
+    program.resize(length);
+    return program.substr(0, program.rfind('\\')) + "\\Templates";
+}
+
+std::string TemplatePath(const std::string& name) {
+    return TemplateFolder() + "\\" + name;
+}
+
+TemplateList ReadTemplates() {
+    const CRegSettings settings;
+    TemplateList list;
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        const std::string key = std::to_string(i);
+        list[i] = {settings.GetRegSetting(kNames, key), settings.GetRegSetting(kIds, key)};
+    }
+    return list;
+}
+
+bool WriteTemplates(const TemplateList& list, Moved moved) {
+    const CRegSettings settings;
+    bool done = true;
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        const std::size_t slot = moved == Moved::up ? i : list.size() - 1 - i;
+        const std::string key = std::to_string(slot);
+        done = done && settings.SaveRegSetting(kNames, key, list[slot].name) &&
+               settings.SaveRegSetting(kIds, key, list[slot].id);
+    }
+    return done;
+}
+
+bool SetFileReadOnly(const std::string& path, bool readOnly) {
+    const DWORD attributes =
+        readOnly ? FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_ARCHIVE : FILE_ATTRIBUTE_ARCHIVE;
+    return ::SetFileAttributesW(win::WidePath(path).c_str(), attributes) != FALSE;
+}
+
+WritableFile::WritableFile(const std::string& path) : path_(path) {
+    const DWORD attributes = Attributes(path);
+    wasReadOnly_ = attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0 &&
+                   (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+    if (wasReadOnly_) SetFileReadOnly(path, false);
+}
+
+WritableFile::~WritableFile() {
+    if (wasReadOnly_ && Attributes(path_) != INVALID_FILE_ATTRIBUTES) SetFileReadOnly(path_, true);
+}
+
+}  // namespace authoring

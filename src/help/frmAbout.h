@@ -1,0 +1,30 @@
+// The about box.
+#pragma once
+
+#include <string>
+
+#include "main_window.h"
+#include "win/dialog.h"
+#include "win/unique.h"
+
+class frmAbout : public win::Dialog {
+ public:
+    frmAbout() : Dialog("frmAbout") {}
+
+ private:
+    bool onInit() override;
+    bool onCommand(WORD id, WORD notification) override;
+    INT_PTR onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    // As wide as its text, so that only the text can be clicked.
+    void fitLink(HWND link) const;
+    void drawLink(const DRAWITEMSTRUCT& link) const;
+    bool isLink(HWND window) const;
+
+    win::UniqueFont linkFont_;
+};
+
+namespace help {
+
+void OnHelpAbout(MainWindow& main, int);
+
+}  // namespace help

@@ -1,0 +1,145 @@
+#include "options/frmTxtFonts.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "document/core/font_size.h"
+#include "document/frmChild.h"
+#include "forms/frmTxtFonts.h"
+#include "win/message_box.h"
+#include "win/message_loop.h"
+
+namespace {
+
+using document::FontSizeText;
+using document::ParseFontSize;
+
+constexpr int kSizes[] = {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 26, 28, 36, 48, 72};
+
+int CALLBACK Collect(const LOGFONTA* font, const TEXTMETRICA*, DWORD, LPARAM list) {
+    // "@" marks the upright twin of a font for vertical text.
+    if (font->lfFaceName[0] != '@')
+        reinterpret_cast<std::vector<std::string>*>(list)->emplace_back(font->lfFaceName);
+    return 1;
+}
+
+bool Before(const std::string& a, const std::string& b) {
+    return ::lstrcmpiA(a.c_str(), b.c_str()) < 0;
+}
+
+bool Same(const std::string& a, const std::string& b) {
+    return ::lstrcmpiA(a.c_str(), b.c_str()) == 0;
+}
+
+// Sorted; the system names a family once for each of its character sets.
+std::vector<std::string> ScreenFonts() {
+    std::vector<std::string> faces;
+    LOGFONTA any{};
+    any.lfCharSet = DEFAULT_CHARSET;
+    const HDC screen = ::GetDC(nullptr);
+    ::EnumFontFamiliesExA(screen, &any, Collect, reinterpret_cast<LPARAM>(&faces), 0);
+    ::ReleaseDC(nullptr, screen);
+    std::sort(faces.begin(), faces.end(), Before);
+    faces.erase(std::unique(faces.begin(), faces.end(), Same), faces.end());
+    return faces;
+}
+
+void AddText(HWND combo, const std::string& text) {
+    ::SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+// A text that the list lacks is put at its end.
+void SelectText(HWND combo, const std::string& text) {
+    const auto find = [&] {
+        return ::SendMessageA(combo, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                              reinterpret_cast<LPARAM>(text.c_str()));
+    };
+    if (find() == CB_ERR) AddText(combo, text);
+    ::SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(find()), 0);
+}
+
+}  // namespace
+
+frmTxtFonts::frmTxtFonts(MainWindow& main) : Dialog("frmTxtFonts"), main_(main) {
+    const frmChild* page = main.activeDocument();
+    if (!page) return;
+    page_ = page->id();
+    before_ = page->txtPad().font();
+}
+
+void frmTxtFonts::fillFonts() const {
+    const HWND combo = item(cboFonts);
+    for (const std::string& face : ScreenFonts()) AddText(combo, face);
+    SelectText(combo, settings_.GetRegSetting("font preferences", "font_Face", "Arial"));
+}
+
+void frmTxtFonts::fillSizes() const {
+    const HWND combo = item(cboSize);
+    for (const int points : kSizes) AddText(combo, std::to_string(points));
+    const float stored = ParseFontSize(settings_.GetRegSetting("font preferences", "font_Size"));
+    const std::string text = FontSizeText(stored > 0 ? stored : frmChild::kDefaultPoints);
+    // A size of the user's own stands in the box alone.
+    if (::SendMessageA(combo, CB_SELECTSTRING, static_cast<WPARAM>(-1),
+                       reinterpret_cast<LPARAM>(text.c_str())) == CB_ERR ||
+        itemText(cboSize) != text) {
+        setItemText(cboSize, text);
+    }
+}
+
+bool frmTxtFonts::onInit() {
+    fillFonts();
+    fillSizes();
+    loading_ = false;
+    return true;
+}
+
+// While a choice is being made in the list, the text of the box is still the old one.
+std::string frmTxtFonts::chosen(int combo) const {
+    const HWND window = item(combo);
+    const LRESULT index = ::SendMessageA(window, CB_GETCURSEL, 0, 0);
+    if (index == CB_ERR) return {};
+    const auto row = static_cast<WPARAM>(index);
+    std::string text(static_cast<std::size_t>(::SendMessageA(window, CB_GETLBTEXTLEN, row, 0)) + 1, '\0');
+    text.resize(static_cast<std::size_t>(
+        ::SendMessageA(window, CB_GETLBTEXT, row, reinterpret_cast<LPARAM>(text.data()))));
+    return text;
+}
+
+void frmTxtFonts::preview(const document::Font& font) const {
+    if (const frmChild* page = main_.find(page_)) page->txtPad().setFont(font);
+}
+
+void frmTxtFonts::accept() {
+    const std::string face = chosen(cboFonts);
+    const float points = ParseFontSize(itemText(cboSize));
+    if (points == 0) {
+        win::ShowMessage(hwnd(), "Please choose a size between 1 and 400.", "Quillon", MB_ICONINFORMATION);
+        focusItem(cboSize);
+        return;
+    }
+    preview({face, points});
+    settings_.SaveRegSetting("font preferences", "font_Face", face);
+    settings_.SaveRegSetting("font preferences", "font_Size", FontSizeText(points));
+    close(IDOK);
+}
+
+void frmTxtFonts::cancel() {
+    const frmChild* page = main_.find(page_);
+    if (page && !(page->txtPad().font() == before_)) page->txtPad().setFont(before_);
+    close(IDCANCEL);
+}
+
+bool frmTxtFonts::onCommand(WORD id, WORD notification) {
+    if (id == cmdOK) accept();
+    if (id == cmdCancel) cancel();
+    if (id == cmdOK || id == cmdCancel) return true;
+    if (loading_ || (notification != CBN_SELCHANGE && notification != CBN_EDITCHANGE)) return false;
+    const bool sizeChosen = id == cboSize && notification == CBN_SELCHANGE;
+    const document::Font font{chosen(cboFonts),
+                              ParseFontSize(sizeChosen ? chosen(cboSize) : itemText(cboSize))};
+    // A size that is just being typed may not be one yet.
+    if (font.points == 0) return true;
+    preview(font);
+    win::RunPending();
+    return true;
+}

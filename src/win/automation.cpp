@@ -1,0 +1,64 @@
+#include "win/automation.h"
+
+#include <new>
+
+#include "win/error.h"
+#include "win/unicode.h"
+
+namespace win {
+namespace {
+
+void CheckResult(HRESULT result) {
+    if (FAILED(result)) throw Error(static_cast<DWORD>(result));
+}
+
+}  // namespace
+
+Variant::Variant(long number) : Variant() {
+    value_.vt = VT_I4;
+    value_.lVal = number;
+}
+
+Variant::Variant(std::string_view text) : Variant() {
+    const std::wstring wide = ToWide(text);
+    value_.bstrVal = ::SysAllocStringLen(wide.data(), static_cast<UINT>(wide.size()));
+    if (!value_.bstrVal) throw std::bad_alloc();
+    value_.vt = VT_BSTR;
+}
+
+std::string Variant::text() const {
+    Variant converted;
+    CheckResult(::VariantChangeType(converted.out(), const_cast<VARIANT*>(&value_), 0, VT_BSTR));
+    const BSTR wide = converted.value_.bstrVal;
+    return ToAnsi({wide ? wide : L"", ::SysStringLen(wide)});
+}
+
+std::optional<AutomationObject> AutomationObject::create(const wchar_t* progId) {
+    CLSID id{};
+    void* object = nullptr;
+    if (FAILED(::CLSIDFromProgID(progId, &id)) ||
+        FAILED(::CoCreateInstance(id, nullptr, CLSCTX_SERVER, IID_IDispatch, &object))) {
+        return std::nullopt;
+    }
+    return AutomationObject(ComPtr<IDispatch>(static_cast<IDispatch*>(object)));
+}
+
+Variant AutomationObject::invoke(const wchar_t* method, VARIANT* reversedArguments, UINT count) {
+    DISPID id = 0;
+    auto* name = const_cast<OLECHAR*>(method);
+    CheckResult(object_.get()->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &id));
+    DISPPARAMS parameters{reversedArguments, nullptr, count, 0};
+    Variant result;
+    EXCEPINFO failure{};
+    // As a Basic program calls what gives a value: such an object may hold it to be a property.
+    const HRESULT done =
+        object_.get()->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD | DISPATCH_PROPERTYGET,
+                              &parameters, result.out(), &failure, nullptr);
+    ::SysFreeString(failure.bstrSource);
+    ::SysFreeString(failure.bstrDescription);
+    ::SysFreeString(failure.bstrHelpFile);
+    CheckResult(done);
+    return result;
+}
+
+}  // namespace win

@@ -1,0 +1,55 @@
+// Driving another program's automation object by the names of its methods.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "win/com.h"
+
+namespace win {
+
+// A value that goes to an automation object or comes from one.
+class Variant {
+ public:
+    Variant() { ::VariantInit(&value_); }
+    explicit Variant(long number);
+    explicit Variant(std::string_view text);  // in the ANSI code page, of any length and with any byte
+    Variant(Variant&& other) noexcept : value_(other.value_) { ::VariantInit(&other.value_); }
+    Variant& operator=(Variant&&) = delete;
+    ~Variant() { ::VariantClear(&value_); }
+
+    // In the ANSI code page. Throws win::Error when the value has no text form.
+    std::string text() const;
+    const VARIANT& raw() const { return value_; }
+    VARIANT* out() { return &value_; }  // only while nothing is held
+
+ private:
+    VARIANT value_;
+};
+
+class AutomationObject {
+ public:
+    // Starts the program behind the ProgID. Nothing when it is not installed or does not start.
+    static std::optional<AutomationObject> create(const wchar_t* progId);
+
+    // Throws win::Error with the HRESULT when the object does not know the method or the method fails.
+    // Until the method returns, messages of this thread's windows are handled.
+    template <typename... Arguments>
+    Variant call(const wchar_t* method, const Arguments&... arguments) {
+        std::array<VARIANT, sizeof...(arguments)> reversed{arguments.raw()...};
+        std::reverse(reversed.begin(), reversed.end());
+        return invoke(method, reversed.data(), static_cast<UINT>(reversed.size()));
+    }
+
+ private:
+    explicit AutomationObject(ComPtr<IDispatch> object) : object_(std::move(object)) {}
+    Variant invoke(const wchar_t* method, VARIANT* reversedArguments, UINT count);
+
+    ComPtr<IDispatch> object_;
+};
+
+}  // namespace win

@@ -1,0 +1,30 @@
+// The pictures of buttons and menu items.
+#pragma once
+
+#include "win/unique.h"
+
+namespace win {
+
+// 16, 24 or 32 pixels: the largest size drawn for pictures that the system's DPI has room for.
+int PictureSize();
+
+// An icon of the resources as a bitmap with its transparency.
+class Picture {
+ public:
+    enum class Look { normal, disabled };
+
+    // `name` is the resource's. Where the system cannot read a size, the picture is smaller; empty where it
+    // cannot read any.
+    Picture(const char* name, int size, Look look = Look::normal);
+
+    int size() const { return size_; }  // pixels, width and height alike
+    // 32 bits a pixel, the colours multiplied by their alpha.
+    UniqueBitmap release() { return std::move(bitmap_); }
+    void draw(HDC dc, int left, int top) const;
+
+ private:
+    int size_ = 0;
+    UniqueBitmap bitmap_;
+};
+
+}  // namespace win

@@ -1,0 +1,111 @@
+#include "win/picture_buttons.h"
+
+#include "win/error.h"
+#include "win/system_colours.h"
+#include "win/units.h"
+
+namespace win {
+namespace {
+
+constexpr int kButton = 24;  // pixels of a 96-dpi screen
+constexpr int kGap = 6;      // between groups
+
+// `percent` of the one system colour in the other.
+COLORREF Mixed(int colour, int ground, int percent) {
+    const COLORREF a = ::GetSysColor(colour);
+    const COLORREF b = ::GetSysColor(ground);
+    const auto mix = [percent](int of, int in) { return (of * percent + in * (100 - percent)) / 100; };
+    return RGB(mix(GetRValue(a), GetRValue(b)), mix(GetGValue(a), GetGValue(b)),
+               mix(GetBValue(a), GetBValue(b)));
+}
+
+void DrawGround(HDC dc, const RECT& area, bool hot, bool pressed) {
+    ::FillRect(dc, &area, ::GetSysColorBrush(COLOR_BTNFACE));
+    if (!hot && !pressed) return;
+    if (!IsHighContrast()) {
+        const UniqueBrush tint(::CreateSolidBrush(Mixed(COLOR_HIGHLIGHT, COLOR_BTNFACE, pressed ? 40 : 20)));
+        ::FillRect(dc, &area, tint.get());
+    }
+    ::FrameRect(dc, &area, ::GetSysColorBrush(COLOR_HIGHLIGHT));
+}
+
+}  // namespace
+
+PictureButton::PictureButton(HWND parent, int id, const char* name, const char* icon, const RECT& place)
+    : normal_(icon, PictureSize()), disabled_(icon, PictureSize(), Picture::Look::disabled) {
+    attach(Check(::CreateWindowExA(0, "BUTTON", name, WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW,
+                                   place.left, place.top, place.right - place.left, place.bottom - place.top,
+                                   parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+                                   ::GetModuleHandleA(nullptr), nullptr)));
+}
+
+void PictureButton::draw(const DRAWITEMSTRUCT& item) const {
+    const bool pressed = (item.itemState & ODS_SELECTED) != 0;
+    const Picture& picture = (item.itemState & ODS_DISABLED) != 0 ? disabled_ : normal_;
+    RECT area = item.rcItem;
+    DrawGround(item.hDC, area, hot_, pressed);
+    const int shift = pressed ? Scaled(1) : 0;
+    picture.draw(item.hDC, (area.right - picture.size()) / 2 + shift,
+                 (area.bottom - picture.size()) / 2 + shift);
+    if ((item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0) {
+        ::InflateRect(&area, -2, -2);
+        ::DrawFocusRect(item.hDC, &area);
+    }
+}
+
+void PictureButton::setHot(bool hot) {
+    if (hot == hot_) return;
+    hot_ = hot;
+    ::InvalidateRect(hwnd(), nullptr, FALSE);
+}
+
+LRESULT PictureButton::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_MOUSEMOVE && !hot_) {
+        TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, hwnd(), 0};
+        ::TrackMouseEvent(&track);
+        setHot(true);
+    } else if (message == WM_MOUSELEAVE || (message == WM_ENABLE && wParam == FALSE)) {
+        setHot(false);
+    }
+    return Control::onMessage(message, wParam, lParam);
+}
+
+int PictureButtons::height() {
+    return Scaled(kButton);
+}
+
+void PictureButtons::open(HWND parent, int left, int top) {
+    parent_ = parent;
+    left_ = left;
+    top_ = top;
+    tips_ = ::CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP, 0, 0, 0, 0,
+                              parent, nullptr, ::GetModuleHandleA(nullptr), nullptr);
+}
+
+void PictureButtons::add(int id, const char* name, const char* icon, bool beginsGroup) {
+    if (beginsGroup) left_ += Scaled(kGap);
+    const HWND before = buttons_.empty() ? HWND_TOP : buttons_.back()->hwnd();
+    const RECT place{left_, top_, left_ + height(), top_ + height()};
+    buttons_.push_back(std::make_unique<PictureButton>(parent_, id, name, icon, place));
+    left_ = place.right;
+    const HWND added = buttons_.back()->hwnd();
+    ::SetWindowPos(added, before, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    TOOLINFOA tool{};
+    tool.cbSize = TTTOOLINFOA_V2_SIZE;
+    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+    tool.hwnd = parent_;
+    tool.uId = reinterpret_cast<UINT_PTR>(added);
+    tool.lpszText = const_cast<char*>(name);
+    if (tips_) ::SendMessageA(tips_, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+bool PictureButtons::draw(const DRAWITEMSTRUCT& item) const {
+    for (const auto& button : buttons_) {
+        if (button->hwnd() != item.hwndItem) continue;
+        button->draw(item);
+        return true;
+    }
+    return false;
+}
+
+}  // namespace win

@@ -1,0 +1,20 @@
+// The system's tool tips for the controls of a form.
+#pragma once
+
+#include "win/windows.h"
+
+namespace win {
+
+class ToolTips {
+ public:
+    // `form` owns the tips' window, which goes with it.
+    void create(HWND form);
+    // Shown over the control, also while it is disabled.
+    void add(HWND control, const char* text) const;
+
+ private:
+    HWND form_ = nullptr;
+    HWND tips_ = nullptr;
+};
+
+}  // namespace win

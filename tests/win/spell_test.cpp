@@ -1,0 +1,224 @@
+#include "authoring/frmSpelling.h"
+#include "win/app_test.h"
+#include "win/clipboard.h"
+#include "win/unique.h"
+
+namespace {
+
+constexpr char kFailed[] = "Spell check  failed.\r\nIf problem persists, please contact Quillon Support.";
+constexpr char kNoWord[] = "Could not Load Microsoft Word!";
+
+class WordTest : public AppTest {
+ protected:
+    static void TearDownTestSuite() {
+        if (!installed_.empty()) tool("/unregister");
+        installed_.clear();
+    }
+
+    static void tool(const std::string& arguments) {
+        char self[MAX_PATH];
+        ::GetModuleFileNameA(nullptr, self, sizeof self);
+        const std::string folder(self, std::string(self).rfind('\\') + 1);
+        std::string line = "\"" + folder + "tools\\standin_word.exe\" " + arguments;
+        STARTUPINFOA start{};
+        start.cb = sizeof start;
+        PROCESS_INFORMATION info{};
+        ASSERT_TRUE(::CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                                     &start, &info))
+            << line;
+        const win::UniqueHandle process(info.hProcess);
+        const win::UniqueHandle thread(info.hThread);
+        ::WaitForSingleObject(info.hProcess, 10000);
+    }
+
+    // The word processor is there, with orders for its stand-in; the tests after this one have it too.
+    void install(const std::string& orders = "0") {
+        const std::string arguments = "/register \"" + logPath() + "\" " + orders;
+        if (installed_ != arguments) tool(arguments);
+        installed_ = arguments;
+    }
+    static void uninstall() { TearDownTestSuite(); }
+    std::string logPath() const { return scratch("word.log"); }
+
+    // The calls that the word processor got, once it has ended.
+    std::string calls() const {
+        std::string log;
+        seen::Until([&] {
+            log = readFile(logPath());
+            return log.ends_with("released\n");
+        });
+        return log;
+    }
+
+    std::string check(const std::string& title) {
+        User user({User::press(title, IDOK)});
+        run(tbrSpelling);
+        return user.heard().empty() ? "" : user.heard()[0];
+    }
+
+    static inline std::string installed_;
+};
+
+TEST_F(WordTest, TheWholePageGoesThroughTheWordProcessor) {
+    install();
+    newPage("<B>teh</B>\r\n\r\nteh end\r\n").txtPad().select(4, 4);
+    EXPECT_EQ(check("Quillon Note:"), "Spell Check Completed.");
+    EXPECT_EQ(
+        calls(),
+        "AppMinimize\nFileNew\nInsert <B>teh</B>\\r\\n\\r\\nteh end\\r\\n\nStartOfDocument\nEndOfDocument 1\n"
+        "ToolsSpelling\nEditSelectAll\nSelection\nSetDocumentVar MyVar <B>the</B>\\r\\rthe end\\r\\r\n"
+        "GetDocumentVar MyVar\nFileCloseAll 2\nAppClose\nreleased\n");
+    EXPECT_EQ(pageText(), "<B>the</B>\r\n\r\nthe end\r\n");
+    EXPECT_TRUE(active().txtPad().isChanged());
+    EXPECT_EQ(active().txtPad().selection().start, 0);
+    EXPECT_EQ(active().txtPad().selection().end, active().txtPad().textLength());
+    EXPECT_EQ(win::ClipboardText(main().mainHwnd()), "<B>teh</B>\r\n\r\nteh end\r\n");
+    EXPECT_TRUE(label("Current Line No: 1"));
+    EXPECT_EQ(::GetFocus(), active().txtPad().hwnd());
+}
+
+TEST_F(WordTest, APageWithoutMistakesStaysUnchanged) {
+    install();
+    newPage("caf\xE9 \x80 fine\r\n\tend");
+    EXPECT_EQ(check("Quillon Note:"), "Spell Check Completed.");
+    EXPECT_EQ(pageText(), "caf\xE9 \x80 fine\r\n\tend");
+    EXPECT_FALSE(active().txtPad().isChanged());
+}
+
+TEST_F(WordTest, OnlyTheSelectionIsSentAndReplaced) {
+    install();
+    newPage("teh one\r\nteh two\r\nteh three").txtPad().select(9, 18);
+    EXPECT_EQ(check("Quillon Note:"), "Spell Check Completed.");
+    EXPECT_NE(calls().find("Insert teh two\\r\\n\n"), std::string::npos);
+    EXPECT_EQ(pageText(), "teh one\r\nthe two\r\nteh three");
+    EXPECT_TRUE(active().txtPad().isChanged());
+    EXPECT_EQ(win::ClipboardText(main().mainHwnd()), "teh one\r\nteh two\r\nteh three");
+    run(mnuEditUndo);
+    EXPECT_EQ(pageText(), "teh one\r\nteh two\r\nteh three");
+}
+
+TEST_F(WordTest, AnEmptyPageAsksNobody) {
+    install();
+    newPage("");
+    run(tbrSpelling);
+    EXPECT_EQ(readFile(logPath()), "(no file)");
+    EXPECT_EQ(::GetFocus(), active().txtPad().hwnd());
+}
+
+TEST_F(WordTest, EachCallThatFailsLeavesThePageAsItWas) {
+    const std::string page = "teh one\r\nteh two";
+    newPage(page).txtPad().select(2, 5);
+    win::SetClipboardText(main().mainHwnd(), "kept");
+    install("each");
+    for (int failing = 1; failing <= 12; ++failing) {
+        EXPECT_EQ(check("Quillon"), failing == 1 ? kNoWord : kFailed) << "call " << failing;
+        EXPECT_EQ(pageText(), page);
+        EXPECT_FALSE(active().txtPad().isChanged());
+        EXPECT_EQ(active().txtPad().selection().start, 2);
+        EXPECT_EQ(active().txtPad().selection().end, 5);
+        EXPECT_EQ(win::ClipboardText(main().mainHwnd()), "kept");
+        EXPECT_TRUE(::IsWindowEnabled(main().mainHwnd()));
+        EXPECT_TRUE(calls().ends_with("\nreleased\n"));
+        ::DeleteFileA(logPath().c_str());
+    }
+}
+
+TEST_F(WordTest, WithoutAWordProcessorThatIsSaid) {
+    uninstall();
+    newPage("teh");
+    EXPECT_EQ(check("Quillon"), kNoWord);
+    EXPECT_EQ(pageText(), "teh");
+}
+
+// What happens to the page while the word processor's own dialog is open.
+TEST_F(WordTest, ThePageCannotBeTouchedMeanwhileAndMayEvenGo) {
+    install("ask");
+    frmChild& page = newPage("teh");
+    newPage("other");
+    ::SendMessageA(main().mdiClient(), WM_MDIACTIVATE, reinterpret_cast<WPARAM>(page.hwnd()), 0);
+    bool enabled = true;
+    std::thread user([&, child = page.hwnd(), client = main().mdiClient(), window = main().mainHwnd()] {
+        HWND box = nullptr;
+        EXPECT_TRUE(
+            seen::Until([&] { return (box = ::FindWindowA(nullptr, "Stand-in spelling")) != nullptr; }));
+        enabled = ::IsWindowEnabled(window) != FALSE;
+        ::SendMessageA(client, WM_MDIDESTROY, reinterpret_cast<WPARAM>(child), 0);
+        ::PostMessageA(box, WM_COMMAND, IDOK, 0);
+    });
+    EXPECT_EQ(check("Quillon"), kFailed);
+    user.join();
+    EXPECT_FALSE(enabled);
+    EXPECT_EQ(main().documents().size(), 1U);
+    EXPECT_EQ(pageText(), "other");
+}
+
+class FewWords : public authoring::SpellDictionary {
+ public:
+    bool knows(const std::string& word) override { return word == "the" || word == "end" || word == added; }
+    std::vector<std::string> suggestions(const std::string& word) override {
+        if (word == "teh") return {"the", "ten"};
+        return {};
+    }
+    void add(const std::string& word) override { added = word; }
+
+    std::string added;
+};
+
+struct Spelling {
+    FewWords dictionary;
+    authoring::SpellingPass pass;
+    explicit Spelling(const std::string& page) : pass(page, authoring::kAsciiLetters, dictionary) {}
+};
+
+// Presses a button once the dialog asks about `word`.
+User::Act Answer(const std::string& word, const std::string& button, const std::string& typed = "") {
+    return {"Spelling", [=](HWND dialog) {
+                EXPECT_TRUE(seen::Until([&] { return seen::Child(dialog, word, "Static") != nullptr; }))
+                    << word;
+                if (!typed.empty()) ::SetWindowTextA(seen::ChildOfClass(dialog, "Edit"), typed.c_str());
+                ::SendMessageA(seen::Child(dialog, button, "Button"), BM_CLICK, 0, 0);
+            }};
+}
+
+void Play(const std::vector<User::Act>& acts) {
+    HWND dialog = nullptr;
+    ASSERT_TRUE(
+        seen::Until([&] { return (dialog = seen::Titled(::GetCurrentProcessId(), "Spelling")) != nullptr; }));
+    for (const User::Act& act : acts) act.act(dialog);
+}
+
+class SpellingFormTest : public AppTest {};
+
+TEST_F(SpellingFormTest, EveryAnswerDoesWhatItSays) {
+    Spelling spelling("<teh>teh Qu end teh Xy Qu Xy Zz Vw</teh>");
+    std::thread user([] {
+        Play({Answer("teh", "&Change"), Answer("Qu", "I&gnore All"), Answer("teh", "&Change", "ten"),
+              Answer("Xy", "&Ignore"), Answer("Xy", "&Add"), Answer("Zz", "&Change"),
+              Answer("Vw", "&Change", "W")});
+    });
+    EXPECT_TRUE(frmSpelling::correct(main().mainHwnd(), spelling.pass));
+    user.join();
+    EXPECT_EQ(spelling.pass.result(), "<teh>the Qu end ten Xy Qu Xy Zz W</teh>");
+    EXPECT_EQ(spelling.dictionary.added, "Xy");
+}
+
+TEST_F(SpellingFormTest, ASuggestionCanBeChosenAndTheRestBeLeft) {
+    Spelling spelling("teh teh teh");
+    std::thread user([] {
+        Play({{"",
+               [](HWND dialog) {
+                   const HWND list = seen::ChildOfClass(dialog, "ListBox");
+                   ::SendMessageA(list, LB_SETCURSEL, 1, 0);
+                   ::SendMessageA(dialog, WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(list), LBN_SELCHANGE),
+                                  reinterpret_cast<LPARAM>(list));
+                   EXPECT_EQ(seen::TextOf(seen::ChildOfClass(dialog, "Edit")), "ten");
+               }},
+              Answer("teh", "&Change"),
+              Answer("teh", "Close")});
+    });
+    EXPECT_FALSE(frmSpelling::correct(main().mainHwnd(), spelling.pass));
+    user.join();
+    EXPECT_EQ(spelling.pass.result(), "ten teh teh");
+}
+
+}  // namespace
