@@ -87,12 +87,12 @@ class Source : public OnStack<IDropSource> {
     bool taken_ = false;
 };
 
-void Mouse(DWORD flags, POINT at) {
+void MoveMouse(POINT to) {
     INPUT input{};
     input.type = INPUT_MOUSE;
-    input.mi.dx = ::MulDiv(at.x, 65536, ::GetSystemMetrics(SM_CXSCREEN)) + 1;
-    input.mi.dy = ::MulDiv(at.y, 65536, ::GetSystemMetrics(SM_CYSCREEN)) + 1;
-    input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | flags;
+    input.mi.dx = ::MulDiv(to.x, 65536, ::GetSystemMetrics(SM_CXSCREEN)) + 1;
+    input.mi.dy = ::MulDiv(to.y, 65536, ::GetSystemMetrics(SM_CYSCREEN)) + 1;
+    input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE;
     ::SendInput(1, &input, sizeof input);
 }
 
@@ -102,28 +102,18 @@ POINT MiddleOf(HWND window) {
     return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
 }
 
-// A window of our own to pick things up in, at the bottom of the screen.
-HWND OpenHandle() {
-    const HWND window =
-        ::CreateWindowExA(WS_EX_TOPMOST, "STATIC", "Drag", WS_POPUP | WS_VISIBLE | SS_NOTIFY | WS_BORDER, 0,
-                          ::GetSystemMetrics(SM_CYSCREEN) - 40, 40, 40, nullptr, nullptr, nullptr, nullptr);
-    ::SetForegroundWindow(window);
-    Mouse(MOUSEEVENTF_MOVE, MiddleOf(window));
-    Mouse(MOUSEEVENTF_LEFTDOWN, {});
-    seen::Until([window] {
-        MSG message{};
-        return ::PeekMessageA(&message, window, WM_LBUTTONDOWN, WM_LBUTTONDOWN, PM_REMOVE) != FALSE;
-    });
-    return window;
-}
-
+// Whether the button is down is for the Source to say, which leaves the real one alone.
 DWORD Drag(IDataObject& data, HWND target, DWORD offered) {
-    const HWND handle = OpenHandle();
+    const HWND owner = ::CreateWindowExA(WS_EX_TOPMOST, "STATIC", "Drag", WS_POPUP | WS_VISIBLE, 0, 0, 8, 8,
+                                         nullptr, nullptr, nullptr, nullptr);
     std::atomic<bool> done = false;
     std::thread hand([&] {
         const POINT end = MiddleOf(target);
         for (int step = 0; !done; ++step) {
-            Mouse(MOUSEEVENTF_MOVE, {end.x + step % 2, end.y});
+            // Only the program in front is told of the mouse, and one that is just starting comes to the
+            // front.
+            if (::GetForegroundWindow() != owner) ::SetForegroundWindow(owner);
+            MoveMouse({end.x + step % 2, end.y});
             ::Sleep(20);
         }
     });
@@ -132,8 +122,7 @@ DWORD Drag(IDataObject& data, HWND target, DWORD offered) {
     const HRESULT result = ::DoDragDrop(&data, &source, offered, &effect);
     done = true;
     hand.join();
-    Mouse(MOUSEEVENTF_LEFTUP, {});
-    ::DestroyWindow(handle);
+    ::DestroyWindow(owner);
     return result == DRAGDROP_S_DROP ? effect : static_cast<DWORD>(DROPEFFECT_NONE);
 }
 
