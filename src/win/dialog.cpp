@@ -17,10 +17,14 @@ INT_PTR Dialog::showModal(HWND owner) {
     return result;
 }
 
+void Dialog::createModeless(HWND owner) {
+    Check(::CreateDialogParamA(::GetModuleHandleA(nullptr), templateName_, owner, procedure,
+                               reinterpret_cast<LPARAM>(this)));
+}
+
 void Dialog::showModeless(HWND owner) {
-    const HWND window = Check(::CreateDialogParamA(::GetModuleHandleA(nullptr), templateName_, owner,
-                                                   procedure, reinterpret_cast<LPARAM>(this)));
-    ::ShowWindow(window, SW_SHOW);
+    createModeless(owner);
+    ::ShowWindow(hwnd_, SW_SHOW);
 }
 
 Dialog* Dialog::find(HWND owner, std::string_view templateName) {

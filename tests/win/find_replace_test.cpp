@@ -277,6 +277,7 @@ TEST_F(ReplaceTest, ReplaceAllRebuildsThePageAndClosesTheDialog) {
     EXPECT_EQ(active().txtPad().font().face, "Arial");
     EXPECT_EQ(active().tabText(), "      ");
     EXPECT_TRUE(pageHasFocus());
+    EXPECT_EQ(::RevokeDragDrop(active().txtPad().hwnd()), S_OK) << "drops go on";
     EXPECT_GT(::SendMessageA(active().txtPad().hwnd(), EM_GETLIMITTEXT, 0, 0), 0x100000);
 }
 
