@@ -20,20 +20,13 @@ INT_PTR Dialog::showModal(HWND owner) {
 void Dialog::showModeless(HWND owner) {
     const HWND window = Check(::CreateDialogParamA(::GetModuleHandleA(nullptr), templateName_, owner,
                                                    procedure, reinterpret_cast<LPARAM>(this)));
+    ::SetPropA(owner, templateName_, window);
     ::ShowWindow(window, SW_SHOW);
 }
 
-Dialog* Dialog::find(HWND owner, std::string_view templateName) {
-    HWND window = nullptr;
-    while ((window = ::FindWindowExA(nullptr, window, WC_DIALOG, nullptr)) != nullptr) {
-        if (::GetWindow(window, GW_OWNER) != owner ||
-            ::GetWindowLongPtrA(window, DWLP_DLGPROC) != reinterpret_cast<LONG_PTR>(procedure)) {
-            continue;
-        }
-        auto* dialog = reinterpret_cast<Dialog*>(::GetWindowLongPtrA(window, DWLP_USER));
-        if (dialog && !dialog->modal_ && dialog->templateName_ == templateName) return dialog;
-    }
-    return nullptr;
+Dialog* Dialog::find(HWND owner, const char* templateName) {
+    const auto window = static_cast<HWND>(::GetPropA(owner, templateName));
+    return window ? reinterpret_cast<Dialog*>(::GetWindowLongPtrA(window, DWLP_USER)) : nullptr;
 }
 
 void Dialog::close(INT_PTR result) {
@@ -78,6 +71,8 @@ INT_PTR Dialog::dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
         ShowMessage(hwnd_, error.what(), "Quillon", MB_ICONEXCLAMATION);
     }
     if (message == WM_NCDESTROY) {
+        const HWND owner = ::GetWindow(hwnd_, GW_OWNER);
+        if (find(owner, templateName_) == this) ::RemovePropA(owner, templateName_);
         ::SetWindowLongPtrA(hwnd_, DWLP_USER, 0);
         hwnd_ = nullptr;
     }
