@@ -29,7 +29,7 @@ void OpenAndClose(MainWindow& main, const std::string& path) {
 
 void Save(MainWindow& main, const std::string& path) {
     if (!modOpen::SaveDocument(main, main.activeDocument()->id(), path))
-        throw std::runtime_error("The save failed.");
+        throw win::Failure("The save failed.");
 }
 
 }  // namespace

@@ -13,6 +13,8 @@
 #include "document/edit_commands.h"
 #include "files/basMRU.h"
 #include "files/modOpen.h"
+#include "ftp/core/site_list.h"
+#include "ftp/upload_commands.h"
 #include "help/frmAbout.h"
 #include "help/frmHelp.h"
 #include "options/option_commands.h"
@@ -79,9 +81,9 @@ constexpr auto kHandlers = std::to_array<Handler>({
     One(mnuTagsDate, authoring::OnTagsDate),
     Array(mnuScriptTags, 6, authoring::OnScriptTags),
     Array(mnuScriptDrops, 4, authoring::OnScriptDrops),
-    NotYet(mnuUploadFile),
-    NotYet(mnuUploadSites, 13),
-    NotYet(mnuUploadSite),
+    One(mnuUploadFile, ftp::OnUploadFile),
+    Array(mnuUploadSites, ftp::kMaxMenuItems, ftp::OnUploadSites),
+    One(mnuUploadSite, ftp::OnUploadSite),
     Array(mnuOptDefOpenList, 4, options::OnDefaultOpen),
     Array(mnuOptDefSaveList, 4, options::OnDefaultSave),
     One(mnuOptsTempAdd, mTemplateLoad::OnTemplateAdd),

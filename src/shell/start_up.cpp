@@ -7,6 +7,7 @@
 #include "files/basMRU.h"
 #include "files/modPubFuncs.h"
 #include "files/open_file.h"
+#include "ftp/site_store.h"
 #include "settings/app_settings.h"
 #include "shell/core/command_line.h"
 #include "shell/shell_commands.h"
@@ -56,6 +57,7 @@ std::string CommandLineFile() {
 
 void Load(MainWindow& main, const std::string& file) {
     modWndPos::MoveTo(main.mainHwnd(), kLeft, kTop);
+    ftp::LoadSiteMenu(main);
     mTemplateLoad::RebuildTemplateMenu(main);
     try {
         // The window comes up with its page in it, so that all is painted once.

@@ -17,11 +17,15 @@ INT_PTR Dialog::showModal(HWND owner) {
     return result;
 }
 
-void Dialog::showModeless(HWND owner) {
+void Dialog::createModeless(HWND owner) {
     const HWND window = Check(::CreateDialogParamA(::GetModuleHandleA(nullptr), templateName_, owner,
                                                    procedure, reinterpret_cast<LPARAM>(this)));
     ::SetPropA(owner, templateName_, window);
-    ::ShowWindow(window, SW_SHOW);
+}
+
+void Dialog::showModeless(HWND owner) {
+    createModeless(owner);
+    ::ShowWindow(hwnd_, SW_SHOW);
 }
 
 Dialog* Dialog::find(HWND owner, const char* templateName) {

@@ -22,6 +22,8 @@ class Dialog {
     INT_PTR showModal(HWND owner);
     // Creates and shows the dialog. The object, made with new, deletes itself after the window.
     void showModeless(HWND owner);
+    // The same, not shown yet.
+    void createModeless(HWND owner);
     void close(INT_PTR result = 0);
 
  protected:

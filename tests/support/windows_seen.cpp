@@ -50,6 +50,13 @@ HWND Titled(DWORD process, const std::string& title) {
     return nullptr;
 }
 
+HWND Dialog(DWORD process, const std::string& title) {
+    for (const HWND window : TopLevel(process)) {
+        if (ClassOf(window) == "#32770" && TextOf(window) == title) return window;
+    }
+    return nullptr;
+}
+
 HWND Child(HWND parent, const std::string& text, const std::string& cls) {
     for (const HWND window : Below(parent)) {
         if (::IsWindowVisible(window) && TextOf(window) == text && (cls.empty() || ClassOf(window) == cls)) {

@@ -20,6 +20,8 @@ std::vector<HWND> Below(HWND parent);
 
 // The visible top-level window of the process with this title; null when there is none.
 HWND Titled(DWORD process, const std::string& title);
+// The same, of dialogs and message boxes only: the main window's title is that of many boxes too.
+HWND Dialog(DWORD process, const std::string& title);
 // The visible window below `parent` with this text, and of this class unless that is empty.
 HWND Child(HWND parent, const std::string& text, const std::string& cls = "");
 HWND ChildOfClass(HWND parent, const std::string& cls);

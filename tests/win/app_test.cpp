@@ -11,15 +11,6 @@ namespace {
 
 constexpr char kScratchKey[] = "Software\\Quillon tests";
 
-void DeleteTree(const std::string& folder) {
-    std::string from = folder + '\0';
-    SHFILEOPSTRUCTA operation{};
-    operation.wFunc = FO_DELETE;
-    operation.pFrom = from.c_str();
-    operation.fFlags = FOF_NOCONFIRMATION | FOF_SILENT | FOF_NOERRORUI;
-    ::SHFileOperationA(&operation);
-}
-
 void DeleteKeyTree(HKEY parent, const std::string& name) {
     HKEY opened = nullptr;
     if (::RegOpenKeyExA(parent, name.c_str(), 0, KEY_ALL_ACCESS, &opened) != ERROR_SUCCESS) return;
@@ -39,6 +30,15 @@ std::string ScratchFolder() {
 }
 
 }  // namespace
+
+void DeleteTree(const std::string& folder) {
+    std::string from = folder + '\0';
+    SHFILEOPSTRUCTA operation{};
+    operation.wFunc = FO_DELETE;
+    operation.pFrom = from.c_str();
+    operation.fFlags = FOF_NOCONFIRMATION | FOF_SILENT | FOF_NOERRORUI;
+    ::SHFileOperationA(&operation);
+}
 
 ScratchRegistry::ScratchRegistry() {
     HKEY key = nullptr;
@@ -60,7 +60,7 @@ User::User(std::vector<Act> acts)
           for (const Act& act : acts) {
               HWND dialog = nullptr;
               const bool came = seen::Until([&] {
-                  dialog = seen::Titled(process, act.title);
+                  dialog = seen::Dialog(process, act.title);
                   return dialog && dialog != last && ::IsWindowEnabled(dialog);
               });
               if (!came) {
@@ -76,7 +76,8 @@ User::User(std::vector<Act> acts)
 void User::finish() {
     if (!thread_.joinable()) return;
     thread_.join();
-    if (!missing_.empty()) ADD_FAILURE() << "No window came with the title \"" << missing_ << '"';
+    const std::string missing = std::exchange(missing_, {});
+    if (!missing.empty()) ADD_FAILURE() << "No window came with the title \"" << missing << '"';
 }
 
 const std::vector<std::string>& User::heard() {

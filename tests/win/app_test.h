@@ -13,6 +13,9 @@
 #include "main_window.h"
 #include "support/windows_seen.h"
 
+// Deletes a folder with all that is in it.
+void DeleteTree(const std::string& folder);
+
 // Points HKEY_CURRENT_USER at an empty key for the test's life.
 class ScratchRegistry {
  public:

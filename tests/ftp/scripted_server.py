@@ -1,0 +1,210 @@
+#!/usr/bin/python3
+"""An FTP server on loopback that does what no honest server does: scripted_server.py LOG [PORT]
+
+Prints its port once it listens and serves until it is killed. The name of a login is what happens to it,
+one or more of these words, separated by blanks:
+
+  refuse-CMD    CMD gets a refusal
+  drop-CMD      the connection is closed in place of an answer to CMD
+  cut-CMD       CMD's transfer ends half way, with the data connection and no word of success
+  break-CMD     CMD's transfer ends half way, and the control connection with it
+  silent-CMD    CMD is never answered
+  list-NAME     listings are those of NAME: "odd", "long", "endless"
+  stay          a directory that has been entered is never left again
+
+Every password is right. LOG gets the commands, a line each, passwords included, and what was uploaded.
+"""
+import os
+import socket
+import sys
+import threading
+
+FILES = {b"good.htm": b"<HTML>good</HTML>\r\n", b"large.bin": b"0123456789abcdef" * 65536}
+FOLDERS = {b"folder"}
+
+
+def line(name, folder=False, size=5):
+    return b"%s 1 ftp ftp %d Jan 01 2020 %s\r\n" % (b"drwxr-xr-x" if folder else b"-rw-r--r--", size, name)
+
+
+def ordinary():
+    yield from (line(name, True) for name in sorted(FOLDERS))
+    yield from (line(name, size=len(data)) for name, data in sorted(FILES.items()))
+
+
+def odd():
+    for name in (b"..\\up.htm", b"/etc/passwd", b"C:\\boot.ini", b"CON", b"a\x01b\x7f.htm", b"%TEMP%.htm", b"caf\xe9.htm"):
+        yield line(name)
+    yield b"what is this line\r\n"
+    yield b"\r\n"
+    yield line(b".", True)
+    yield line(b"..", True)
+    yield line(b"last.htm")
+
+
+def long():
+    yield line(b"a" * 10000 + b".htm")
+    yield b"x" * 100000 + b"\r\n"
+    yield line(b"b" * 200 + b".htm")
+
+
+def endless():
+    number = 0
+    while True:
+        number += 1
+        yield b"".join(line(b"page%d.htm" % (number * 1000 + i)) for i in range(1000))
+
+
+LISTINGS = {"odd": odd, "long": long, "endless": endless}
+
+
+class Session(threading.Thread):
+    def __init__(self, control, log):
+        super().__init__(daemon=True)
+        self.control, self.log = control, log
+        self.words, self.directory, self.data_address, self.listener = [], b"/", None, None
+
+    def reply(self, text):
+        self.control.sendall(text.encode("latin-1") + b"\r\n")
+
+    def note(self, text):
+        with open(self.log, "ab") as log:
+            log.write(text + b"\n")
+
+    def run(self):
+        try:
+            self.reply("220 ready")
+            for raw in self.control.makefile("rb"):
+                command, _, argument = raw.rstrip(b"\r\n").partition(b" ")
+                self.note(raw.rstrip(b"\r\n"))
+                if not self.serve(command.decode("latin-1").upper(), argument):
+                    break
+        except OSError:
+            pass
+        finally:
+            self.control.close()
+
+    def serve(self, command, argument):
+        if command == "USER":
+            self.words = argument.decode("latin-1").split()
+        if f"silent-{command}" in self.words:
+            threading.Event().wait()
+        if f"drop-{command}" in self.words:
+            return False
+        if f"refuse-{command}" in self.words:
+            self.reply("530 no" if command == "PASS" else "550 no")
+            return True
+        handler = getattr(self, "on_" + command, None)
+        if not handler:
+            self.reply("502 unknown")
+            return True
+        return handler(argument) is not False
+
+    def on_USER(self, _):
+        self.reply("331 password")
+
+    def on_PASS(self, _):
+        self.reply("230 in")
+
+    def on_SYST(self, _):
+        self.reply("215 UNIX Type: L8")
+
+    def on_TYPE(self, _):
+        self.reply("200 ok")
+
+    on_NOOP = on_ALLO = on_TYPE
+
+    def on_QUIT(self, _):
+        self.reply("221 bye")
+        return False
+
+    def on_PWD(self, _):
+        self.reply('257 "%s"' % self.directory.decode("latin-1"))
+
+    def on_CWD(self, argument):
+        path = argument if argument.startswith(b"/") else self.directory + b"/" + argument
+        parts = [part for part in path.split(b"/") if part]
+        if parts[:1] and parts[0] not in FOLDERS or len(parts) > 1:
+            self.reply("550 no such directory")
+        elif not parts and self.directory != b"/" and "stay" in self.words:
+            self.reply("550 no way back")
+        else:
+            self.directory = b"/" + b"/".join(parts)
+            self.reply("250 ok")
+
+    def on_PORT(self, argument):
+        numbers = [int(n) for n in argument.split(b",")]
+        self.data_address = ("127.0.0.1", numbers[4] * 256 + numbers[5])
+        self.reply("200 ok")
+
+    def on_PASV(self, _):
+        self.listener = socket.create_server(("127.0.0.1", 0))
+        port = self.listener.getsockname()[1]
+        self.reply("227 ok (127,0,0,1,%d,%d)" % (port // 256, port % 256))
+
+    def open_data(self):
+        self.reply("150 coming")
+        if self.listener:
+            data, _ = self.listener.accept()
+            self.listener.close()
+            self.listener = None
+            return data
+        return socket.create_connection(self.data_address)
+
+    def finish(self, command):
+        if f"break-{command}" in self.words:
+            return False
+        self.reply("426 broken off" if f"cut-{command}" in self.words else "226 done")
+        return True
+
+    def halved(self, command, chunks):
+        whole = f"cut-{command}" not in self.words and f"break-{command}" not in self.words
+        for chunk in chunks:
+            yield chunk if whole else chunk[: len(chunk) // 2]
+            if not whole:
+                return
+
+    def send(self, command, chunks):
+        with self.open_data() as data:
+            for chunk in self.halved(command, chunks):
+                data.sendall(chunk)
+        return self.finish(command)
+
+    def on_LIST(self, argument):
+        names = [word[5:] for word in self.words if word.startswith("list-")]
+        return self.send("LIST", LISTINGS[names[0]]() if names else ordinary())
+
+    def on_RETR(self, argument):
+        name = argument.split(b"/")[-1]
+        return self.send("RETR", [FILES.get(name, b"what the server calls " + name)])
+
+    def on_STOR(self, _):
+        with self.open_data() as data:
+            if "cut-STOR" in self.words or "break-STOR" in self.words:
+                data.recv(1000)
+            else:
+                with data.makefile("rb") as stream:
+                    self.note(b"DATA " + stream.read()[:1000])
+        return self.finish("STOR")
+
+    def on_RNFR(self, _):
+        self.reply("350 to what")
+
+    def on_DELE(self, _):
+        self.reply("250 ok")
+
+    on_RMD = on_RNTO = on_DELE
+
+    def on_MKD(self, _):
+        self.reply("257 made")
+
+
+def main():
+    server = socket.create_server(("127.0.0.1", int(sys.argv[2]) if len(sys.argv) > 2 else 0))
+    print(server.getsockname()[1], flush=True)
+    while True:
+        control, _ = server.accept()
+        Session(control, sys.argv[1]).start()
+
+
+main()

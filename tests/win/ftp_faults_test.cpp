@@ -1,0 +1,192 @@
+// Servers that refuse, break off, or send what no server should.
+#include <algorithm>
+
+#include "forms/frmUpload.h"
+#include "ftp/core/scramble.h"
+#include "ftp/frmUpload.h"
+#include "ftp/site_store.h"
+#include "win/ftp_test.h"
+
+namespace {
+
+class FtpFaultsTest : public FtpTest {
+ protected:
+    // Gives what was said when the window has opened with this behaviour and the line's command has run.
+    std::string say(const std::string& behaviour, const std::string& line, int item,
+                    std::vector<User::Act> acts) {
+        openScripted(behaviour);
+        User user(std::move(acts));
+        choose(line, item);
+        return user.heard().back();
+    }
+    static User::Act enter(const std::string& title, const std::string& text) {
+        return {title, [text](HWND box) {
+                    ::SendMessageA(seen::ChildOfClass(box, "Edit"), WM_SETTEXT, 0,
+                                   reinterpret_cast<LPARAM>(text.c_str()));
+                    ::PostMessageA(box, WM_COMMAND, IDOK, 0);
+                }};
+    }
+    User::Act saveAs(const std::string& name) { return User::chooseFile("Save File As...", scratch(name)); }
+};
+
+TEST_F(FtpFaultsTest, EveryRefusedCommandIsToldAndTheSessionGoesOn) {
+    const User::Act yes = User::press("DELETION CONFIRMATION", IDYES);
+    EXPECT_EQ(say("refuse-DELE", "good.htm", mnuRClist + 5, {yes, User::press("FAILED TO DELETE", IDOK)}),
+              "Could not delete file");
+    EXPECT_EQ(say("refuse-RMD", "folder/", mnuDirDelete, {yes, User::press("FAILED TO DELETE", IDOK)})
+                  .substr(0, 21),
+              "Could not delete file");
+    EXPECT_EQ(say("refuse-RNTO", "good.htm", mnuRClist + 3,
+                  {enter("FILENAME CHANGE", "x"), User::press("NET GLITCH", IDOK)}),
+              "Unable to rename file...");
+    EXPECT_EQ(say("refuse-RETR", "good.htm", mnuRClist + 2,
+                  {saveAs("x.htm"), User::press("DOWNLOAD FAILURE", IDOK)}),
+              "Unable to download good.htm.");
+    EXPECT_EQ(readFile(scratch("x.htm")), "(no file)");
+    EXPECT_EQ(textOf(txtCurDir), "/");
+    EXPECT_TRUE(::IsWindowEnabled(control(cmdRefresh)));
+    newPage("page");
+    writeFile(scratch("page.htm"), "page");
+    active().setTag(scratch("page.htm"));
+    openScripted("refuse-STOR");
+    User user({User::press("UPLOAD FAILURE", IDOK)});
+    click(cmdUp);
+    EXPECT_EQ(user.heard().front(), "Unable to upload the current file.");
+    EXPECT_EQ(textOf(txtCurDir), "/");
+}
+
+TEST_F(FtpFaultsTest, ATransferThatBreaksOffIsNoSuccessAndLeavesTheOldFile) {
+    for (const char* behaviour : {"cut-RETR", "break-RETR"}) {
+        writeFile(scratch("kept.bin"), "good");
+        EXPECT_EQ(say(behaviour, "large.bin", mnuRClist + 2,
+                      {saveAs("kept.bin"), User::press("Save File As...", IDYES),
+                       User::press("DOWNLOAD FAILURE", IDOK)}),
+                  "Unable to download large.bin.");
+        EXPECT_EQ(readFile(scratch("kept.bin")), "good") << behaviour;
+    }
+    WIN32_FIND_DATAA found{};
+    const HANDLE find = ::FindFirstFileA(scratch("qui*").c_str(), &found);
+    EXPECT_EQ(find, INVALID_HANDLE_VALUE) << found.cFileName << " was left";
+    newPage("page");
+    writeFile(scratch("page.htm"), std::string(500000, 'x'));
+    active().setTag(scratch("page.htm"));
+    for (const char* behaviour : {"cut-STOR", "break-STOR"}) {
+        openScripted(behaviour);
+        User user({User::press("UPLOAD FAILURE", IDOK)});
+        click(cmdUp);
+        EXPECT_EQ(user.heard().front(), "Unable to upload the current file.") << behaviour;
+    }
+}
+
+TEST_F(FtpFaultsTest, LoginsThatFailOpenNoWindow) {
+    for (const char* behaviour : {"refuse-USER", "refuse-PASS", "drop-USER", "drop-PASS"}) {
+        User user({User::press("NOT CONNECTED", IDOK)});
+        openScripted(behaviour);
+        EXPECT_EQ(user.heard().front(), "Cannot connect to FTP site...") << behaviour;
+        EXPECT_EQ(ftpWindow(), nullptr);
+    }
+}
+
+TEST_F(FtpFaultsTest, AListingThatFailsLeavesAnEmptyListAndAWorkingWindow) {
+    for (const char* behaviour : {"refuse-LIST", "drop-LIST", "refuse-PWD", "refuse-PORT", "refuse-TYPE"}) {
+        openScripted(behaviour);
+        EXPECT_EQ(textOf(txtCurDir), "/") << behaviour;
+        EXPECT_TRUE(::IsWindowEnabled(control(cmdRefresh))) << behaviour;
+    }
+    openScripted("drop-CWD");
+    EXPECT_EQ(lines(), "folder/,good.htm,large.bin") << "nothing is lost when the probes fail";
+    openScripted("stay");
+    EXPECT_EQ(textOf(txtCurDir), "/");
+}
+
+TEST_F(FtpFaultsTest, OddNamesStayInsideTheChosenFolder) {
+    openScripted("list-odd");
+    const std::string all = lines();
+    EXPECT_EQ(all.find("./"), std::string::npos) << all;
+    EXPECT_NE(all.find("last.htm"), std::string::npos) << all;
+    for (const std::string& name :
+         {std::string("..\\up.htm"), std::string("/etc/passwd"), std::string("C:\\boot.ini")}) {
+        if (!select(name)) continue;
+        std::string proposed;
+        User user({{"Save File As...", [&](HWND dialog) {
+                        HWND box = ::GetDlgItem(dialog, 0x47c);
+                        if (!box) box = ::GetDlgItem(dialog, 0x480);
+                        proposed = seen::TextOf(box);
+                        ::PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+                    }}});
+        choose(name, mnuRClist + 2);
+        user.heard();
+        EXPECT_EQ(proposed.find_first_of("\\/:"), std::string::npos) << proposed;
+        EXPECT_NE(proposed, "");
+    }
+}
+
+TEST_F(FtpFaultsTest, OverlongNamesDoNoHarm) {
+    openScripted("list-long");
+    EXPECT_EQ(textOf(txtCurDir), "/");
+    EXPECT_NE(lines().find("bbbb.htm"), std::string::npos) << lines();
+}
+
+TEST_F(FtpFaultsTest, APasswordArrivesByteForByte) {
+    const std::string password = "mno847\xE9 x";  // the key itself scrambles to codes 0
+    addSite("127.0.0.1", "plain", password);
+    frmUpload::open(main(), 0, ScriptedSession);
+    EXPECT_NE(told().find("PASS " + password + "\n"), std::string::npos) << told();
+}
+
+// What no server on loopback can bring about.
+class Unplugged : public ftp::FtpSession {
+ public:
+    enum class Fault { dial, open };
+    explicit Unplugged(Fault fault) : fault_(fault), session_(ScriptedSession()) {}
+
+    bool dial() override { return fault_ != Fault::dial; }
+    bool open() override { return fault_ != Fault::open && session_->open(); }
+    bool connect(const std::string& host, const std::string& user, const std::string& password) override {
+        return session_->connect(host, user, password);
+    }
+    bool isConnected() const override { return session_->isConnected(); }
+    void close() override { session_->close(); }
+    bool answered() const override { return session_->answered(); }
+    std::optional<std::string> currentDirectory() override { return session_->currentDirectory(); }
+    bool changeDirectory(const std::string& name) override { return session_->changeDirectory(name); }
+    std::optional<ftp::RemoteEntry> findFirst(const std::string& name) override {
+        return session_->findFirst(name);
+    }
+    std::optional<ftp::RemoteEntry> findNext() override { return session_->findNext(); }
+    void endFind() override { session_->endFind(); }
+    bool get(const std::string&, const std::string&, ftp::TransferType) override { return false; }
+    bool put(const std::string&, const std::string&, ftp::TransferType) override { return false; }
+    bool createDirectory(const std::string&) override { return false; }
+    bool removeDirectory(const std::string&) override { return false; }
+    bool removeFile(const std::string&) override { return false; }
+    bool rename(const std::string&, const std::string&) override { return false; }
+
+ private:
+    Fault fault_;
+    std::unique_ptr<ftp::FtpSession> session_;
+};
+
+TEST_F(FtpFaultsTest, WithoutADialUpLinkTheAttemptGoesOn) {
+    addSite("127.0.0.1", "plain", "pw");
+    User user({User::press("NOT CONNECTED", IDOK)});
+    frmUpload::open(main(), 0, []() -> std::unique_ptr<ftp::FtpSession> {
+        return std::make_unique<Unplugged>(Unplugged::Fault::dial);
+    });
+    EXPECT_EQ(user.heard().front(),
+              "Could not connect to the internet through AutoDial.\r\n"
+              "Connect to Internet before attempting to use FTP.");
+    EXPECT_EQ(textOf(txtCurDir), "/");
+}
+
+TEST_F(FtpFaultsTest, WithoutNetworkingThereIsNoWindow) {
+    addSite("127.0.0.1", "plain", "pw");
+    User user({User::press("NOT CONNECTED", IDOK)});
+    frmUpload::open(main(), 0, []() -> std::unique_ptr<ftp::FtpSession> {
+        return std::make_unique<Unplugged>(Unplugged::Fault::open);
+    });
+    EXPECT_EQ(user.heard().front(), "Cannot obtain internet handle...");
+    EXPECT_EQ(ftpWindow(), nullptr);
+}
+
+}  // namespace

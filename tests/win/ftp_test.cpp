@@ -1,0 +1,109 @@
+#include "win/ftp_test.h"
+
+#include <cstdlib>
+
+#include "forms/frmUpload.h"
+#include "ftp/core/scramble.h"
+#include "ftp/frmUpload.h"
+#include "ftp/site_store.h"
+#include "win/message_loop.h"
+
+namespace {
+
+std::string Environment(const char* name) {
+    const char* value = std::getenv(name);
+    return value ? value : "";
+}
+
+std::unique_ptr<ftp::FtpSession> SessionOn(const char* variable) {
+    return ftp::MakeSession(static_cast<unsigned short>(std::atoi(Environment(variable).c_str())));
+}
+}  // namespace
+
+std::unique_ptr<ftp::FtpSession> HonestSession() {
+    return SessionOn("QUILLON_FTP_PORT");
+}
+
+std::unique_ptr<ftp::FtpSession> ScriptedSession() {
+    return SessionOn("QUILLON_FTP_SCRIPTED_PORT");
+}
+
+void FtpTest::SetUp() {
+    AppTest::SetUp();
+    if (Environment("QUILLON_FTP_PORT").empty()) GTEST_SKIP() << "tests/ftp/servers has not been started";
+    ::DeleteFileA(Environment("QUILLON_FTP_LOG").c_str());
+}
+
+void FtpTest::addSite(const std::string& url, const std::string& name, const std::string& password) {
+    const ftp::Site site{0, url, name, ftp::ScramblePassword(password)};
+    ftp::Apply(ftp::AddSite(ftp::ReadSections(), site).changes);
+}
+
+std::string FtpTest::onServer(const std::string& name) {
+    return Environment("QUILLON_FTP_FOLDER") + "\\own\\" + name;
+}
+
+HWND FtpTest::openHonest(const std::vector<std::string>& files) {
+    DeleteTree(onServer(""));
+    ::CreateDirectoryA(onServer("").c_str(), nullptr);
+    for (const std::string& file : files) {
+        if (file.back() == '/') {
+            ::CreateDirectoryA(onServer(file).c_str(), nullptr);
+        } else {
+            writeFile(onServer(file), "The file " + file);
+        }
+    }
+    addSite("127.0.0.1/own", "user", "secret");
+    return reopen();
+}
+
+HWND FtpTest::reopen() {
+    frmUpload::open(main(), 0, HonestSession);
+    return ftpWindow();
+}
+
+HWND FtpTest::openScripted(const std::string& behaviour) {
+    addSite("127.0.0.1", behaviour, "pw");
+    frmUpload::open(main(), 0, ScriptedSession);
+    return ftpWindow();
+}
+
+HWND FtpTest::ftpWindow() {
+    return seen::Titled(::GetCurrentProcessId(), "Quillon FTP - - - - -");
+}
+
+std::string FtpTest::told() {
+    return readFile(Environment("QUILLON_FTP_LOG"));
+}
+
+std::string FtpTest::lines() {
+    std::string all;
+    const HWND list = control(lstRemoteFiles);
+    const auto count = static_cast<WPARAM>(::SendMessageA(list, LB_GETCOUNT, 0, 0));
+    for (WPARAM i = 0; i < count; ++i) {
+        std::string line(static_cast<std::size_t>(::SendMessageA(list, LB_GETTEXTLEN, i, 0)) + 1, '\0');
+        ::SendMessageA(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(line.data()));
+        line.pop_back();
+        all.append(all.empty() ? "" : ",").append(line);
+    }
+    return all;
+}
+
+bool FtpTest::select(const std::string& line) {
+    const HWND list = control(lstRemoteFiles);
+    const LRESULT index = ::SendMessageA(list, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                         reinterpret_cast<LPARAM>(line.c_str()));
+    if (index != LB_ERR) ::SendMessageA(list, LB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    return index != LB_ERR;
+}
+
+void FtpTest::doubleClick(const std::string& line) {
+    ASSERT_TRUE(select(line)) << line << " in " << lines();
+    ::SendMessageA(ftpWindow(), WM_COMMAND, MAKEWPARAM(lstRemoteFiles, LBN_DBLCLK),
+                   reinterpret_cast<LPARAM>(control(lstRemoteFiles)));
+}
+
+void FtpTest::choose(const std::string& line, int item) {
+    ASSERT_TRUE(select(line)) << line << " in " << lines();
+    ::SendMessageA(ftpWindow(), WM_COMMAND, static_cast<WPARAM>(item), 0);
+}

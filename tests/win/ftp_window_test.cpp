@@ -1,0 +1,206 @@
+#include <algorithm>
+
+#include "files/modPubFuncs.h"
+#include "forms/frmUpload.h"
+#include "ftp/frmUpload.h"
+#include "ftp/site_store.h"
+#include "win/drop_target.h"
+#include "win/ftp_test.h"
+#include "win/message_loop.h"
+
+namespace {
+
+class FtpWindowTest : public FtpTest {
+ protected:
+    // Types into the input box and presses OK.
+    static User::Act enter(const std::string& title, const std::string& text) {
+        return {title, [text](HWND box) {
+                    ::SendMessageA(seen::ChildOfClass(box, "Edit"), WM_SETTEXT, 0,
+                                   reinterpret_cast<LPARAM>(text.c_str()));
+                    ::PostMessageA(box, WM_COMMAND, IDOK, 0);
+                }};
+    }
+    void savePage(const std::string& name, const std::string& text) {
+        newPage(text);
+        writeFile(scratch(name), text);
+        active().setTag(scratch(name));
+    }
+};
+
+TEST_F(FtpWindowTest, OpensOnTheStoredSiteBesideTheMainWindow) {
+    ASSERT_TRUE(openHonest({"a.htm", "b.htm", "docs/", "site.files/"}));
+    EXPECT_EQ(textOf(txtCurDir), "/own");
+    EXPECT_EQ(lines(), "a.htm,b.htm,docs/,site.files/");
+    EXPECT_EQ(ftp::LastUsedIndex(ftp::ReadSections()), 0);
+    EXPECT_TRUE(main().menu().isChecked(mnuUploadSites));
+    EXPECT_TRUE(::GetWindowLongPtrA(ftpWindow(), GWL_EXSTYLE) & WS_EX_TOPMOST);
+    RECT own{};
+    RECT mainArea{};
+    ::GetWindowRect(ftpWindow(), &own);
+    ::GetWindowRect(main().mainHwnd(), &mainArea);
+    EXPECT_NEAR(own.right, mainArea.right, 1);
+    EXPECT_NEAR(own.top, mainArea.top, 1);
+    EXPECT_FALSE(::IsWindowEnabled(control(cmdUpDir)));
+    EXPECT_FALSE(::IsWindowEnabled(control(cmdPassword)));
+    EXPECT_EQ(seen::Titled(::GetCurrentProcessId(), "Quillon FTP"), nullptr)
+        << "the connecting window has gone";
+}
+
+TEST_F(FtpWindowTest, WalksDirectoriesAndNeverAboveTheStart) {
+    ASSERT_TRUE(openHonest({"docs/", "docs/deep/", "docs/deep/x.htm", "site.files/", "README"}));
+    doubleClick("docs/");
+    doubleClick("deep/");
+    EXPECT_EQ(textOf(txtCurDir), "/own/docs/deep");
+    EXPECT_EQ(lines(), "x.htm");
+    click(cmdUpDir);
+    EXPECT_EQ(textOf(txtCurDir), "/own/docs");
+    click(cmdUpDir);
+    EXPECT_EQ(textOf(txtCurDir), "/own");
+    EXPECT_FALSE(::IsWindowEnabled(control(cmdUpDir)));
+    doubleClick("site.files/");
+    EXPECT_EQ(textOf(txtCurDir), "/own") << "a dot in the name keeps a directory shut";
+    User user({User::press("Quillon Note:", IDOK)});
+    doubleClick("README");
+    EXPECT_EQ(user.heard().front(), "Cannot access Directory!");
+    EXPECT_EQ(textOf(txtCurDir), "/own");
+}
+
+TEST_F(FtpWindowTest, ListsWhatCannotBeEnteredAndFollowsLinks) {
+    addSite("127.0.0.1", "user", "secret");
+    ASSERT_TRUE(reopen());
+    const std::string all = "," + lines() + ",";
+    EXPECT_NE(all.find(",closed/,"), std::string::npos) << all;
+    EXPECT_NE(all.find(",link/,"), std::string::npos) << "a link to a directory is found by the probe";
+    User user({User::press("Quillon Note:", IDOK)});
+    doubleClick("closed/");
+    EXPECT_EQ(user.heard().front(), "Cannot access Directory!");
+    click(cmdShut);
+    EXPECT_EQ(textOf(txtCurDir), "NO SITE ACTIVE");
+    EXPECT_EQ(lines(), "");
+    EXPECT_FALSE(::IsWindowEnabled(control(cmdUp)));
+}
+
+TEST_F(FtpWindowTest, MakesRenamesAndDeletes) {
+    ASSERT_TRUE(openHonest({"a.htm", "full/", "full/x"}));
+    User user({enter("NEW FOLDER", "new"), User::press("CONFIRMATION", IDOK),
+               enter("FILENAME CHANGE", "c.htm"), User::press("CONFIRMATION", IDOK),
+               User::press("SIZE of c.htm is:", IDOK), User::press("DELETION CONFIRMATION", IDNO),
+               User::press("DELETION CONFIRMATION", IDYES), User::press("DELETION CONFIRMATION", IDOK),
+               User::press("DELETION CONFIRMATION", IDYES), User::press("Quillon", IDOK),
+               User::press("DELETION CONFIRMATION", IDYES), User::press("FAILED TO DELETE", IDOK),
+               enter("NEW FOLDER", "full"), User::press("DIRECTORY NOT MADE", IDOK),
+               enter("NEW FOLDER", "")});
+    click(cmdMakeDir);
+    EXPECT_EQ(lines(), "a.htm,full/,new/");
+    choose("a.htm", mnuRClist + 3);
+    EXPECT_EQ(lines(), "c.htm,full/,new/");
+    EXPECT_EQ(readFile(onServer("c.htm")), "The file a.htm");
+    choose("c.htm", mnuRClist);
+    choose("c.htm", mnuRClist + 5);
+    EXPECT_EQ(lines(), "c.htm,full/,new/");
+    choose("c.htm", mnuRClist + 5);
+    EXPECT_EQ(lines(), "full/,new/");
+    choose("new/", mnuDirDelete);
+    EXPECT_EQ(lines(), "full/");
+    choose("full/", mnuDirDelete);
+    click(cmdMakeDir);
+    click(cmdMakeDir);
+    EXPECT_EQ(lines(), "full/");
+    EXPECT_EQ(
+        user.heard(),
+        (std::vector<std::string>{
+            "Enter a name for the New Directory", "New Directory [ new ] successfully created.",
+            "Enter new file name below", "File has been Renamed", "Approximately 14 Bytes",
+            "Are you sure you want to delete c.htm ?", "Are you sure you want to delete c.htm ?",
+            "The File [ c.htm ] was Deleted.", "Are you sure you want to delete the folder\r\nnew/ ?",
+            "The Directory:\r\n[ new/ ]\r\nwas successfully Deleted.",
+            "Are you sure you want to delete the folder\r\nfull/ ?",
+            "Could not delete file\r\nA directory must be not contain any files in order to delete...\r\n"
+            "Are you sure this folder is empty?",
+            "Enter a name for the New Directory", "Could not create the Directory.",
+            "Enter a name for the New Directory"}));
+    EXPECT_EQ(textOf(txtCurDir), "/own");
+}
+
+TEST_F(FtpWindowTest, DownloadsWhole) {
+    ASSERT_TRUE(openHonest({"a.htm"}));
+    writeFile(scratch("kept.htm"), "what was there before, and longer than the new file");
+    User user({User::chooseFile("Save File As...", scratch("kept.htm")),
+               User::press("Save File As...", IDYES), User::press("TASK COMPLETE", IDOK)});
+    choose("a.htm", mnuRClist + 2);
+    EXPECT_EQ(user.heard().back(), "Download of a.htm is complete.");
+    EXPECT_EQ(readFile(scratch("kept.htm")), "The file a.htm");
+    EXPECT_EQ(textOf(txtCurDir), "/own");
+}
+
+TEST_F(FtpWindowTest, UploadsThePageAsItIsOnTheDisk) {
+    ASSERT_TRUE(openHonest());
+    {
+        User user({User::press("NO FILE OPEN", IDOK)});
+        click(cmdUp);
+        EXPECT_EQ(user.heard().front(), "No file is currently open.");
+    }
+    newPage("never saved");
+    {
+        User user({User::press("PRECAUTION", IDOK)});
+        click(cmdUp);
+        EXPECT_EQ(user.heard().front(), "The Current page SHOULD BE SAVED before uploading.");
+    }
+    savePage("my page.htm", "<P>caf\xE9</P>\r\n");
+    type("changed");
+    click(upType);
+    User user({User::press("Quillon", IDOK)});
+    click(cmdUp);
+    EXPECT_EQ(user.heard().front(), "Upload Complete");
+    EXPECT_EQ(textOf(txtCurDir), "Upload Complete");
+    EXPECT_EQ(readFile(onServer("my page.htm")), "<P>caf\xE9</P>\n")
+        << "sent as text although Binary is chosen, so the server has put its own line ends";
+}
+
+TEST_F(FtpWindowTest, AsksForAPasswordThatIsNotStored) {
+    addSite("127.0.0.1", "user", "");
+    User user({User::press("NO PASSWORD GIVEN", IDOK)});
+    reopen();
+    EXPECT_EQ(textOf(txtCurDir), "NOT CONNECTED");
+    EXPECT_EQ(textOf(txtPassword), "ENTER PASSWORD HERE");
+    EXPECT_EQ(::SendMessageA(control(txtPassword), EM_GETPASSWORDCHAR, 0, 0), 0);
+    click(cmdPassword);
+    EXPECT_EQ(user.heard().front(), "Must enter PASSWORD to use FTP.");
+    ::SendMessageA(control(txtPassword), WM_SETTEXT, 0, reinterpret_cast<LPARAM>("secret"));
+    EXPECT_NE(::SendMessageA(control(txtPassword), EM_GETPASSWORDCHAR, 0, 0), 0);
+    click(cmdPassword);
+    EXPECT_EQ(textOf(txtCurDir), "/");
+    EXPECT_EQ(textOf(txtPassword), "");
+    EXPECT_EQ(ftp::LastUsedIndex(ftp::ReadSections()), 0);
+}
+
+TEST_F(FtpWindowTest, AWrongPasswordOrAnEmptyListOpensNothing) {
+    {
+        User user({User::press("NO SITES LISTED", IDOK)});
+        reopen();
+        EXPECT_EQ(user.heard().front(), "Must enter NEW FTP info before you can upload files.");
+    }
+    EXPECT_EQ(ftpWindow(), nullptr);
+    addSite("127.0.0.1", "user", "wrong");
+    User user({User::press("NOT CONNECTED", IDOK)});
+    reopen();
+    EXPECT_EQ(user.heard().front(), "Cannot connect to FTP site...");
+    EXPECT_EQ(ftpWindow(), nullptr);
+    EXPECT_EQ(ftp::LastUsedIndex(ftp::ReadSections()), std::nullopt);
+}
+
+TEST_F(FtpWindowTest, ThereIsOneWindowForAllSites) {
+    const HWND first = openHonest({"a.htm"});
+    frmUpload::open(main(), 0, HonestSession);
+    EXPECT_EQ(ftpWindow(), first);
+    addSite("127.0.0.1", "user", "secret");
+    frmUpload::open(main(), 1, HonestSession);
+    EXPECT_EQ(ftpWindow(), first) << "it is the second site of the list by now";
+    frmUpload::open(main(), 0, HonestSession);
+    EXPECT_EQ(textOf(txtCurDir), "/");
+    EXPECT_FALSE(::IsWindow(first));
+    ::SendMessageA(main().mainHwnd(), WM_CLOSE, 0, 0);
+    EXPECT_EQ(ftpWindow(), nullptr);
+}
+
+}  // namespace
