@@ -31,9 +31,10 @@ bool Same(const std::string& a, const std::string& b) {
     return ::lstrcmpiA(a.c_str(), b.c_str()) == 0;
 }
 
-// Sorted; the system names a family once for each of its character sets.
-std::vector<std::string> ScreenFonts() {
-    std::vector<std::string> faces;
+// Sorted, each once, and `chosen` among them even if it is not there any more. The system names a family once
+// for each of its character sets.
+std::vector<std::string> ScreenFonts(const std::string& chosen) {
+    std::vector<std::string> faces{chosen};
     LOGFONTA any{};
     any.lfCharSet = DEFAULT_CHARSET;
     const HDC screen = ::GetDC(nullptr);
@@ -48,14 +49,13 @@ void AddText(HWND combo, const std::string& text) {
     ::SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
 }
 
-// A text that the list lacks is put at its end.
-void SelectText(HWND combo, const std::string& text) {
-    const auto find = [&] {
-        return ::SendMessageA(combo, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                              reinterpret_cast<LPARAM>(text.c_str()));
-    };
-    if (find() == CB_ERR) AddText(combo, text);
-    ::SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(find()), 0);
+// False when the list has no such row.
+bool SelectText(HWND combo, const std::string& text) {
+    const LRESULT row = ::SendMessageA(combo, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                       reinterpret_cast<LPARAM>(text.c_str()));
+    if (row == CB_ERR) return false;
+    ::SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(row), 0);
+    return true;
 }
 
 }  // namespace
@@ -68,22 +68,17 @@ frmTxtFonts::frmTxtFonts(MainWindow& main) : Dialog("frmTxtFonts"), main_(main) 
 }
 
 void frmTxtFonts::fillFonts() const {
-    const HWND combo = item(cboFonts);
-    for (const std::string& face : ScreenFonts()) AddText(combo, face);
-    SelectText(combo, settings_.GetRegSetting("font preferences", "font_Face", "Arial"));
+    const std::string face = settings_.GetRegSetting("font preferences", "font_Face", "Arial");
+    for (const std::string& listed : ScreenFonts(face)) AddText(item(cboFonts), listed);
+    SelectText(item(cboFonts), face);
 }
 
 void frmTxtFonts::fillSizes() const {
-    const HWND combo = item(cboSize);
-    for (const int points : kSizes) AddText(combo, std::to_string(points));
+    for (const int points : kSizes) AddText(item(cboSize), std::to_string(points));
     const float stored = ParseFontSize(settings_.GetRegSetting("font preferences", "font_Size"));
-    const std::string text = FontSizeText(stored > 0 ? stored : frmChild::kDefaultPoints);
+    const std::string size = FontSizeText(stored > 0 ? stored : frmChild::kDefaultPoints);
     // A size of the user's own stands in the box alone.
-    if (::SendMessageA(combo, CB_SELECTSTRING, static_cast<WPARAM>(-1),
-                       reinterpret_cast<LPARAM>(text.c_str())) == CB_ERR ||
-        itemText(cboSize) != text) {
-        setItemText(cboSize, text);
-    }
+    if (!SelectText(item(cboSize), size)) setItemText(cboSize, size);
 }
 
 bool frmTxtFonts::onInit() {
