@@ -1,8 +1,5 @@
 #include "options/frmTxtFonts.h"
 
-#include <algorithm>
-#include <vector>
-
 #include "document/core/font_size.h"
 #include "document/frmChild.h"
 #include "forms/frmTxtFonts.h"
@@ -16,43 +13,34 @@ using document::ParseFontSize;
 
 constexpr int kSizes[] = {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 26, 28, 36, 48, 72};
 
-int CALLBACK Collect(const LOGFONTA* font, const TEXTMETRICA*, DWORD, LPARAM list) {
-    // "@" marks the upright twin of a font for vertical text.
-    if (font->lfFaceName[0] != '@')
-        reinterpret_cast<std::vector<std::string>*>(list)->emplace_back(font->lfFaceName);
+void AddText(HWND combo, const char* text) {
+    ::SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
+}
+
+LRESULT FindRow(HWND combo, const char* text) {
+    return ::SendMessageA(combo, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text));
+}
+
+// The system names a family once for each of its character sets; "@" marks the upright twin of a font for
+// vertical text. The list sorts itself.
+int CALLBACK AddFont(const LOGFONTA* font, const TEXTMETRICA*, DWORD, LPARAM list) {
+    const auto combo = reinterpret_cast<HWND>(list);
+    const char* face = font->lfFaceName;
+    if (face[0] != '@' && FindRow(combo, face) == CB_ERR) AddText(combo, face);
     return 1;
 }
 
-bool Before(const std::string& a, const std::string& b) {
-    return ::lstrcmpiA(a.c_str(), b.c_str()) < 0;
-}
-
-bool Same(const std::string& a, const std::string& b) {
-    return ::lstrcmpiA(a.c_str(), b.c_str()) == 0;
-}
-
-// Sorted, each once, and `chosen` among them even if it is not there any more. The system names a family once
-// for each of its character sets.
-std::vector<std::string> ScreenFonts(const std::string& chosen) {
-    std::vector<std::string> faces{chosen};
+void AddScreenFonts(HWND combo) {
     LOGFONTA any{};
     any.lfCharSet = DEFAULT_CHARSET;
     const HDC screen = ::GetDC(nullptr);
-    ::EnumFontFamiliesExA(screen, &any, Collect, reinterpret_cast<LPARAM>(&faces), 0);
+    ::EnumFontFamiliesExA(screen, &any, AddFont, reinterpret_cast<LPARAM>(combo), 0);
     ::ReleaseDC(nullptr, screen);
-    std::sort(faces.begin(), faces.end(), Before);
-    faces.erase(std::unique(faces.begin(), faces.end(), Same), faces.end());
-    return faces;
-}
-
-void AddText(HWND combo, const std::string& text) {
-    ::SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
 }
 
 // False when the list has no such row.
-bool SelectText(HWND combo, const std::string& text) {
-    const LRESULT row = ::SendMessageA(combo, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                                       reinterpret_cast<LPARAM>(text.c_str()));
+bool SelectText(HWND combo, const char* text) {
+    const LRESULT row = FindRow(combo, text);
     if (row == CB_ERR) return false;
     ::SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(row), 0);
     return true;
@@ -68,17 +56,20 @@ frmTxtFonts::frmTxtFonts(MainWindow& main) : Dialog("frmTxtFonts"), main_(main) 
 }
 
 void frmTxtFonts::fillFonts() const {
+    const HWND combo = item(cboFonts);
+    AddScreenFonts(combo);
     const std::string face = settings_.GetRegSetting("font preferences", "font_Face", "Arial");
-    for (const std::string& listed : ScreenFonts(face)) AddText(item(cboFonts), listed);
-    SelectText(item(cboFonts), face);
+    // A font that is not there any more is still the one that was chosen.
+    if (FindRow(combo, face.c_str()) == CB_ERR) AddText(combo, face.c_str());
+    SelectText(combo, face.c_str());
 }
 
 void frmTxtFonts::fillSizes() const {
-    for (const int points : kSizes) AddText(item(cboSize), std::to_string(points));
+    for (const int points : kSizes) AddText(item(cboSize), std::to_string(points).c_str());
     const float stored = ParseFontSize(settings_.GetRegSetting("font preferences", "font_Size"));
     const std::string size = FontSizeText(stored > 0 ? stored : frmChild::kDefaultPoints);
     // A size of the user's own stands in the box alone.
-    if (!SelectText(item(cboSize), size)) setItemText(cboSize, size);
+    if (!SelectText(item(cboSize), size.c_str())) setItemText(cboSize, size);
 }
 
 bool frmTxtFonts::onInit() {

@@ -37,7 +37,7 @@ TEST(HelpTexts, EveryButtonHasAHeadingOfItsOwnAndThenParagraphs) {
         ASSERT_NE(heading, std::string::npos) << i;
         EXPECT_GE(Paragraphs(words.substr(heading + 4)), 1U) << words;
         const bool isShared = i >= 6 && i <= 8;
-        if (i > 0) EXPECT_EQ(words == help::ButtonWords(i - 1), isShared) << i;
+        EXPECT_EQ(i > 0 && words == help::ButtonWords(i - 1), isShared) << i;
     }
     EXPECT_EQ(help::ButtonWords(17), "");
 }
