@@ -22,6 +22,9 @@ void Print(const std::string& what, double ours, double theirs, double aim);
 // An HTML page of about this many bytes.
 std::string Page(std::size_t bytes);
 
+// Streams the page into a control of the bare class, which is then destroyed.
+void BareControl(HWND parent, const std::string& page);
+
 // A path in the folder for what the benchmark writes.
 std::string Scratch(const std::string& name);
 void WriteFile(const std::string& path, const std::string& bytes);
@@ -29,5 +32,6 @@ void WriteFile(const std::string& path, const std::string& bytes);
 // The parts of the benchmark.
 void Start();
 void OpenAndSave(MainWindow& main);
+void FindAndReplace(MainWindow& main);
 
 }  // namespace bench

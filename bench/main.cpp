@@ -24,6 +24,7 @@ int main(int argc, char** argv) {
     frmNotePad& window = frmNotePad::open();
     ::ShowWindow(window.hwnd(), SW_SHOW);
     if (Wanted("pages", argc, argv)) bench::OpenAndSave(window);
+    if (Wanted("find", argc, argv)) bench::FindAndReplace(window);
     ::OleUninitialize();
     return 0;
 }

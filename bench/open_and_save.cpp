@@ -23,6 +23,17 @@ DWORD CALLBACK Feed(DWORD_PTR cookie, LPBYTE buffer, LONG size, LONG* done) {
     return 0;
 }
 
+void OpenAndClose(MainWindow& main, const std::string& path) {
+    ::SendMessageA(files::OpenFile(main, path)->hwnd(), WM_CLOSE, 0, 0);
+}
+
+void Save(MainWindow& main, const std::string& path) {
+    if (!modOpen::SaveDocument(main, main.activeDocument()->id(), path))
+        throw win::Failure("The save failed.");
+}
+
+}  // namespace
+
 void BareControl(HWND parent, const std::string& page) {
     const HWND control = win::Check(::CreateWindowExA(
         0, "RICHEDIT", "", WS_CHILD | WS_VISIBLE | WS_HSCROLL | WS_VSCROLL | ES_MULTILINE | ES_AUTOHSCROLL, 0,
@@ -34,17 +45,6 @@ void BareControl(HWND parent, const std::string& page) {
     ::SendMessageA(control, EM_STREAMIN, SF_TEXT, reinterpret_cast<LPARAM>(&stream));
     ::DestroyWindow(control);
 }
-
-void OpenAndClose(MainWindow& main, const std::string& path) {
-    ::SendMessageA(files::OpenFile(main, path)->hwnd(), WM_CLOSE, 0, 0);
-}
-
-void Save(MainWindow& main, const std::string& path) {
-    if (!modOpen::SaveDocument(main, main.activeDocument()->id(), path))
-        throw std::runtime_error("The save failed.");
-}
-
-}  // namespace
 
 void OpenAndSave(MainWindow& main) {
     const std::string one = Scratch("one.htm");

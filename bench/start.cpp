@@ -60,7 +60,7 @@ void StartUntilPage(const std::string& program, const std::string& file, const c
 
 void Start() {
     const char* exe = std::getenv("QUILLON_EXE");
-    if (!exe) throw std::runtime_error("QUILLON_EXE names no program.");
+    if (!exe) throw win::Failure("QUILLON_EXE names no program.");
     const std::string small = Scratch("small.htm");
     const std::string large = Scratch("large.htm");
     WriteFile(small, Page(2000));

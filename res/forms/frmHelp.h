@@ -1,4 +1,4 @@
-#define cmdClose IDCANCEL
+#define cmdClose 2
 #define Picture1 100
 #define Label1 120
 #define lblHead 121

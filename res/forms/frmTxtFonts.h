@@ -1,4 +1,4 @@
 #define cboFonts 101
 #define cboSize 102
-#define cmdOK 1
+#define cmdOK IDOK
 #define cmdCancel 2

@@ -6,6 +6,8 @@
 
 namespace authoring {
 
+// The system's own idea of letters, so that an umlaut matches its capital like any other letter. The second
+// bytes of a double-byte code page can look like letters, so there only ASCII counts.
 FoldTable SystemFoldTable();
 LetterTable SystemLetters();
 

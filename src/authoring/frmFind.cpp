@@ -2,6 +2,7 @@
 
 #include <exception>
 
+#include "authoring/code_page.h"
 #include "authoring/core/find_replace.h"
 #include "document/frmChild.h"
 #include "forms/frmFind.h"
@@ -11,16 +12,6 @@ namespace {
 
 constexpr char kName[] = "frmFind";
 constexpr char kPrompt[] = "Enter search string above...";
-
-// The system's own idea of letters, so that an umlaut matches its capital like any other letter. The
-// second bytes of a double-byte code page can look like letters, so there only ASCII folds.
-authoring::FoldTable SystemFoldTable() {
-    CPINFO codePage{};
-    if (!::GetCPInfo(CP_ACP, &codePage) || codePage.MaxCharSize > 1) return authoring::kAsciiFold;
-    authoring::FoldTable table = authoring::kExact;
-    ::CharLowerBuffA(reinterpret_cast<char*>(table.data()), static_cast<DWORD>(table.size()));
-    return table;
-}
 
 }  // namespace
 
@@ -108,7 +99,7 @@ void frmFind::FindAndCount() {
         const win::WaitCursor wait;
         const frmChild* target = readyPage();
         if (!target) return;
-        const authoring::FoldTable fold = SystemFoldTable();
+        const authoring::FoldTable fold = authoring::SystemFoldTable();
         const std::string text = target->txtPad().text();
         const std::string wanted = itemText(txtFind);
         start = target->txtPad().selection().start;
@@ -164,8 +155,8 @@ void frmFind::clickFindNext() {
         const frmChild* target = readyPage();
         if (!target) return;
         const std::string wanted = itemText(txtFind);
-        const std::size_t found =
-            authoring::FindIgnoringCase(target->txtPad().text(), wanted, nextStart_, SystemFoldTable());
+        const std::size_t found = authoring::FindIgnoringCase(target->txtPad().text(), wanted, nextStart_,
+                                                              authoring::SystemFoldTable());
         if (found != authoring::kNotFound) {
             nextStart_ = authoring::NextStartAfterFindNext(found, wanted.size());
             SelectFound(*target, found + 1, wanted.size());

@@ -1,12 +1,12 @@
 #include "authoring/frmReplace.h"
 
 #include <exception>
-#include <stdexcept>
 
 #include "authoring/core/find_replace.h"
 #include "document/frmChild.h"
 #include "forms/frmReplace.h"
 #include "win/clipboard.h"
+#include "win/error.h"
 #include "win/message_loop.h"
 
 namespace {
@@ -119,7 +119,7 @@ frmReplace::Outcome frmReplace::replaced(const std::string& find, const std::str
     for (const frmChild* target = page(); target && target->txtPad().text() != text; target = page()) {
         text = target->txtPad().text();
         const std::optional<int> count = authoring::CountMatches(text, find);
-        if (!count) throw std::overflow_error("more than can be counted");
+        if (!count) throw win::Failure("more than can be counted");
         if (*count == 0) return {};
         outcome = {authoring::ReplaceText(text, find, with, win::RunPending), *count};
     }

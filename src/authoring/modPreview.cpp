@@ -1,16 +1,15 @@
 #include "authoring/modPreview.h"
 
 #include <exception>
-#include <stdexcept>
 #include <string>
 
 #include "authoring/core/preview_path.h"
 #include "authoring/preview_wait.h"
 #include "document/frmChild.h"
-#include "files/core/page_lines.h"
 #include "files/mBinOpen.h"
 #include "files/modPubFuncs.h"
 #include "files/page_writer.h"
+#include "win/error.h"
 #include "win/message_box.h"
 #include "win/message_loop.h"
 
@@ -28,19 +27,18 @@ authoring::ShownFile WriteFile(MainWindow& main, DocumentId id, const std::strin
     const win::WaitCursor wait;
     const auto saved = mBinOpen::ReadFileBinary(path);
     const frmChild* page = main.find(id);
-    if (!page) throw std::runtime_error("The page was closed.");
+    if (!page) throw win::Failure("The page was closed.");
     document::RichEdit& pad = page->txtPad();
-    const std::string bytes = files::PageBytes(pad);
-    // A file that another program has written meanwhile is newer than an unchanged page, and not ours to
-    // overwrite.
-    const bool differs = pad.isChanged() || (saved && files::TerminateLines(*saved).bytes != bytes);
+    // The file holds the page as it was loaded, or as it was saved, with its last line ended. Otherwise
+    // another program has written it since, and a preview is no reason to overwrite that.
+    const bool isSame = saved == pad.text() || saved == files::PageBytes(pad);
+    const bool differs = pad.isChanged() || (saved && !isSame);
     const std::string file = authoring::PreviewFile(path, differs, modPubFuncs::FileExists);
-    if (file.empty()) throw std::runtime_error("The page has no folder.");
+    if (file.empty()) throw win::Failure("The page has no folder.");
     const bool isCopy = file != path;
-    if (isCopy || saved != bytes) {
+    if (isCopy || !isSame) {
         authoring::PreviewWait::end(file);
-        const bool written = files::WritePage(pad, file);
-        if (!written && (isCopy || !saved)) throw std::runtime_error("The file cannot be written.");
+        if (!files::WritePage(pad, file)) throw win::Failure("The file cannot be written.");
     }
     return {file, isCopy};
 }

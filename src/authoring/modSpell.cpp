@@ -1,10 +1,9 @@
 #include "authoring/modSpell.h"
 
-#include <stdexcept>
-
 #include "authoring/spell_service.h"
 #include "document/frmChild.h"
 #include "win/clipboard.h"
+#include "win/error.h"
 #include "win/message_box.h"
 #include "win/message_loop.h"
 
@@ -33,8 +32,8 @@ struct Sent {
     std::string text;  // what is to be corrected
 };
 
-struct NoService : std::runtime_error {
-    NoService() : runtime_error("There is no spelling service.") {}
+struct NoService : win::Failure {
+    NoService() : Failure("There is no spelling service.") {}
 };
 
 std::optional<std::string> Correct(MainWindow& main, const std::string& text) {
@@ -51,7 +50,7 @@ std::optional<std::string> Correct(MainWindow& main, const std::string& text) {
 }
 
 void ReplaceSelection(frmChild& page, const Sent& sent, const std::string& corrected) {
-    if (corrected.find('\0') != std::string::npos) throw std::runtime_error("The text holds a NUL.");
+    if (corrected.find('\0') != std::string::npos) throw win::Failure("The text holds a NUL.");
     page.txtPad().select(sent.selection.start, sent.selection.end);
     page.txtPad().replaceSelection(corrected);
 }
@@ -68,9 +67,8 @@ void ReplacePage(MainWindow& main, frmChild& page, const Sent& sent, const std::
 
 void PutBack(MainWindow& main, const Sent& sent, const std::string& corrected) {
     frmChild* page = main.find(sent.page);
-    if (!page || page->txtPad().text() != sent.before)
-        throw std::runtime_error("The page is another by now.");
-    if (corrected.empty()) throw std::runtime_error("The text did not come back.");
+    if (!page || page->txtPad().text() != sent.before) throw win::Failure("The page is another by now.");
+    if (corrected.empty()) throw win::Failure("The text did not come back.");
     win::SetClipboardText(page->hwnd(), sent.before);
     if (sent.selection.length() > 0) {
         ReplaceSelection(*page, sent, corrected);

@@ -50,8 +50,11 @@ void PageDialog::bringPageToTop() const {
 
 void PageDialog::focusPage(const frmChild& target) const {
     target.focusPage();
-    // Under some window managers the activated main window comes over even a topmost window of its own.
-    ::SetWindowPos(hwnd(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);
+    // Where no window manager keeps the order the main window, activated, is drawn over even its topmost
+    // dialogs, until they change their place.
+    for (const HWND place : {HWND_NOTOPMOST, HWND_TOPMOST}) {
+        ::SetWindowPos(hwnd(), place, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);
+    }
 }
 
 int PageDialog::ask(const std::string& text, const char* title, UINT style) const {

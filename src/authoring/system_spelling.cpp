@@ -4,10 +4,13 @@
 
 #include "authoring/code_page.h"
 #include "authoring/frmSpelling.h"
-#include "authoring/spell_checker_api.h"
 #include "win/com.h"
 #include "win/error.h"
 #include "win/unicode.h"
+
+// The interfaces of Windows 8 and later, which the header hides from programs for older ones.
+#define MIN_SPELLING_NTDDI 0
+#include <spellcheck.h>
 
 namespace authoring {
 namespace {
@@ -20,15 +23,15 @@ void CheckResult(HRESULT result) {
 
 class SystemDictionary : public SpellDictionary {
  public:
-    explicit SystemDictionary(ComPtr<SpellCheckerApi> checker) : checker_(std::move(checker)) {}
+    explicit SystemDictionary(ComPtr<ISpellChecker> checker) : checker_(std::move(checker)) {}
 
     bool knows(const std::string& word) override {
-        SpellingErrorsApi* found = nullptr;
+        IEnumSpellingError* found = nullptr;
         CheckResult(checker_.get()->Check(Wide(word).c_str(), &found));
-        const ComPtr<SpellingErrorsApi> errors(found);
-        IUnknown* first = nullptr;
+        const ComPtr<IEnumSpellingError> errors(found);
+        ISpellingError* first = nullptr;
         const HRESULT result = errors.get()->Next(&first);
-        const ComPtr<IUnknown> error(first);
+        const ComPtr<ISpellingError> error(first);
         CheckResult(result);
         return result != S_OK;
     }
@@ -58,12 +61,12 @@ class SystemDictionary : public SpellDictionary {
         return wide;
     }
 
-    ComPtr<SpellCheckerApi> checker_;
+    ComPtr<ISpellChecker> checker_;
 };
 
 class SystemSpelling : public SpellService {
  public:
-    explicit SystemSpelling(ComPtr<SpellCheckerApi> checker) : dictionary_(std::move(checker)) {}
+    explicit SystemSpelling(ComPtr<ISpellChecker> checker) : dictionary_(std::move(checker)) {}
 
     std::optional<std::string> correct(HWND owner, const std::string& text) override {
         SpellingPass pass(text, SystemLetters(), dictionary_);
@@ -88,15 +91,15 @@ std::wstring UserLanguage() {
 
 std::unique_ptr<SpellService> StartSystemSpelling() {
     void* object = nullptr;
-    if (FAILED(::CoCreateInstance(kSpellCheckerFactory, nullptr, CLSCTX_INPROC_SERVER, kISpellCheckerFactory,
-                                  &object))) {
+    if (FAILED(::CoCreateInstance(__uuidof(SpellCheckerFactory), nullptr, CLSCTX_INPROC_SERVER,
+                                  __uuidof(ISpellCheckerFactory), &object))) {
         return nullptr;
     }
-    const ComPtr<SpellCheckerFactoryApi> factory(static_cast<SpellCheckerFactoryApi*>(object));
+    const ComPtr<ISpellCheckerFactory> factory(static_cast<ISpellCheckerFactory*>(object));
     for (const std::wstring& language : {UserLanguage(), std::wstring(L"en-US")}) {
-        SpellCheckerApi* checker = nullptr;
+        ISpellChecker* checker = nullptr;
         if (SUCCEEDED(factory.get()->CreateSpellChecker(language.c_str(), &checker)) && checker) {
-            return std::make_unique<SystemSpelling>(ComPtr<SpellCheckerApi>(checker));
+            return std::make_unique<SystemSpelling>(ComPtr<ISpellChecker>(checker));
         }
     }
     return nullptr;

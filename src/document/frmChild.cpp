@@ -121,17 +121,19 @@ void frmChild::setCaption(const std::string& caption) {
 void frmChild::setPage(std::string_view page) {
     auto fresh = makePad(txtPad_->font());
     try {
+        // In its final size before it has text, so that the lines are laid out once.
+        RECT place{};
+        ::GetWindowRect(txtPad_->hwnd(), &place);
+        ::MoveWindow(fresh->hwnd(), 0, 0, place.right - place.left, place.bottom - place.top, FALSE);
+        if (txtPad_->wordWrap()) fresh->setWordWrap(true);
         fresh->load(page);
     } catch (...) {
         ::DestroyWindow(fresh->hwnd());
         throw;
     }
-    fresh->setWordWrap(txtPad_->wordWrap());
     const bool focused = ::GetFocus() == txtPad_->hwnd();
-    const HWND old = txtPad_->hwnd();
-    txtPad_ = std::move(fresh);
-    layOut();
-    ::DestroyWindow(old);
+    txtPad_.swap(fresh);
+    ::DestroyWindow(fresh->hwnd());
     if (focused) focusPage();
 }
 

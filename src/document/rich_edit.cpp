@@ -111,13 +111,6 @@ std::string RichEdit::textRange(long start, long end) const {
     return text;
 }
 
-long RichEdit::find(const std::string& text, long start) const {
-    FINDTEXTEXA search{};
-    search.chrg = {start, -1};
-    search.lpstrText = text.c_str();
-    return static_cast<long>(send(EM_FINDTEXTEX, FR_DOWN, reinterpret_cast<LPARAM>(&search)));
-}
-
 void RichEdit::setWordWrap(bool wrap) {
     wordWrap_ = wrap;
     send(EM_SETTARGETDEVICE, 0, wrap ? 0 : 1);

@@ -46,9 +46,6 @@ class RichEdit : public win::Control {
     // The one that holds a position.
     long lineOf(long position) const { return static_cast<long>(send(EM_EXLINEFROMCHAR, 0, position)); }
 
-    // The first match at or after `start`, whatever the case of its letters; -1 when there is none.
-    long find(const std::string& text, long start) const;
-
     bool isChanged() const { return send(EM_GETMODIFY) != 0; }
     void setChanged(bool changed) { send(EM_SETMODIFY, changed ? TRUE : FALSE); }
 

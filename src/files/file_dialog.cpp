@@ -1,5 +1,7 @@
 #include "files/file_dialog.h"
 
+#include <cderr.h>
+
 #include <array>
 
 namespace files {
@@ -28,6 +30,10 @@ std::string Ask(const FileDialog& dialog, BOOL(WINAPI* show)(OPENFILENAMEA*)) {
     record.lpstrTitle = dialog.title;
     record.lpstrDefExt = dialog.extension;
     record.Flags = dialog.flags;
+    if (show(&record)) return Trimmed(path.data());
+    // A page may be titled with what is no file name. The system then shows no dialog at all.
+    if (::CommDlgExtendedError() != FNERR_INVALIDFILENAME) return {};
+    path[0] = '\0';
     return show(&record) ? Trimmed(path.data()) : std::string();
 }
 

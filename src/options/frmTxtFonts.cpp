@@ -1,8 +1,5 @@
 #include "options/frmTxtFonts.h"
 
-#include <algorithm>
-#include <vector>
-
 #include "document/core/font_size.h"
 #include "document/frmChild.h"
 #include "forms/frmTxtFonts.h"
@@ -16,46 +13,35 @@ using document::ParseFontSize;
 
 constexpr int kSizes[] = {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 26, 28, 36, 48, 72};
 
-int CALLBACK Collect(const LOGFONTA* font, const TEXTMETRICA*, DWORD, LPARAM list) {
-    // "@" marks the upright twin of a font for vertical text.
-    if (font->lfFaceName[0] != '@')
-        reinterpret_cast<std::vector<std::string>*>(list)->emplace_back(font->lfFaceName);
+void AddText(HWND combo, const char* text) {
+    ::SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
+}
+
+LRESULT FindFace(HWND combo, const char* text) {
+    return ::SendMessageA(combo, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text));
+}
+
+// The system names a family once for each of its character sets; "@" marks the upright twin of a font for
+// vertical text. The list sorts itself.
+int CALLBACK AddFont(const LOGFONTA* font, const TEXTMETRICA*, DWORD, LPARAM list) {
+    const auto combo = reinterpret_cast<HWND>(list);
+    const char* face = font->lfFaceName;
+    if (face[0] != '@' && FindFace(combo, face) == CB_ERR) AddText(combo, face);
     return 1;
 }
 
-bool Before(const std::string& a, const std::string& b) {
-    return ::lstrcmpiA(a.c_str(), b.c_str()) < 0;
-}
-
-bool Same(const std::string& a, const std::string& b) {
-    return ::lstrcmpiA(a.c_str(), b.c_str()) == 0;
-}
-
-// Sorted; the system names a family once for each of its character sets.
-std::vector<std::string> ScreenFonts() {
-    std::vector<std::string> faces;
+void AddScreenFonts(HWND combo) {
     LOGFONTA any{};
     any.lfCharSet = DEFAULT_CHARSET;
     const HDC screen = ::GetDC(nullptr);
-    ::EnumFontFamiliesExA(screen, &any, Collect, reinterpret_cast<LPARAM>(&faces), 0);
+    ::EnumFontFamiliesExA(screen, &any, AddFont, reinterpret_cast<LPARAM>(combo), 0);
     ::ReleaseDC(nullptr, screen);
-    std::sort(faces.begin(), faces.end(), Before);
-    faces.erase(std::unique(faces.begin(), faces.end(), Same), faces.end());
-    return faces;
 }
 
-void AddText(HWND combo, const std::string& text) {
-    ::SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
-}
-
-// A text that the list lacks is put at its end.
+// A text that the list lacks is added to it.
 void SelectText(HWND combo, const std::string& text) {
-    const auto find = [&] {
-        return ::SendMessageA(combo, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                              reinterpret_cast<LPARAM>(text.c_str()));
-    };
-    if (find() == CB_ERR) AddText(combo, text);
-    ::SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(find()), 0);
+    if (FindFace(combo, text.c_str()) == CB_ERR) AddText(combo, text.c_str());
+    ::SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(FindFace(combo, text.c_str())), 0);
 }
 
 }  // namespace
@@ -69,13 +55,13 @@ frmTxtFonts::frmTxtFonts(MainWindow& main) : Dialog("frmTxtFonts"), main_(main) 
 
 void frmTxtFonts::fillFonts() const {
     const HWND combo = item(cboFonts);
-    for (const std::string& face : ScreenFonts()) AddText(combo, face);
+    AddScreenFonts(combo);
     SelectText(combo, settings_.GetRegSetting("font preferences", "font_Face", "Arial"));
 }
 
 void frmTxtFonts::fillSizes() const {
     const HWND combo = item(cboSize);
-    for (const int points : kSizes) AddText(combo, std::to_string(points));
+    for (const int points : kSizes) AddText(combo, std::to_string(points).c_str());
     const float stored = ParseFontSize(settings_.GetRegSetting("font preferences", "font_Size"));
     const std::string text = FontSizeText(stored > 0 ? stored : frmChild::kDefaultPoints);
     // A size of the user's own stands in the box alone.

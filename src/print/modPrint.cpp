@@ -30,6 +30,7 @@ class Printer {
  public:
     Printer() : dc_(DefaultPrinter()) {
         if (!hasReadableFont()) useOwnFont();
+        ::SetBkMode(dc(), TRANSPARENT);
     }
 
     HDC dc() const { return dc_.get(); }

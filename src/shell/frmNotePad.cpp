@@ -72,6 +72,8 @@ void frmNotePad::createParts() {
     Picture3_ = &shell::StatusStrip::open(hwnd());
     enableNew(false);
     Picture3_->setLineNo("Line numbers appear here.");
+    // The first page opens before the window is shown, and takes its size from the client's.
+    layOut();
 }
 
 void frmNotePad::layOut() const {

@@ -13,7 +13,7 @@ std::string SystemText(DWORD code) {
 
 }  // namespace
 
-Error::Error(DWORD code) : std::runtime_error(SystemText(code)), code_(code) {}
+Error::Error(DWORD code) : code_(code), what_(SystemText(code)) {}
 
 void ThrowLastError() {
     throw Error(::GetLastError());

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <stdexcept>
 #include <string_view>
 
 #include "win/error.h"
@@ -84,7 +83,7 @@ void MenuBar::attach(HWND window) {
 const MenuBar::Entry& MenuBar::entry(std::uint16_t id) const {
     const auto found = std::find_if(entries_.begin(), entries_.end(),
                                     [id](const Entry& entry) { return entry.row->id == id; });
-    if (found == entries_.end()) throw std::out_of_range("No such menu item.");
+    if (found == entries_.end()) throw Failure("No such menu item.");
     return *found;
 }
 

@@ -6,8 +6,9 @@ namespace {
 void Handle(MSG& message) {
     const HWND top = message.hwnd ? ::GetAncestor(message.hwnd, GA_ROOT) : nullptr;
     // A window that its own key has closed cannot answer any more.
-    const bool done = top && (::SendMessageA(top, kPreTranslate, 0, reinterpret_cast<LPARAM>(&message)) != 0 ||
-                              !::IsWindow(top));
+    const bool done =
+        top &&
+        (::SendMessageA(top, kPreTranslate, 0, reinterpret_cast<LPARAM>(&message)) != 0 || !::IsWindow(top));
     if (done) return;
     ::TranslateMessage(&message);
     ::DispatchMessageA(&message);

@@ -154,7 +154,7 @@ HWND Quillon::waitForDialog(const std::string& title) const {
     return dialog;
 }
 
-std::string Quillon::answer(const std::string& title, WORD button) const {
+HWND Quillon::waitForBox(const std::string& title) const {
     HWND dialog = nullptr;
     // The main window has the same title as many boxes.
     const bool came = seen::Until([&] {
@@ -163,10 +163,13 @@ std::string Quillon::answer(const std::string& title, WORD button) const {
         }
         return dialog != nullptr;
     });
-    if (!came) {
-        ADD_FAILURE() << "no box came with the title \"" << title << '"';
-        return {};
-    }
+    if (!came) ADD_FAILURE() << "no box came with the title \"" << title << '"';
+    return dialog;
+}
+
+std::string Quillon::answer(const std::string& title, WORD button) const {
+    const HWND dialog = waitForBox(title);
+    if (!dialog) return {};
     const std::string said = seen::LabelsOf(dialog);
     ::PostMessageA(dialog, WM_COMMAND, button, 0);
     seen::Until([dialog] { return !::IsWindow(dialog); });

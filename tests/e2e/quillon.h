@@ -39,7 +39,9 @@ class Quillon {
     void pressKey(WORD virtualKey, bool control = false) const;
 
     HWND waitForDialog(const std::string& title) const;
-    // Waits for the dialog, presses the button and waits until it is gone. Gives what it said.
+    // A dialog that may have the main window's title.
+    HWND waitForBox(const std::string& title) const;
+    // Waits for such a dialog, presses the button and waits until it is gone. Gives what it said.
     std::string answer(const std::string& title, WORD button) const;
     void chooseFile(const std::string& title, const std::string& path) const;
 

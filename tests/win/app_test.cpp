@@ -1,5 +1,7 @@
 #include "win/app_test.h"
 
+#include <utility>
+
 #include "settings/app_settings.h"
 #include "shell/frmNotePad.h"
 #include "win/message_loop.h"
@@ -74,7 +76,8 @@ User::User(std::vector<Act> acts)
 void User::finish() {
     if (!thread_.joinable()) return;
     thread_.join();
-    if (!missing_.empty()) ADD_FAILURE() << "No window came with the title \"" << missing_ << '"';
+    const std::string missing = std::exchange(missing_, {});
+    if (!missing.empty()) ADD_FAILURE() << "No window came with the title \"" << missing << '"';
 }
 
 const std::vector<std::string>& User::heard() {
@@ -104,14 +107,17 @@ void AppTest::SetUp() {
 }
 
 void AppTest::TearDown() {
-    if (main_ && main_->mainHwnd()) {
-        for (frmChild* page : main_->documents()) page->txtPad().setChanged(false);
-        ::SendMessageA(main_->mainHwnd(), WM_CLOSE, 0, 0);
-    }
+    closeMain();
     MSG message{};
     while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageA(&message);
     DeleteTree(folder_);
     registry_.reset();
+}
+
+void AppTest::closeMain() {
+    if (!main_) return;
+    for (frmChild* page : main_->documents()) page->txtPad().setChanged(false);
+    ::SendMessageA(std::exchange(main_, nullptr)->mainHwnd(), WM_CLOSE, 0, 0);
 }
 
 frmChild& AppTest::newPage(const std::string& text) {

@@ -59,6 +59,8 @@ class AppTest : public ::testing::Test {
     void TearDown() override;
 
     MainWindow& main() { return *main_; }
+    // Throws away what has not been saved; there is no main window afterwards.
+    void closeMain();
     // A new page with this text instead of the outline, unchanged.
     frmChild& newPage(const std::string& text);
     frmChild& active() { return *main().activeDocument(); }

@@ -189,7 +189,7 @@ TEST_F(FindTest, BothDialogsGoWithAnyPageAndWithTheMainWindow) {
     EXPECT_FALSE(::IsWindow(replace));
     EXPECT_TRUE(pageHasFocus());
     const HWND again = open(tbrFind, "Find");
-    ::SendMessageA(main().mainHwnd(), WM_CLOSE, 0, 0);
+    closeMain();
     EXPECT_FALSE(::IsWindow(again));
 }
 
@@ -277,6 +277,7 @@ TEST_F(ReplaceTest, ReplaceAllRebuildsThePageAndClosesTheDialog) {
     EXPECT_EQ(active().txtPad().font().face, "Arial");
     EXPECT_EQ(active().tabText(), "      ");
     EXPECT_TRUE(pageHasFocus());
+    EXPECT_EQ(::RevokeDragDrop(active().txtPad().hwnd()), S_OK) << "drops go on";
     EXPECT_GT(::SendMessageA(active().txtPad().hwnd(), EM_GETLIMITTEXT, 0, 0), 0x100000);
 }
 

@@ -1,7 +1,11 @@
 #include "authoring/frmSpelling.h"
 #include "win/app_test.h"
 #include "win/clipboard.h"
+#include "win/com.h"
 #include "win/unique.h"
+
+#define MIN_SPELLING_NTDDI 0
+#include <spellcheck.h>
 
 namespace {
 
@@ -185,6 +189,128 @@ void Play(const std::vector<User::Act>& acts) {
     ASSERT_TRUE(
         seen::Until([&] { return (dialog = seen::Titled(::GetCurrentProcessId(), "Spelling")) != nullptr; }));
     for (const User::Act& act : acts) act.act(dialog);
+}
+
+// The system's spell checker, which Wine does not have. It does not know "teh".
+template <typename Interface>
+class Fake : public Interface {
+ public:
+    virtual ~Fake() = default;
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
+        *object = id == IID_IUnknown || id == __uuidof(Interface) ? this : nullptr;
+        if (!*object) return E_NOINTERFACE;
+        this->AddRef();
+        return S_OK;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
+    ULONG STDMETHODCALLTYPE Release() override {
+        const ULONG left = --references_;
+        if (left == 0) delete this;
+        return left;
+    }
+
+ private:
+    ULONG references_ = 1;
+};
+
+class FakeError : public Fake<ISpellingError> {
+    HRESULT STDMETHODCALLTYPE get_StartIndex(ULONG*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE get_Length(ULONG*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE get_CorrectiveAction(CORRECTIVE_ACTION*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE get_Replacement(LPWSTR*) override { return E_NOTIMPL; }
+};
+
+class FakeErrors : public Fake<IEnumSpellingError> {
+ public:
+    explicit FakeErrors(bool any) : any_(any) {}
+    HRESULT STDMETHODCALLTYPE Next(ISpellingError** error) override {
+        *error = any_ ? new FakeError : nullptr;
+        return std::exchange(any_, false) ? S_OK : S_FALSE;
+    }
+
+ private:
+    bool any_;
+};
+
+class FakeStrings : public Fake<IEnumString> {
+    HRESULT STDMETHODCALLTYPE Next(ULONG, LPOLESTR* text, ULONG*) override {
+        if (given_++ > 0) return S_FALSE;
+        *text = static_cast<wchar_t*>(::CoTaskMemAlloc(5 * sizeof(wchar_t)));
+        ::lstrcpyW(*text, L"th\x00E9y");
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE Skip(ULONG) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE Reset() override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE Clone(IEnumString**) override { return E_NOTIMPL; }
+    int given_ = 0;
+};
+
+class FakeChecker : public Fake<ISpellChecker> {
+ public:
+    HRESULT STDMETHODCALLTYPE Check(LPCWSTR text, IEnumSpellingError** errors) override {
+        *errors = new FakeErrors(::lstrcmpW(text, L"teh") == 0);
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE Suggest(LPCWSTR, IEnumString** strings) override {
+        *strings = new FakeStrings;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE get_LanguageTag(LPWSTR*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE Add(LPCWSTR) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE Ignore(LPCWSTR) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE AutoCorrect(LPCWSTR, LPCWSTR) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetOptionValue(LPCWSTR, BYTE*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE get_OptionIds(IEnumString**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE get_Id(LPWSTR*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE get_LocalizedName(LPWSTR*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE add_SpellCheckerChanged(ISpellCheckerChangedEventHandler*, DWORD*) override {
+        return E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE remove_SpellCheckerChanged(DWORD) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetOptionDescription(LPCWSTR, IOptionDescription**) override {
+        return E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE ComprehensiveCheck(LPCWSTR, IEnumSpellingError**) override { return E_NOTIMPL; }
+};
+
+class FakeCheckers : public Fake<ISpellCheckerFactory> {
+    HRESULT STDMETHODCALLTYPE get_SupportedLanguages(IEnumString**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE IsSupported(LPCWSTR, BOOL*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE CreateSpellChecker(LPCWSTR, ISpellChecker** checker) override {
+        *checker = new FakeChecker;
+        return S_OK;
+    }
+};
+
+class FakeClass : public Fake<IClassFactory> {
+    HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown*, REFIID id, void** object) override {
+        const win::ComPtr<FakeCheckers> checkers(new FakeCheckers);
+        return checkers.get()->QueryInterface(id, object);
+    }
+    HRESULT STDMETHODCALLTYPE LockServer(BOOL) override { return S_OK; }
+};
+
+TEST_F(WordTest, WithoutAWordProcessorTheSystemsSpellCheckerServes) {
+    uninstall();
+    const win::ComPtr<FakeClass> cls(new FakeClass);
+    DWORD cookie = 0;
+    ASSERT_EQ(::CoRegisterClassObject(__uuidof(SpellCheckerFactory), cls.get(), CLSCTX_INPROC_SERVER,
+                                      REGCLS_MULTIPLEUSE, &cookie),
+              S_OK);
+    newPage("<teh>Is teh page</teh>");
+    User user({User::press("Spelling", IDOK), User::press("Quillon Note:", IDOK)});
+    run(tbrSpelling);
+    EXPECT_EQ(user.heard()[1], "Spell Check Completed.");
+    EXPECT_EQ(pageText(), "<teh>Is th\xE9y page</teh>");
+    EXPECT_EQ(win::ClipboardText(main().mainHwnd()), "<teh>Is teh page</teh>");
+
+    newPage("teh");
+    User canceller({User::press("Spelling", IDCANCEL)});
+    run(tbrSpelling);
+    canceller.heard();
+    EXPECT_EQ(pageText(), "teh");
+    EXPECT_FALSE(active().txtPad().isChanged());
+    ::CoRevokeClassObject(cookie);
 }
 
 class SpellingFormTest : public AppTest {};

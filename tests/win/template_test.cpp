@@ -118,6 +118,16 @@ TEST_F(TemplateTest, APageBecomesATemplateAndATemplateANewPage) {
     EXPECT_TRUE(label("Current Line No: 1"));
 }
 
+TEST_F(TemplateTest, APageTitledWithWhatIsNoFileNameCanStillBeSaved) {
+    newPage("page");
+    add("one.htm", "a/b: \"c\"?");
+    run(mnuOptsTempList);
+    User user({User::chooseFile("Save File As...", scratch("saved.htm"))});
+    run(mnuFileSave);
+    user.heard();
+    EXPECT_EQ(readFile(scratch("saved.htm")), "page\r\n\r\n");
+}
+
 TEST_F(TemplateTest, TheTenthDropsTheOldestButNotItsFile) {
     newPage("page");
     for (int i = 0; i < 10; ++i) add("t" + std::to_string(i) + ".htm", std::to_string(i));

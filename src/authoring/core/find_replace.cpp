@@ -1,7 +1,8 @@
 #include "authoring/core/find_replace.h"
 
-#include <stdexcept>
 #include <vector>
+
+#include <new>
 
 namespace authoring {
 namespace {
@@ -72,7 +73,7 @@ std::size_t ReplacedSize(std::string_view text, std::string_view find, std::stri
     while (matches.next() != kNotFound) ++count;
     const std::size_t kept = text.size() - count * find.size();
     if (!with.empty() && count > (std::string().max_size() - kept) / with.size()) {
-        throw std::length_error("The replaced text is too large.");
+        throw std::bad_alloc();
     }
     return kept + count * with.size();
 }

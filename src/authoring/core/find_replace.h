@@ -50,7 +50,7 @@ constexpr std::size_t NextStartAfterFindNext(std::size_t position, std::size_t l
 // `text` with every non-overlapping occurrence of `find`, from left to right, replaced by `with`.
 // `onReplaced` is called after each replacement and may pump messages, so `text`, `find` and `with` must
 // be the caller's own copies and not something that a window can take away; what it throws ends the
-// work. Throws std::length_error or std::bad_alloc, before the first replacement, if the result is too
+// work. Throws std::bad_alloc, before the first replacement, if the result is too
 // large.
 std::string ReplaceText(std::string_view text, std::string_view find, std::string_view with,
                         const std::function<void()>& onReplaced = {});

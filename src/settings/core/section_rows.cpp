@@ -20,8 +20,11 @@ std::tuple<bool, unsigned long> Rank(const std::string& key) {
 }  // namespace
 
 void SortRows(std::vector<Row>& rows) {
-    std::stable_sort(rows.begin(), rows.end(),
-                     [](const Row& a, const Row& b) { return Rank(a.key) < Rank(b.key); });
+    // Sections are short, and this takes a tenth of the code that the library's stable sort does.
+    const auto before = [](const Row& a, const Row& b) { return Rank(a.key) < Rank(b.key); };
+    for (auto row = rows.begin(); row != rows.end(); ++row) {
+        std::rotate(std::upper_bound(rows.begin(), row, *row, before), row, row + 1);
+    }
 }
 
 }  // namespace settings
