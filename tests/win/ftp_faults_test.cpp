@@ -126,12 +126,6 @@ TEST_F(FtpFaultsTest, OverlongNamesDoNoHarm) {
     EXPECT_TRUE(::IsWindowEnabled(control(cmdRefresh)));
 }
 
-TEST_F(FtpFaultsTest, DISABLED_Endless) {
-    openScripted("list-endless");
-    EXPECT_EQ(textOf(txtCurDir), "/");
-    printf("%d\n", (int)::SendMessageA(control(lstRemoteFiles), LB_GETCOUNT, 0, 0));
-}
-
 TEST_F(FtpFaultsTest, APasswordArrivesByteForByte) {
     const std::string password = "mno847\xE9 x";  // the key itself scrambles to codes 0
     addSite("127.0.0.1", "plain", password);
