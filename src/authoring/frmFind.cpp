@@ -11,12 +11,13 @@
 namespace {
 
 constexpr char kName[] = "frmFind";
+constexpr int kDown = 1300;  // twips
 constexpr char kPrompt[] = "Enter search string above...";
 
 }  // namespace
 
 frmFind::frmFind(MainWindow& owner)
-    : PageDialog(kName, owner), mFindOriginalKid(owner.activeDocument()->hwnd()) {}
+    : PageDialog(kName, owner, kDown), mFindOriginalKid(owner.activeDocument()->hwnd()) {}
 
 void frmFind::show(MainWindow& main) {
     if (const Dialog* open = find(main.mainHwnd(), kName)) {

@@ -12,11 +12,12 @@
 namespace {
 
 constexpr char kName[] = "frmReplace";
+constexpr int kDown = 3700;  // twips; below the Find dialog
 
 }  // namespace
 
 frmReplace::frmReplace(MainWindow& owner)
-    : PageDialog(kName, owner), mReplaceOriginalKid(owner.activeDocument()->hwnd()) {}
+    : PageDialog(kName, owner, kDown), mReplaceOriginalKid(owner.activeDocument()->hwnd()) {}
 
 void frmReplace::show(MainWindow& main) {
     if (const Dialog* open = find(main.mainHwnd(), kName)) {

@@ -11,16 +11,15 @@ constexpr UINT_PTR kWatch = 1;
 constexpr UINT kWatchInterval = 200;  // milliseconds
 
 constexpr int kInward = 4600;  // twips from the main window's right edge to the dialog's left one
-constexpr int kDown = 1300;    // twips from the main window's top
 
 }  // namespace
 
-PageDialog::PageDialog(const char* templateName, MainWindow& main)
-    : Dialog(templateName), main_(main), pageId_(main.activeDocument()->id()) {}
+PageDialog::PageDialog(const char* templateName, MainWindow& main, int down)
+    : Dialog(templateName), main_(main), pageId_(main.activeDocument()->id()), down_(down) {}
 
 bool PageDialog::onInit() {
     const RECT beside = modWndPos::RectInTwips(main_.mainHwnd());
-    modWndPos::MoveTo(hwnd(), beside.right - kInward, beside.top + kDown);
+    modWndPos::MoveTo(hwnd(), beside.right - kInward, beside.top + down_);
     modWndPos::MakeTopmost(hwnd());
     ::SetTimer(hwnd(), kWatch, kWatchInterval, nullptr);
     return true;

@@ -12,8 +12,8 @@ namespace authoring {
 // within 200 ms by its own watch.
 class PageDialog : public win::Dialog {
  protected:
-    // For the main window's active page, which must be there.
-    PageDialog(const char* templateName, MainWindow& main);
+    // For the main window's active page, which must be there; `down` twips below the main window's top.
+    PageDialog(const char* templateName, MainWindow& main, int down);
 
     bool onInit() override;
     INT_PTR onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -36,6 +36,7 @@ class PageDialog : public win::Dialog {
  private:
     MainWindow& main_;
     DocumentId pageId_;
+    int down_;
 };
 
 // Closes the Find and the Replace dialog, if they are open.

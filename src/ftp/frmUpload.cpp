@@ -198,6 +198,7 @@ void frmUpload::startInSiteDirectory() {
         if (!isThere()) return;
     }
     root_ = session_->currentDirectory().value_or("/");
+    current_ = root_;
     ListRemote();
     if (!isThere()) return;
     unloadConnect();

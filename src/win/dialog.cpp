@@ -18,8 +18,9 @@ INT_PTR Dialog::showModal(HWND owner) {
 }
 
 void Dialog::createModeless(HWND owner) {
-    Check(::CreateDialogParamA(::GetModuleHandleA(nullptr), templateName_, owner, procedure,
-                               reinterpret_cast<LPARAM>(this)));
+    const HWND window = Check(::CreateDialogParamA(::GetModuleHandleA(nullptr), templateName_, owner,
+                                                   procedure, reinterpret_cast<LPARAM>(this)));
+    ::SetPropA(owner, templateName_, window);
 }
 
 void Dialog::showModeless(HWND owner) {
@@ -27,17 +28,9 @@ void Dialog::showModeless(HWND owner) {
     ::ShowWindow(hwnd_, SW_SHOW);
 }
 
-Dialog* Dialog::find(HWND owner, std::string_view templateName) {
-    HWND window = nullptr;
-    while ((window = ::FindWindowExA(nullptr, window, WC_DIALOG, nullptr)) != nullptr) {
-        if (::GetWindow(window, GW_OWNER) != owner ||
-            ::GetWindowLongPtrA(window, DWLP_DLGPROC) != reinterpret_cast<LONG_PTR>(procedure)) {
-            continue;
-        }
-        auto* dialog = reinterpret_cast<Dialog*>(::GetWindowLongPtrA(window, DWLP_USER));
-        if (dialog && !dialog->modal_ && dialog->templateName_ == templateName) return dialog;
-    }
-    return nullptr;
+Dialog* Dialog::find(HWND owner, const char* templateName) {
+    const auto window = static_cast<HWND>(::GetPropA(owner, templateName));
+    return window ? reinterpret_cast<Dialog*>(::GetWindowLongPtrA(window, DWLP_USER)) : nullptr;
 }
 
 void Dialog::close(INT_PTR result) {
@@ -82,6 +75,8 @@ INT_PTR Dialog::dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
         ShowMessage(hwnd_, error.what(), "Quillon", MB_ICONEXCLAMATION);
     }
     if (message == WM_NCDESTROY) {
+        const HWND owner = ::GetWindow(hwnd_, GW_OWNER);
+        if (find(owner, templateName_) == this) ::RemovePropA(owner, templateName_);
         ::SetWindowLongPtrA(hwnd_, DWLP_USER, 0);
         hwnd_ = nullptr;
     }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "win/windows.h"
 
@@ -16,8 +15,8 @@ class Dialog {
 
     HWND hwnd() const { return hwnd_; }  // null before and after the window's life
 
-    // The open modeless dialog of this template that `owner` owns; null when there is none.
-    static Dialog* find(HWND owner, std::string_view templateName);
+    // The modeless dialog of this template that was shown last for `owner`; null when it is not open.
+    static Dialog* find(HWND owner, const char* templateName);
 
     // Runs the dialog over `owner` and returns what close() was given. The object belongs to the caller.
     INT_PTR showModal(HWND owner);

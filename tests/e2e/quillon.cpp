@@ -119,12 +119,15 @@ void Quillon::choose(const std::string& path) const {
 }
 
 void Quillon::bringToFront() const {
-    ::SetForegroundWindow(window_);
-    seen::Until([this] {
+    const auto isInFront = [this] {
         DWORD owner = 0;
         ::GetWindowThreadProcessId(::GetForegroundWindow(), &owner);
         return owner == id_;
-    });
+    };
+    // A dialog of its own may be what has the focus.
+    if (isInFront()) return;
+    ::SetForegroundWindow(window_);
+    seen::Until(isInFront);
 }
 
 void Quillon::typeText(const std::string& text) const {

@@ -77,7 +77,7 @@ HWND ChildOfClass(HWND parent, const std::string& cls) {
 std::string LabelsOf(HWND dialog) {
     std::string labels;
     for (const HWND window : Below(dialog)) {
-        if (ClassOf(window) != "Static") continue;
+        if (ClassOf(window) != "Static" || !::IsWindowVisible(window)) continue;
         const std::string text = TextOf(window);
         if (text.empty()) continue;
         labels.append(labels.empty() ? "" : "\n").append(text);

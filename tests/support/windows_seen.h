@@ -26,7 +26,8 @@ HWND Dialog(DWORD process, const std::string& title);
 HWND Child(HWND parent, const std::string& text, const std::string& cls = "");
 HWND ChildOfClass(HWND parent, const std::string& cls);
 
-// What a dialog says: the texts of its labels, in order, without the empty ones.
+// What a dialog says: the texts of the labels that are in sight, in order, without the
+// empty ones.
 std::string LabelsOf(HWND dialog);
 
 // Polls until the condition holds; false when it has not come true within ten seconds.

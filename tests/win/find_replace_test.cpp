@@ -294,6 +294,25 @@ TEST_F(ReplaceTest, TooManyMatchesLeaveThePageAlone) {
     EXPECT_FALSE(active().txtPad().isChanged());
 }
 
+TEST_F(ReplaceTest, AMegabyteIsSearchedAndReplaced) {
+    std::string page;
+    std::string replaced;
+    for (int i = 0; i < 5000; ++i) {
+        const std::string line(90, '-');
+        page += line + "\r\n<B>needle</B>\r\n" + line + "\r\n";
+        replaced += line + "\r\n<B>pin</B>\r\n" + line + "\r\n";
+    }
+    newPage(page);
+    const HWND find = open(tbrFind, "Find");
+    fill(find, 0, "NEEDLE");
+    click(find, "Find");
+    EXPECT_EQ(selected(), "95-101");
+    EXPECT_EQ(seen::LabelsOf(find), "5000\r\noccurrences");
+    click(openReplace("needle", "pin"), "Replace All");
+    EXPECT_EQ(pageText(), replaced);
+    EXPECT_EQ(selected(), "95-95");
+}
+
 TEST_F(ReplaceTest, WhatIsTypedDuringReplaceAllIsKept) {
     newPage("aaaa");
     const HWND replace = openReplace("a", "b");

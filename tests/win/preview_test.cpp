@@ -1,5 +1,6 @@
 #include "files/modPubFuncs.h"
 #include "files/open_file.h"
+#include "support/standin_browser.h"
 #include "win/app_test.h"
 #include "win/clipboard.h"
 #include "win/message_loop.h"
@@ -10,43 +11,9 @@ namespace {
 constexpr char kFailure[] =
     "Browser initialization failed.\r\nIf problem persists, please contact Quillon Support.";
 
-// What opens pages, for a test's life: the stand-in, or nothing.
-class Association {
- public:
-    explicit Association(const std::string& program) {
-        set(".htm", "quillon.standin");
-        if (!program.empty()) set("quillon.standin\\shell\\open\\command", '"' + program + "\" \"%1\"");
-    }
-    ~Association() {
-        for (const char* key : {"quillon.standin\\shell\\open\\command", "quillon.standin\\shell\\open",
-                                "quillon.standin\\shell", "quillon.standin", ".htm"}) {
-            ::RegDeleteKeyA(HKEY_CLASSES_ROOT, key);
-        }
-    }
-    Association(const Association&) = delete;
-    Association& operator=(const Association&) = delete;
-
- private:
-    static void set(const char* key, const std::string& value) {
-        ::RegSetValueA(HKEY_CLASSES_ROOT, key, REG_SZ, value.c_str(), 0);
-    }
-};
-
 class PreviewTest : public AppTest {
  protected:
-    void SetUp() override {
-        AppTest::SetUp();
-        seen_ = scratch("seen");
-        ::CreateDirectoryA(seen_.c_str(), nullptr);
-        ::SetEnvironmentVariableA("STANDIN_BROWSER", seen_.c_str());
-    }
-
-    static std::string browser() {
-        char path[MAX_PATH];
-        ::GetModuleFileNameA(nullptr, path, sizeof path);
-        const std::string program = path;
-        return program.substr(0, program.rfind('\\')) + "\\tools\\standin_browser.exe";
-    }
+    std::string seenFolder() const { return scratch("seen"); }
     // A page on its file, with these words typed in front.
     frmChild& openPage(const std::string& name, const std::string& bytes, const std::string& typed = "") {
         writeFile(scratch(name), bytes);
@@ -55,15 +22,6 @@ class PreviewTest : public AppTest {
         type(typed);
         return *page;
     }
-    // What the stand-in was started with, behind its own path.
-    std::string shown() {
-        const std::string command = seen_ + "\\command.txt";
-        if (!seen::Until([&] { return modPubFuncs::FileExists(command); })) return "(not started)";
-        const std::string line = readFile(command);
-        ::DeleteFileA(command.c_str());
-        return line.substr(line.find("standin_browser.exe") + 19);
-    }
-    std::string shownText() { return readFile(seen_ + "\\page.txt"); }
     bool copyIsThere() { return modPubFuncs::FileExists(scratch("$$index.htm")); }
     // Lets messages through until the copy has gone.
     bool copyGoes() {
@@ -76,19 +34,16 @@ class PreviewTest : public AppTest {
     void passTime() {
         if (const HWND wait = ::FindWindowA("modPreview", nullptr)) ::SendMessageA(wait, WM_TIMER, 1, 0);
     }
-
- private:
-    std::string seen_;
 };
 
 TEST_F(PreviewTest, AnEditedPageIsShownFromACopyThatGoesAfterThreeSeconds) {
-    const Association html(browser());
+    const Browser browser(Browser::standIn(), seenFolder());
     const frmChild& page = openPage("index.htm", "<P>saved", "new ");
     const DWORD start = ::GetTickCount();
     run(tbrPreview);
     EXPECT_LT(::GetTickCount() - start, 2500U) << "the window is not held up";
-    EXPECT_NE(shown().find(scratch("$$index.htm")), std::string::npos);
-    EXPECT_EQ(shownText(), "new <P>saved\r\n");
+    EXPECT_NE(browser.shown().find(scratch("$$index.htm")), std::string::npos);
+    EXPECT_EQ(browser.page(), "new <P>saved\r\n");
     EXPECT_TRUE(copyIsThere());
     EXPECT_TRUE(copyGoes());
     EXPECT_GE(::GetTickCount() - start, 2900U);
@@ -97,44 +52,44 @@ TEST_F(PreviewTest, AnEditedPageIsShownFromACopyThatGoesAfterThreeSeconds) {
 }
 
 TEST_F(PreviewTest, AnUnchangedPageIsShownFromItsOwnFile) {
-    const Association html(browser());
+    const Browser browser(Browser::standIn(), seenFolder());
     openPage("index.htm", "<P>saved");
     run(tbrPreview);
-    EXPECT_NE(shown().find(scratch("index.htm")), std::string::npos);
+    EXPECT_NE(browser.shown().find(scratch("index.htm")), std::string::npos);
     passTime();
     EXPECT_EQ(readFile(scratch("index.htm")), "<P>saved");
     run(mnuFileSave);
     run(tbrPreview);
-    EXPECT_NE(shown().find(scratch("index.htm")), std::string::npos);
+    EXPECT_NE(browser.shown().find(scratch("index.htm")), std::string::npos);
     // Written by another program meanwhile: that is not for a preview to undo.
     writeFile(scratch("index.htm"), "<P>newer\r\n");
     run(tbrPreview);
-    EXPECT_NE(shown().find(scratch("$$index.htm")), std::string::npos);
-    EXPECT_EQ(shownText(), "<P>saved\r\n");
+    EXPECT_NE(browser.shown().find(scratch("$$index.htm")), std::string::npos);
+    EXPECT_EQ(browser.page(), "<P>saved\r\n");
     EXPECT_EQ(readFile(scratch("index.htm")), "<P>newer\r\n");
     passTime();
     EXPECT_FALSE(copyIsThere());
 }
 
 TEST_F(PreviewTest, ANameWithoutExtensionAndOneWithBlanksReachTheBrowser) {
-    const Association html(browser());
+    const Browser browser(Browser::standIn(), seenFolder());
     openPage("my page", "a", "b");
     run(tbrPreview);
-    EXPECT_NE(shown().find('"' + scratch("$$my page.htm") + '"'), std::string::npos);
+    EXPECT_NE(browser.shown().find('"' + scratch("$$my page.htm") + '"'), std::string::npos);
     passTime();
     EXPECT_EQ(readFile(scratch("$$my page.htm")), "(no file)");
     EXPECT_EQ(readFile(scratch("my page")), "a");
 }
 
 TEST_F(PreviewTest, APreviewDuringAnotherShowsTheNewTextAndHasItsOwnTime) {
-    const Association html(browser());
+    const Browser browser(Browser::standIn(), seenFolder());
     openPage("index.htm", "1", "2");
     run(tbrPreview);
-    shown();
+    browser.shown();
     type("3");
     run(tbrPreview);
-    shown();
-    EXPECT_EQ(shownText(), "231\r\n");
+    browser.shown();
+    EXPECT_EQ(browser.page(), "231\r\n");
     EXPECT_TRUE(copyIsThere());
     passTime();
     EXPECT_FALSE(copyIsThere());
@@ -142,10 +97,10 @@ TEST_F(PreviewTest, APreviewDuringAnotherShowsTheNewTextAndHasItsOwnTime) {
 }
 
 TEST_F(PreviewTest, TheCopyGoesWithTheProgram) {
-    const Association html(browser());
+    const Browser browser(Browser::standIn(), seenFolder());
     frmChild& page = openPage("index.htm", "1", "2");
     run(tbrPreview);
-    shown();
+    browser.shown();
     EXPECT_TRUE(copyIsThere());
     page.txtPad().setChanged(false);
     ::SendMessageA(page.hwnd(), WM_CLOSE, 0, 0);
@@ -155,10 +110,10 @@ TEST_F(PreviewTest, TheCopyGoesWithTheProgram) {
 }
 
 TEST_F(PreviewTest, ACopyThatIsHeldOpenIsRemovedLater) {
-    const Association html(browser());
+    const Browser browser(Browser::standIn(), seenFolder());
     openPage("index.htm", "1", "2");
     run(tbrPreview);
-    shown();
+    browser.shown();
     {
         const win::UniqueFile held(::CreateFileA(scratch("$$index.htm").c_str(), GENERIC_READ,
                                                  FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
@@ -170,7 +125,7 @@ TEST_F(PreviewTest, ACopyThatIsHeldOpenIsRemovedLater) {
 }
 
 TEST_F(PreviewTest, WithoutABrowserTwoMessagesCome) {
-    const Association html("");
+    const Browser none("", seenFolder());
     openPage("index.htm", "1", "2");
     run(tbrPreview);
     EXPECT_TRUE(copyIsThere());
@@ -184,7 +139,7 @@ TEST_F(PreviewTest, WithoutABrowserTwoMessagesCome) {
 
 TEST_F(PreviewTest, ABrowserThatDoesNotStartIsTold) {
     writeFile(scratch("broken.exe"), "no program");
-    const Association html(scratch("broken.exe"));
+    const Browser broken(scratch("broken.exe"), seenFolder());
     openPage("index.htm", "1", "2");
     User user({User::press("URL Failed", IDOK)});
     run(tbrPreview);
@@ -193,7 +148,7 @@ TEST_F(PreviewTest, ABrowserThatDoesNotStartIsTold) {
 }
 
 TEST_F(PreviewTest, WithNowhereToWriteThereIsOneMessage) {
-    const Association html(browser());
+    const Browser browser(Browser::standIn(), seenFolder());
     newPage("untitled");
     {
         User user({User::press("Quillon", IDOK)});
