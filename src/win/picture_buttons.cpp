@@ -78,8 +78,7 @@ void PictureButtons::open(HWND parent, int left, int top) {
     parent_ = parent;
     left_ = left;
     top_ = top;
-    tips_ = ::CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP, 0, 0, 0, 0,
-                              parent, nullptr, ::GetModuleHandleA(nullptr), nullptr);
+    tips_.create(parent);
 }
 
 void PictureButtons::add(int id, const char* name, const char* icon, bool beginsGroup) {
@@ -90,13 +89,7 @@ void PictureButtons::add(int id, const char* name, const char* icon, bool begins
     left_ = place.right;
     const HWND added = buttons_.back()->hwnd();
     ::SetWindowPos(added, before, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-    TOOLINFOA tool{};
-    tool.cbSize = TTTOOLINFOA_V2_SIZE;
-    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
-    tool.hwnd = parent_;
-    tool.uId = reinterpret_cast<UINT_PTR>(added);
-    tool.lpszText = const_cast<char*>(name);
-    if (tips_) ::SendMessageA(tips_, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
+    tips_.add(added, name);
 }
 
 bool PictureButtons::draw(const DRAWITEMSTRUCT& item) const {

@@ -6,6 +6,7 @@
 
 #include "win/control.h"
 #include "win/picture.h"
+#include "win/tool_tips.h"
 
 namespace win {
 
@@ -44,7 +45,7 @@ class PictureButtons {
 
  private:
     HWND parent_ = nullptr;
-    HWND tips_ = nullptr;
+    ToolTips tips_;
     int left_ = 0;
     int top_ = 0;
     std::vector<std::unique_ptr<PictureButton>> buttons_;
