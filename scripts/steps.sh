@@ -21,9 +21,16 @@ step() {
     elif (( code == 0 )); then passed=1
     else failed=1
     fi
-    (( failed == 0 )) || tail -n 60 "$log" >&2
+    (( failed == 0 )) || show_failures "$log" >&2
     say "$(printf '%-18s %4d passed %3d failed %5d s' "$name" "$passed" "$failed" $((SECONDS - start)))"
     printf '%d %d\n' "$passed" "$failed" >>"$results/counts"
+}
+
+# What each failed test of a log printed, and how the log ends.
+show_failures() {
+    awk '/^\[ RUN / { block = "" } { block = block $0 "\n" }
+         /^\[  FAILED  \] .*ms\)/ { printf "%s", block }' "$1"
+    tail -n 20 "$1"
 }
 
 # side_by_side FUNCTION...: runs the functions at the same time and waits for all of them. When this

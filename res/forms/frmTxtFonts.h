@@ -1,4 +1,4 @@
 #define cboFonts 101
 #define cboSize 102
-#define cmdOK IDOK
+#define cmdOK 1
 #define cmdCancel 2

@@ -20,9 +20,6 @@ constexpr int kMargin = 120;  // twips: from the edges of the screen
 constexpr int kLabelHeight = 300;
 constexpr int kPadding = 45;
 
-// The main window's property that holds the open chart.
-constexpr char kOpenChart[] = "frmColors";
-
 void MoveToCorner(HWND chart) {
     RECT rect{};
     ::GetWindowRect(chart, &rect);
@@ -34,16 +31,15 @@ void MoveToCorner(HWND chart) {
 }  // namespace
 
 void frmColors::open(MainWindow& main) {
-    if (const auto chart = static_cast<HWND>(::GetPropA(main.mainHwnd(), kOpenChart))) {
-        MoveToCorner(chart);
-        ::SetActiveWindow(chart);
-        return;
+    if (const Dialog* chart = find(main.mainHwnd(), kTemplate)) {
+        MoveToCorner(chart->hwnd());
+        ::SetActiveWindow(chart->hwnd());
+    } else {
+        (new frmColors(main))->showModeless(main.mainHwnd());
     }
-    (new frmColors(main))->showModeless(main.mainHwnd());
 }
 
 bool frmColors::onInit() {
-    ::SetPropA(main_.mainHwnd(), kOpenChart, hwnd());
     for (int i = 0; i < kSwatchCount; ++i) Text1_[static_cast<std::size_t>(i)].create(hwnd(), i);
     layOut();
     modWndPos::MakeTopmost(hwnd());
@@ -113,24 +109,9 @@ bool frmColors::onCommand(WORD id, WORD notification) {
     return true;
 }
 
-INT_PTR frmColors::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    switch (message) {
-        case WM_CTLCOLOREDIT:
-        case WM_CTLCOLORSTATIC: {
-            const int id = ::GetDlgCtrlID(reinterpret_cast<HWND>(lParam));
-            if (!Swatch::isSwatch(id)) return FALSE;
-            return reinterpret_cast<INT_PTR>(Swatch::paint(reinterpret_cast<HDC>(wParam), id));
-        }
-        case WM_KEYDOWN:
-            if (wParam == VK_ESCAPE) unload();
-            return TRUE;
-        default:
-            return FALSE;
-    }
-}
-
-void frmColors::onClosing() {
-    ::RemovePropA(main_.mainHwnd(), kOpenChart);
+INT_PTR frmColors::onMessage(UINT message, WPARAM wParam, LPARAM) {
+    if (message == WM_KEYDOWN && wParam == VK_ESCAPE) unload();
+    return FALSE;
 }
 
 namespace authoring {

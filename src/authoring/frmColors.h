@@ -14,12 +14,13 @@ class frmColors : public win::Dialog {
     static void open(MainWindow& main);
 
  private:
-    explicit frmColors(MainWindow& main) : Dialog("frmColors"), main_(main) {}
+    static constexpr char kTemplate[] = "frmColors";
+
+    explicit frmColors(MainWindow& main) : Dialog(kTemplate), main_(main) {}
 
     bool onInit() override;
     bool onCommand(WORD id, WORD notification) override;
     INT_PTR onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-    void onClosing() override;
     void layOut() const;
     void pick(int index);
     void insert(int index) const;

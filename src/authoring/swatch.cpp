@@ -28,19 +28,12 @@ void Swatch::create(HWND parent, int index) {
     index_ = index;
     const SwatchPlace place = PlaceOfSwatch(index);
     const int size = win::PixelsFromTwips(place.size);
-    attach(win::Check(::CreateWindowExA(
-        0, "EDIT", TextOfSwatch(index).c_str(), WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER | ES_READONLY,
-        win::PixelsFromTwips(place.left), win::PixelsFromTwips(place.top), size, size, parent,
-        reinterpret_cast<HMENU>(static_cast<INT_PTR>(kFirstId + index)), ::GetModuleHandleA(nullptr),
-        nullptr)));
-}
-
-HBRUSH Swatch::paint(HDC dc, int id) {
-    const COLORREF color = ColorRef(id - kFirstId);
-    ::SetTextColor(dc, color);
-    ::SetBkColor(dc, color);
-    ::SetDCBrushColor(dc, color);
-    return static_cast<HBRUSH>(::GetStockObject(DC_BRUSH));
+    attach(win::Check(::CreateWindowExA(WS_EX_NOPARENTNOTIFY, "EDIT", TextOfSwatch(index).c_str(),
+                                        WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_READONLY,
+                                        win::PixelsFromTwips(place.left), win::PixelsFromTwips(place.top),
+                                        size, size, parent,
+                                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(kFirstId + index)),
+                                        ::GetModuleHandleA(nullptr), nullptr)));
 }
 
 void Swatch::click() const {
@@ -90,16 +83,24 @@ bool Swatch::handleKey(WPARAM key) const {
     }
 }
 
-void Swatch::drawFocus() const {
+// All by ourselves: the control would take several times as long, for text that nobody is to see.
+void Swatch::paint() const {
+    PAINTSTRUCT paint{};
+    const HDC dc = ::BeginPaint(hwnd(), &paint);
     RECT area{};
     ::GetClientRect(hwnd(), &area);
-    const HDC dc = ::GetDC(hwnd());
-    const auto brush = static_cast<HBRUSH>(::GetStockObject(IsLight(index_) ? BLACK_BRUSH : WHITE_BRUSH));
-    for (int i = win::Scaled(2); i > 0; --i) {
-        ::InflateRect(&area, -1, -1);
-        ::FrameRect(dc, &area, brush);
+    ::FrameRect(dc, &area, ::GetSysColorBrush(COLOR_BTNSHADOW));
+    ::InflateRect(&area, -1, -1);
+    ::SetDCBrushColor(dc, ColorRef(index_));
+    ::FillRect(dc, &area, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH)));
+    if (::GetFocus() == hwnd()) {
+        const auto brush = static_cast<HBRUSH>(::GetStockObject(IsLight(index_) ? BLACK_BRUSH : WHITE_BRUSH));
+        for (int i = win::Scaled(2); i > 0; --i) {
+            ::InflateRect(&area, -1, -1);
+            ::FrameRect(dc, &area, brush);
+        }
     }
-    ::ReleaseDC(hwnd(), dc);
+    ::EndPaint(hwnd(), &paint);
 }
 
 LRESULT Swatch::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -130,12 +131,13 @@ LRESULT Swatch::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_KILLFOCUS: {
             const LRESULT result = Control::onMessage(message, wParam, lParam);
             ::HideCaret(hwnd());
-            ::InvalidateRect(hwnd(), nullptr, TRUE);
+            ::InvalidateRect(hwnd(), nullptr, FALSE);
             return result;
         }
+        case WM_ERASEBKGND:
+            return TRUE;
         case WM_PAINT:
-            Control::onMessage(message, wParam, lParam);
-            if (::GetFocus() == hwnd()) drawFocus();
+            paint();
             return 0;
         default:
             break;

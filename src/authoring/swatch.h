@@ -7,7 +7,7 @@ namespace authoring {
 
 // The system's edit control with the colour's text, used as a button: a click or Enter sends its parent a
 // WM_COMMAND with BN_CLICKED, the mouse above it one with kHovered. Arrow keys hand the focus to the box in
-// their direction.
+// their direction. The text is there to be read by programs; people see the colour alone.
 class Swatch : public win::Control {
  public:
     static constexpr WORD kHovered = 1;
@@ -18,17 +18,13 @@ class Swatch : public win::Control {
 
     void create(HWND parent, int index);
 
-    // Answers the parent's question for the box's colours: the text is there to be read by programs, people
-    // see the colour alone.
-    static HBRUSH paint(HDC dc, int id);
-
  private:
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     bool handleKey(WPARAM key) const;
     void moveFocus(int columns, int rows) const;
     void click() const;
     void release(LPARAM at) const;
-    void drawFocus() const;
+    void paint() const;
 
     int index_ = 0;
 };

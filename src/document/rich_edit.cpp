@@ -50,6 +50,8 @@ void RichEdit::create(HWND parent, int id, const Font& font) {
     attach(win::Check(::CreateWindowExA(WS_EX_CLIENTEDGE, "RICHEDIT", "", style, 0, 0, 0, 0, parent,
                                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
                                         ::GetModuleHandleA(nullptr), nullptr)));
+    // In this mode a font is no formatting of the text that Undo would take back.
+    send(EM_SETTEXTMODE, TM_PLAINTEXT);
     send(EM_EXLIMITTEXT, 0, kTextLimit);
     setWordWrap(false);
     setFont(font);

@@ -4,8 +4,17 @@
 
 #include <array>
 
+#include "win/late.h"
+
 namespace files {
 namespace {
+
+using Show = BOOL(WINAPI*)(OPENFILENAMEA*);
+
+constexpr char kDll[] = "comdlg32.dll";
+constexpr win::Late<Show> kGetOpenFileName{kDll, "GetOpenFileNameA"};
+constexpr win::Late<Show> kGetSaveFileName{kDll, "GetSaveFileNameA"};
+constexpr win::Late<decltype(&::CommDlgExtendedError)> kCommDlgExtendedError{kDll, "CommDlgExtendedError"};
 
 std::string Trimmed(std::string_view text) {
     const std::size_t first = text.find_first_not_of(' ');
@@ -13,7 +22,7 @@ std::string Trimmed(std::string_view text) {
     return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
 }
 
-std::string Ask(const FileDialog& dialog, BOOL(WINAPI* show)(OPENFILENAMEA*)) {
+std::string Ask(const FileDialog& dialog, const win::Late<Show>& show) {
     std::array<char, 1024> path{};
     std::array<char, 512> title{};
     dialog.proposedName.copy(path.data(), path.size() - 1);
@@ -32,7 +41,7 @@ std::string Ask(const FileDialog& dialog, BOOL(WINAPI* show)(OPENFILENAMEA*)) {
     record.Flags = dialog.flags;
     if (show(&record)) return Trimmed(path.data());
     // A page may be titled with what is no file name. The system then shows no dialog at all.
-    if (::CommDlgExtendedError() != FNERR_INVALIDFILENAME) return {};
+    if (kCommDlgExtendedError() != FNERR_INVALIDFILENAME) return {};
     path[0] = '\0';
     return show(&record) ? Trimmed(path.data()) : std::string();
 }
@@ -40,11 +49,11 @@ std::string Ask(const FileDialog& dialog, BOOL(WINAPI* show)(OPENFILENAMEA*)) {
 }  // namespace
 
 std::string AskOpenPath(const FileDialog& dialog) {
-    return Ask(dialog, ::GetOpenFileNameA);
+    return Ask(dialog, kGetOpenFileName);
 }
 
 std::string AskSavePath(const FileDialog& dialog) {
-    return Ask(dialog, ::GetSaveFileNameA);
+    return Ask(dialog, kGetSaveFileName);
 }
 
 }  // namespace files

@@ -15,6 +15,7 @@
 #include "win/drop_target.h"
 #include "win/message_box.h"
 #include "win/modWndPos.h"
+#include "win/picture.h"
 
 namespace {
 
@@ -87,11 +88,12 @@ bool frmUpload::onInit() {
 }
 
 void frmUpload::showPictures() {
+    icon_.reset(SmallIcon("ftp"));
+    ::SendMessageA(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon_.get()));
     for (std::size_t i = 0; i < pictures_.size(); ++i) {
-        pictures_[i] = win::UniqueIcon(SmallIcon(kPictures[i].icon));
-        const auto icon = reinterpret_cast<LPARAM>(pictures_[i].get());
-        ::SendMessageA(item(kPictures[i].button), BM_SETIMAGE, IMAGE_ICON, icon);
-        if (i == 0) ::SendMessageA(hwnd(), WM_SETICON, ICON_SMALL, icon);
+        pictures_[i] = win::IconBeforeText(kPictures[i].icon);
+        ::SendMessageA(item(kPictures[i].button), BM_SETIMAGE, IMAGE_ICON,
+                       reinterpret_cast<LPARAM>(pictures_[i].get()));
     }
 }
 
@@ -196,6 +198,7 @@ void frmUpload::startInSiteDirectory() {
         if (!isThere()) return;
     }
     root_ = session_->currentDirectory().value_or("/");
+    current_ = root_;
     ListRemote();
     if (!isThere()) return;
     unloadConnect();

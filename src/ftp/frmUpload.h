@@ -108,6 +108,7 @@ class frmUpload : public win::Dialog {
     std::unique_ptr<ftp::FtpSession> session_;
     ftp::RemoteList lstRemoteFiles_;
     ftp::PasswordField txtPassword_;
+    win::UniqueIcon icon_;
     std::array<win::UniqueIcon, 4> pictures_;
     std::vector<std::string> dropped_;
     std::string site_;

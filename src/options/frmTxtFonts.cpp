@@ -17,7 +17,7 @@ void AddText(HWND combo, const char* text) {
     ::SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
 }
 
-LRESULT FindFace(HWND combo, const char* text) {
+LRESULT FindRow(HWND combo, const char* text) {
     return ::SendMessageA(combo, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text));
 }
 
@@ -26,7 +26,7 @@ LRESULT FindFace(HWND combo, const char* text) {
 int CALLBACK AddFont(const LOGFONTA* font, const TEXTMETRICA*, DWORD, LPARAM list) {
     const auto combo = reinterpret_cast<HWND>(list);
     const char* face = font->lfFaceName;
-    if (face[0] != '@' && FindFace(combo, face) == CB_ERR) AddText(combo, face);
+    if (face[0] != '@' && FindRow(combo, face) == CB_ERR) AddText(combo, face);
     return 1;
 }
 
@@ -38,10 +38,12 @@ void AddScreenFonts(HWND combo) {
     ::ReleaseDC(nullptr, screen);
 }
 
-// A text that the list lacks is added to it.
-void SelectText(HWND combo, const std::string& text) {
-    if (FindFace(combo, text.c_str()) == CB_ERR) AddText(combo, text.c_str());
-    ::SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(FindFace(combo, text.c_str())), 0);
+// False when the list has no such row.
+bool SelectText(HWND combo, const char* text) {
+    const LRESULT row = FindRow(combo, text);
+    if (row == CB_ERR) return false;
+    ::SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(row), 0);
+    return true;
 }
 
 }  // namespace
@@ -56,20 +58,18 @@ frmTxtFonts::frmTxtFonts(MainWindow& main) : Dialog("frmTxtFonts"), main_(main) 
 void frmTxtFonts::fillFonts() const {
     const HWND combo = item(cboFonts);
     AddScreenFonts(combo);
-    SelectText(combo, settings_.GetRegSetting("font preferences", "font_Face", "Arial"));
+    const std::string face = settings_.GetRegSetting("font preferences", "font_Face", "Arial");
+    // A font that is not there any more is still the one that was chosen.
+    if (FindRow(combo, face.c_str()) == CB_ERR) AddText(combo, face.c_str());
+    SelectText(combo, face.c_str());
 }
 
 void frmTxtFonts::fillSizes() const {
-    const HWND combo = item(cboSize);
-    for (const int points : kSizes) AddText(combo, std::to_string(points).c_str());
+    for (const int points : kSizes) AddText(item(cboSize), std::to_string(points).c_str());
     const float stored = ParseFontSize(settings_.GetRegSetting("font preferences", "font_Size"));
-    const std::string text = FontSizeText(stored > 0 ? stored : frmChild::kDefaultPoints);
+    const std::string size = FontSizeText(stored > 0 ? stored : frmChild::kDefaultPoints);
     // A size of the user's own stands in the box alone.
-    if (::SendMessageA(combo, CB_SELECTSTRING, static_cast<WPARAM>(-1),
-                       reinterpret_cast<LPARAM>(text.c_str())) == CB_ERR ||
-        itemText(cboSize) != text) {
-        setItemText(cboSize, text);
-    }
+    if (!SelectText(item(cboSize), size.c_str())) setItemText(cboSize, size);
 }
 
 bool frmTxtFonts::onInit() {

@@ -5,6 +5,7 @@
 #include "document/frmChild.h"
 #include "print/core/print_layout.h"
 #include "win/error.h"
+#include "win/late.h"
 #include "win/message_box.h"
 #include "win/message_loop.h"
 #include "win/unique.h"
@@ -17,11 +18,13 @@ constexpr int kSmallestFont = 8;  // points; what a printer has as its default m
 constexpr int kLargestFont = 14;
 constexpr int kOwnFont = 10;
 
+constexpr win::Late<decltype(&::GetDefaultPrinterA)> kGetDefaultPrinter{"winspool.drv", "GetDefaultPrinterA"};
+
 win::UniqueDc DefaultPrinter() {
     DWORD size = 0;
-    ::GetDefaultPrinterA(nullptr, &size);
+    kGetDefaultPrinter(nullptr, &size);
     std::string name(size, '\0');
-    win::Check(::GetDefaultPrinterA(name.data(), &size));
+    win::Check(kGetDefaultPrinter(name.data(), &size));
     return win::UniqueDc(win::Check(::CreateDCA("WINSPOOL", name.c_str(), nullptr, nullptr)));
 }
 

@@ -1,18 +1,22 @@
 #include "win/picture.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "win/units.h"
 
 namespace win {
 namespace {
 
+constexpr int kGap = 4;     // pixels of a 96-dpi screen
 constexpr int kSmall = 16;  // the only size whose icons are bitmaps; Windows XP cannot read the others' PNG
 
 struct Pixels {
-    explicit Pixels(int size) {
+    Pixels(int width, int height) {
         BITMAPINFO info{};
         info.bmiHeader.biSize = sizeof info.bmiHeader;
-        info.bmiHeader.biWidth = size;
-        info.bmiHeader.biHeight = -size;
+        info.bmiHeader.biWidth = width;
+        info.bmiHeader.biHeight = -height;
         info.bmiHeader.biPlanes = 1;
         info.bmiHeader.biBitCount = 32;
         void* bits = nullptr;
@@ -26,7 +30,7 @@ struct Pixels {
 
 // The icon on black or on white.
 Pixels DrawnOn(DWORD ground, HICON icon, int size) {
-    Pixels pixels(size);
+    Pixels pixels(size, size);
     if (!pixels.first) return pixels;
     const UniqueDc memory(::CreateCompatibleDC(nullptr));
     const HGDIOBJ old = ::SelectObject(memory.get(), pixels.bitmap.get());
@@ -49,6 +53,29 @@ UniqueIcon Load(const char* name, int size) {
         ::LoadImageA(::GetModuleHandleA(nullptr), name, IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
 }
 
+// An icon of the resources, its colours multiplied by their alpha; in a smaller `size` where the system
+// cannot read this one, and empty where it cannot read any.
+Pixels Blended(const char* name, int& size) {
+    UniqueIcon icon = Load(name, size);
+    if (!icon) icon = Load(name, size = kSmall);
+    if (!icon) return {0, 0};
+    // On black an icon shows its colours times their alpha, and how much lighter it gets on white is what
+    // its alpha lacks. So any icon will do, whatever the depth of the screen has made of it.
+    Pixels black = DrawnOn(BLACKNESS, icon.get(), size);
+    const Pixels white = DrawnOn(WHITENESS, icon.get(), size);
+    if (!black.first || !white.first) return {0, 0};
+    for (int i = 0; i < size * size; ++i) {
+        RGBQUAD& pixel = black.first[i];
+        pixel.rgbReserved = static_cast<BYTE>(255 - (white.first[i].rgbGreen - pixel.rgbGreen));
+    }
+    return black;
+}
+
+// The colour itself, as an icon wants it, where there is any.
+BYTE Divided(BYTE colour, BYTE alpha) {
+    return static_cast<BYTE>(std::min(255, colour * 255 / alpha));
+}
+
 }  // namespace
 
 int PictureSize() {
@@ -57,20 +84,10 @@ int PictureSize() {
 }
 
 Picture::Picture(const char* name, int size, Look look) : size_(size) {
-    UniqueIcon icon = Load(name, size_);
-    if (!icon) icon = Load(name, size_ = kSmall);
-    if (!icon) return;
-    // On black an icon shows its colours times their alpha, and how much lighter it gets on white is what
-    // its alpha lacks. So any icon will do, whatever the depth of the screen has made of it.
-    Pixels black = DrawnOn(BLACKNESS, icon.get(), size_);
-    const Pixels white = DrawnOn(WHITENESS, icon.get(), size_);
-    if (!black.first || !white.first) return;
-    for (int i = 0; i < size_ * size_; ++i) {
-        RGBQUAD& pixel = black.first[i];
-        pixel.rgbReserved = static_cast<BYTE>(255 - (white.first[i].rgbGreen - pixel.rgbGreen));
-        if (look == Look::disabled) Disable(pixel);
-    }
-    bitmap_ = std::move(black.bitmap);
+    Pixels pixels = Blended(name, size_);
+    if (!pixels.first) return;
+    if (look == Look::disabled) std::for_each(pixels.first, pixels.first + size_ * size_, Disable);
+    bitmap_ = std::move(pixels.bitmap);
 }
 
 void Picture::draw(HDC dc, int left, int top) const {
@@ -80,6 +97,29 @@ void Picture::draw(HDC dc, int left, int top) const {
     const BLENDFUNCTION blend{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
     ::GdiAlphaBlend(dc, left, top, size_, size_, memory.get(), 0, 0, size_, size_, blend);
     ::SelectObject(memory.get(), old);
+}
+
+UniqueIcon IconBeforeText(const char* name) {
+    int size = PictureSize();
+    const Pixels picture = Blended(name, size);
+    const int width = size + Scaled(kGap);
+    const Pixels wide(width, size);
+    if (!picture.first || !wide.first) return {};
+    const int maskRow = (width + 15) / 16 * 2;  // bytes
+    std::vector<BYTE> mask(static_cast<std::size_t>(maskRow * size), BYTE{0xFF});
+    for (int i = 0; i < size * size; ++i) {
+        const RGBQUAD& from = picture.first[i];
+        const BYTE alpha = from.rgbReserved;
+        if (alpha == 0) continue;
+        const int x = i % size;
+        const int y = i / size;
+        wide.first[y * width + x] = {Divided(from.rgbBlue, alpha), Divided(from.rgbGreen, alpha),
+                                     Divided(from.rgbRed, alpha), alpha};
+        mask[static_cast<std::size_t>(y * maskRow + x / 8)] &= static_cast<BYTE>(~(0x80 >> x % 8));
+    }
+    const UniqueBitmap transparent(::CreateBitmap(width, size, 1, 1, mask.data()));
+    ICONINFO info{TRUE, 0, 0, transparent.get(), wide.bitmap.get()};
+    return UniqueIcon(::CreateIconIndirect(&info));
 }
 
 }  // namespace win

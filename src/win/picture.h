@@ -27,4 +27,8 @@ class Picture {
     UniqueBitmap bitmap_;
 };
 
+// An icon of the resources with a gap at its right, for a button that draws its text right behind it. Null
+// where it cannot be had.
+UniqueIcon IconBeforeText(const char* name);
+
 }  // namespace win

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""An FTP server on loopback that serves a folder: honest_server.py FOLDER [PORT]
+"""An FTP server on loopback that serves a folder: honest_server.py FOLDER [PORT [ADDRESS]]
 
 Prints its port once it listens and serves until it is killed. The one login is user / secret; the folder
 "closed" can be seen but not entered.
@@ -26,7 +26,8 @@ def main():
     if os.path.isdir(closed):
         Handler.authorizer.override_perm("user", closed, "lr")
     logging.basicConfig(level=logging.WARNING)
-    server = FTPServer(("127.0.0.1", port), Handler)
+    address = sys.argv[3] if len(sys.argv) > 3 else "127.0.0.1"
+    server = FTPServer((address, port), Handler)
     print(server.socket.getsockname()[1], flush=True)
     server.serve_forever()
 

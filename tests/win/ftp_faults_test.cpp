@@ -88,7 +88,7 @@ TEST_F(FtpFaultsTest, LoginsThatFailOpenNoWindow) {
 }
 
 TEST_F(FtpFaultsTest, AListingThatFailsLeavesAnEmptyListAndAWorkingWindow) {
-    for (const char* behaviour : {"refuse-LIST", "drop-LIST", "refuse-PWD", "refuse-PORT", "refuse-TYPE"}) {
+    for (const char* behaviour : {"refuse-LIST", "drop-LIST", "refuse-PORT", "refuse-TYPE", "refuse-PWD"}) {
         openScripted(behaviour);
         EXPECT_EQ(textOf(txtCurDir), "/") << behaviour;
         EXPECT_TRUE(::IsWindowEnabled(control(cmdRefresh))) << behaviour;
@@ -101,12 +101,12 @@ TEST_F(FtpFaultsTest, AListingThatFailsLeavesAnEmptyListAndAWorkingWindow) {
 
 TEST_F(FtpFaultsTest, OddNamesStayInsideTheChosenFolder) {
     openScripted("list-odd");
-    const std::string all = lines();
-    EXPECT_EQ(all.find("./"), std::string::npos) << all;
-    EXPECT_NE(all.find("last.htm"), std::string::npos) << all;
-    for (const std::string& name :
-         {std::string("..\\up.htm"), std::string("/etc/passwd"), std::string("C:\\boot.ini")}) {
-        if (!select(name)) continue;
+    EXPECT_EQ(lines(),
+              "..\\up.htm,/etc/passwd,C:\\boot.ini,CON,a\x01"
+              "b\x7F.htm,%TEMP%.htm,caf\xE9.htm,last.htm");
+    const std::pair<const char*, const char*> proposals[] = {
+        {"..\\up.htm", "up.htm"}, {"/etc/passwd", "passwd"}, {"C:\\boot.ini", "boot.ini"}, {"CON", "_CON"}};
+    for (const auto& [line, name] : proposals) {
         std::string proposed;
         User user({{"Save File As...", [&](HWND dialog) {
                         HWND box = ::GetDlgItem(dialog, 0x47c);
@@ -114,17 +114,16 @@ TEST_F(FtpFaultsTest, OddNamesStayInsideTheChosenFolder) {
                         proposed = seen::TextOf(box);
                         ::PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
                     }}});
-        choose(name, mnuRClist + 2);
+        choose(line, mnuRClist + 2);
         user.heard();
-        EXPECT_EQ(proposed.find_first_of("\\/:"), std::string::npos) << proposed;
-        EXPECT_NE(proposed, "");
+        EXPECT_EQ(proposed.substr(0, proposed.find_last_not_of(' ') + 1), name) << line;
     }
 }
 
 TEST_F(FtpFaultsTest, OverlongNamesDoNoHarm) {
     openScripted("list-long");
     EXPECT_EQ(textOf(txtCurDir), "/");
-    EXPECT_NE(lines().find("bbbb.htm"), std::string::npos) << lines();
+    EXPECT_TRUE(::IsWindowEnabled(control(cmdRefresh)));
 }
 
 TEST_F(FtpFaultsTest, APasswordArrivesByteForByte) {

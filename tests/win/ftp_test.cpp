@@ -63,6 +63,8 @@ HWND FtpTest::reopen() {
 }
 
 HWND FtpTest::openScripted(const std::string& behaviour) {
+    if (ftpWindow()) ::SendMessageA(ftpWindow(), WM_COMMAND, IDCANCEL, 0);
+    ftp::Apply(ftp::RemoveSite(ftp::ReadSections(), 0));
     addSite("127.0.0.1", behaviour, "pw");
     frmUpload::open(main(), 0, ScriptedSession);
     return ftpWindow();
@@ -91,6 +93,7 @@ std::string FtpTest::lines() {
 
 bool FtpTest::select(const std::string& line) {
     const HWND list = control(lstRemoteFiles);
+    if (!list) return false;
     const LRESULT index = ::SendMessageA(list, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
                                          reinterpret_cast<LPARAM>(line.c_str()));
     if (index != LB_ERR) ::SendMessageA(list, LB_SETCURSEL, static_cast<WPARAM>(index), 0);

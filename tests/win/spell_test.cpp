@@ -1,4 +1,5 @@
 #include "authoring/frmSpelling.h"
+#include "support/standin_word.h"
 #include "win/app_test.h"
 #include "win/clipboard.h"
 #include "win/com.h"
@@ -14,34 +15,15 @@ constexpr char kNoWord[] = "Could not Load Microsoft Word!";
 
 class WordTest : public AppTest {
  protected:
-    static void TearDownTestSuite() {
-        if (!installed_.empty()) tool("/unregister");
-        installed_.clear();
-    }
-
-    static void tool(const std::string& arguments) {
-        char self[MAX_PATH];
-        ::GetModuleFileNameA(nullptr, self, sizeof self);
-        const std::string folder(self, std::string(self).rfind('\\') + 1);
-        std::string line = "\"" + folder + "tools\\standin_word.exe\" " + arguments;
-        STARTUPINFOA start{};
-        start.cb = sizeof start;
-        PROCESS_INFORMATION info{};
-        ASSERT_TRUE(::CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                                     &start, &info))
-            << line;
-        const win::UniqueHandle process(info.hProcess);
-        const win::UniqueHandle thread(info.hThread);
-        ::WaitForSingleObject(info.hProcess, 10000);
-    }
+    static void TearDownTestSuite() { uninstall(); }
 
     // The word processor is there, with orders for its stand-in; the tests after this one have it too.
     void install(const std::string& orders = "0") {
-        const std::string arguments = "/register \"" + logPath() + "\" " + orders;
-        if (installed_ != arguments) tool(arguments);
-        installed_ = arguments;
+        if (word_ && orders == orders_) return;
+        word_.emplace(logPath(), orders);
+        orders_ = orders;
     }
-    static void uninstall() { TearDownTestSuite(); }
+    static void uninstall() { word_.reset(); }
     std::string logPath() const { return scratch("word.log"); }
 
     // The calls that the word processor got, once it has ended.
@@ -60,7 +42,8 @@ class WordTest : public AppTest {
         return user.heard().empty() ? "" : user.heard()[0];
     }
 
-    static inline std::string installed_;
+    static inline std::optional<StandinWord> word_;
+    static inline std::string orders_;
 };
 
 TEST_F(WordTest, TheWholePageGoesThroughTheWordProcessor) {

@@ -87,14 +87,16 @@ const std::array<Topic, 14> kTopics{{
      "cases Quillon says so and changes nothing. To take back just your last step, use Undo."},
 
     {"Spell Checker",
-     "   Quillon carries no dictionary. It lets Microsoft Word do the checking, if Word is installed: the text is "
-     "handed over, Word's own spelling dialog appears, and the corrected text comes back into your page.\r\n\r\n"
+     "   Quillon carries no dictionary. Where Microsoft Word is installed, your text is handed to Word and its own "
+     "spelling dialog appears. Without Word, the spell checker that Windows has had since Windows 8 looks through "
+     "the text, in a dialog of Quillon's. Either way the corrected text comes back into your page.\r\n\r\n"
      "   There are two modes. With some text selected, only that text is checked and replaced. With nothing "
      "selected, the whole page is. The first is often better for HTML, because Word takes tags and scripts for "
      "misspelled words: select a paragraph, check it, go on to the next. Choose Ignore when it stumbles over a tag, "
      "and never let it change what stands between < and >.\r\n\r\n"
      "   The page as it was before the check is left on the clipboard, and the corrected page is not saved until "
-     "you save it. Without Word you get a message and your page stays as it is."},
+     "you save it. Where there is neither Word nor the system's checker you get a message, and your page stays as "
+     "it is."},
 
     {"Change Spying",
      "   Quillon keeps watch over every open page and knows whether it has changed since it was last saved. Close a "
@@ -230,9 +232,9 @@ constexpr auto kButtonWords = std::to_array<const char*>({
     "\"Preview\" in the \"Features\" menu.",
 
     "The Spelling-Check Button...\r\n\r\n"
-    "   Has Microsoft Word, where it is installed, check the selected text, or the whole page when nothing is "
-    "selected. Take care that it does not \"correct\" your tags. The unchecked page is left on the clipboard. See "
-    "\"Spell Check\" in the \"Features\" menu.",
+    "   Has Microsoft Word or your system's spell checker go through the selected text, or through the whole page "
+    "when nothing is selected. Take care that your tags are not \"corrected\". The unchecked page is left on the "
+    "clipboard. See \"Spell Check\" in the \"Features\" menu.",
 
     "The Printer Button...\r\n\r\n"
     "   Prints the text of the current page, tags and all, on your default printer, at once and without a dialog. "
