@@ -65,6 +65,7 @@ User::User(std::vector<Act> acts)
               });
               if (!came) {
                   missing_ = act.title;
+                  heard_.resize(acts.size());  // what was not said is empty
                   return;
               }
               heard_.push_back(seen::LabelsOf(dialog));
