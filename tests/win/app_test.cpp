@@ -116,6 +116,8 @@ void AppTest::TearDown() {
 }
 
 void AppTest::closeMain() {
+    // A test may have closed the main window, and its object went with it.
+    if (!::FindWindowA("frmNotePad", nullptr)) return;
     if (!main_) return;
     for (frmChild* page : main_->documents()) page->txtPad().setChanged(false);
     ::SendMessageA(std::exchange(main_, nullptr)->mainHwnd(), WM_CLOSE, 0, 0);
