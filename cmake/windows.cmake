@@ -14,9 +14,10 @@ add_library(quillon_resources OBJECT res/quillon.rc)
 target_include_directories(quillon_resources PRIVATE src res)
 set_source_files_properties(res/quillon.rc PROPERTIES OBJECT_DEPENDS "${resource_files}")
 
-add_executable(Quillon WIN32 src/main.cpp src/lean_runtime.cpp)
+add_executable(Quillon WIN32 src/main.cpp)
 target_link_libraries(Quillon PRIVATE quillon_app quillon_resources)
 if(MINGW AND CMAKE_SIZEOF_VOID_P EQUAL 4)
+    target_sources(Quillon PRIVATE src/lean_runtime.cpp)
     # The program starts no thread: with the runtime of the compiler's other variant it need not carry a library of
     # POSIX threads, 25 KB.
     execute_process(COMMAND ${QUILLON_MINGW}-g++-win32 -print-file-name=libstdc++.a
@@ -25,5 +26,6 @@ if(MINGW AND CMAKE_SIZEOF_VOID_P EQUAL 4)
     target_link_directories(Quillon BEFORE PRIVATE ${lean_runtime})
 endif()
 if(MINGW AND CMAKE_SIZEOF_VOID_P EQUAL 4)
+    target_sources(Quillon PRIVATE src/lean_runtime.cpp)
     target_sources(Quillon PRIVATE cmake/mingw_tick_count.cpp)
 endif()
