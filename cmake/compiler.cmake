@@ -20,6 +20,9 @@ if(WIN32)
         if(CMAKE_SIZEOF_VOID_P EQUAL 4)
             # Windows promises 4 bytes, and no code of ours needs more.
             target_compile_options(quillon_flags INTERFACE -mpreferred-stack-boundary=2)
+            # One partition: GCC 12 fails on several, and one comes out smaller, by a seventh of the program.
+            target_compile_options(quillon_flags INTERFACE -flto=1)
+            target_link_options(quillon_flags INTERFACE -flto=1 -flto-partition=one)
         endif()
         target_link_options(quillon_flags INTERFACE
             -static -Wl,--gc-sections -Wl,--no-insert-timestamp -Wl,--dynamicbase -Wl,--nxcompat)
