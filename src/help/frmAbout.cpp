@@ -7,6 +7,7 @@
 #include "help/core/links.h"
 #include "win/error.h"
 #include "win/shell_open.h"
+#include "win/units.h"
 #include "win/window.h"
 
 namespace {
@@ -38,13 +39,6 @@ std::string Version() {
            "." + std::to_string(LOWORD(info.dwFileVersionLS));
 }
 
-win::UniqueFont Underlined(HFONT font) {
-    LOGFONTA look{};
-    ::GetObjectA(font, sizeof look, &look);
-    look.lfUnderline = TRUE;
-    return win::UniqueFont(::CreateFontIndirectA(&look));
-}
-
 int Brightness(COLORREF colour) {
     return (30 * GetRValue(colour) + 59 * GetGValue(colour) + 11 * GetBValue(colour)) / 100;
 }
@@ -61,13 +55,14 @@ COLORREF LinkColour() {
 bool frmAbout::onInit() {
     setItemText(lblDescription, kDescription);
     setItemText(lblVersion, "Version " + Version());
-    linkFont_ = Underlined(reinterpret_cast<HFONT>(::SendMessageA(item(lblLinks), WM_GETFONT, 0, 0)));
     for (int i = 0; i < kLinks; ++i) fitLink(item(lblLinks + i));
     focusItem(cmdOK);
     return false;
 }
 
 bool frmAbout::onCommand(WORD id, WORD notification) {
+    // Enter on a link reaches the default button, since buttons that draw themselves cannot be that.
+    if (id == cmdOK && isLink(::GetFocus())) id = static_cast<WORD>(::GetDlgCtrlID(::GetFocus()));
     if (id == cmdOK) {
         close(IDOK);
         return true;
@@ -84,7 +79,7 @@ bool frmAbout::isLink(HWND window) const {
 
 void frmAbout::fitLink(HWND link) const {
     const HDC dc = ::GetDC(link);
-    const HGDIOBJ old = ::SelectObject(dc, linkFont_.get());
+    const HGDIOBJ old = ::SelectObject(dc, reinterpret_cast<HFONT>(::SendMessageA(link, WM_GETFONT, 0, 0)));
     RECT area{};
     ::DrawTextA(dc, win::WindowText(link).c_str(), -1, &area, kLinkFormat | DT_CALCRECT);
     ::SelectObject(dc, old);
@@ -93,15 +88,19 @@ void frmAbout::fitLink(HWND link) const {
                    SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void frmAbout::drawLink(const DRAWITEMSTRUCT& link) const {
+void frmAbout::drawLink(const DRAWITEMSTRUCT& link) {
     ::FillRect(link.hDC, &link.rcItem, ::GetSysColorBrush(COLOR_BTNFACE));
     RECT area = link.rcItem;
     ::InflateRect(&area, -kFrame, -kFrame);
-    const HGDIOBJ old = ::SelectObject(link.hDC, linkFont_.get());
     ::SetBkMode(link.hDC, TRANSPARENT);
     ::SetTextColor(link.hDC, LinkColour());
     ::DrawTextA(link.hDC, win::WindowText(link.hwndItem).c_str(), -1, &area, kLinkFormat);
-    ::SelectObject(link.hDC, old);
+    TEXTMETRICA font{};
+    ::GetTextMetricsA(link.hDC, &font);
+    area.top += font.tmAscent + 1;
+    area.bottom = area.top + win::Scaled(1);
+    const win::UniqueBrush line(::CreateSolidBrush(LinkColour()));
+    ::FillRect(link.hDC, &area, line.get());
     if ((link.itemState & ODS_FOCUS) != 0 && (link.itemState & ODS_NOFOCUSRECT) == 0) {
         ::DrawFocusRect(link.hDC, &link.rcItem);
     }
