@@ -50,6 +50,17 @@ COLORREF LinkColour() {
     return contrast >= 80 ? link : ::GetSysColor(COLOR_BTNTEXT);
 }
 
+// Letter by letter, for the line below to be as long as the text: Wine draws whole texts narrower than it
+// measures them.
+void DrawMeasured(HDC dc, RECT area, const std::string& text) {
+    for (const char& letter : text) {
+        RECT size{};
+        ::DrawTextA(dc, &letter, 1, &size, kLinkFormat | DT_CALCRECT);
+        ::DrawTextA(dc, &letter, 1, &area, kLinkFormat);
+        area.left += size.right;
+    }
+}
+
 }  // namespace
 
 bool frmAbout::onInit() {
@@ -94,11 +105,8 @@ void frmAbout::drawLink(const DRAWITEMSTRUCT& link) {
     ::InflateRect(&area, -kFrame, -kFrame);
     ::SetBkMode(link.hDC, TRANSPARENT);
     ::SetTextColor(link.hDC, LinkColour());
-    ::DrawTextA(link.hDC, win::WindowText(link.hwndItem).c_str(), -1, &area, kLinkFormat);
-    TEXTMETRICA font{};
-    ::GetTextMetricsA(link.hDC, &font);
-    area.top += font.tmAscent + 1;
-    area.bottom = area.top + win::Scaled(1);
+    DrawMeasured(link.hDC, area, win::WindowText(link.hwndItem));
+    area.top = area.bottom - win::Scaled(1);
     const win::UniqueBrush line(::CreateSolidBrush(LinkColour()));
     ::FillRect(link.hDC, &area, line.get());
     if ((link.itemState & ODS_FOCUS) != 0 && (link.itemState & ODS_NOFOCUSRECT) == 0) {
