@@ -45,9 +45,10 @@ def start_browser(home, port):
     options.binary_location = "/usr/bin/chromium"
     for word in ("headless", "no-sandbox", "disable-gpu", "disable-dev-shm-usage", "disable-quic",
                  "no-first-run", "disable-background-networking", "disable-component-update",
-                 "disable-sync", "disable-features=HttpsUpgrades",
+                 "disable-sync", "disable-features=HttpsUpgrades", "no-proxy-server",
                  f"host-resolver-rules=MAP * 127.0.0.1:{port}"):
         options.add_argument("--" + word)
+    options.ignore_local_proxy_environment_variables()
     service = Service("/usr/bin/chromedriver", env=os.environ | {"HOME": home})
     return Chrome(options=options, service=service)
 
