@@ -7,6 +7,7 @@
 #include "help/core/links.h"
 #include "win/error.h"
 #include "win/shell_open.h"
+#include "win/unique.h"
 #include "win/units.h"
 #include "win/window.h"
 

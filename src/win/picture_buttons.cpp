@@ -60,6 +60,7 @@ void PictureButton::setHot(bool hot) {
 }
 
 LRESULT PictureButton::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    // A dialog would take Enter for its default button.
     if (message == WM_GETDLGCODE && wParam == VK_RETURN) return DLGC_BUTTON | DLGC_WANTMESSAGE;
     if (message == WM_KEYDOWN && wParam == VK_RETURN) {
         send(BM_CLICK);

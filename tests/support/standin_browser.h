@@ -1,6 +1,7 @@
 // The stand-in for the user's browser, in place of what opens .htm files.
 #pragma once
 
+#include <iterator>
 #include <string>
 
 #include "support/windows_seen.h"
