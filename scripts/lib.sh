@@ -81,17 +81,18 @@ make_template() {
 }
 
 # set_desktop SIZE DPI: draws the prefix's windows inside a desktop window of SIZE (WIDTHxHEIGHT), which
-# stands in for a window manager, or as windows of their own where SIZE is none.
+# stands in for a window manager, or as windows of their own where SIZE is none. Where Wine finds no Courier
+# New, the font of pages, it would take a proportional one; Liberation Mono has the same widths.
 set_desktop() {
-    local wanted="$1 $2" kept=$prefix/desktop.txt
-    [[ ! -f $kept || $(<"$kept") != "$wanted" ]] || return 0
-    local desktop='"Desktop"="Default"'
+    local wanted kept=$prefix/desktop.reg desktop='"Desktop"="Default"'
     [[ $1 != none ]] || desktop='"Desktop"=-'
-    printf '%s\r\n' 'REGEDIT4' '' \
+    wanted=$(printf '%s\r\n' 'REGEDIT4' '' \
         '[HKEY_CURRENT_USER\Software\Wine\Explorer]' "$desktop" '' \
         '[HKEY_CURRENT_USER\Software\Wine\Explorer\Desktops]' "\"Default\"=\"$1\"" '' \
-        '[HKEY_CURRENT_USER\Control Panel\Desktop]' "$(printf '"LogPixels"=dword:%08x' "$2")" \
-        >"$prefix/desktop.reg"
-    in_wine wine regedit /S "$(windows_path "$prefix/desktop.reg")"
-    printf %s "$wanted" >"$kept"
+        '[HKEY_CURRENT_USER\Software\Wine\Fonts\Replacements]' '"Courier New"="Liberation Mono"' '' \
+        '[HKEY_CURRENT_USER\Control Panel\Desktop]' "$(printf '"LogPixels"=dword:%08x' "$2")")
+    [[ ! -f $kept || $(<"$kept") != "$wanted" ]] || return 0
+    printf '%s\n' "$wanted" >"$kept.new"
+    in_wine wine regedit /S "$(windows_path "$kept.new")"
+    mv "$kept.new" "$kept"
 }

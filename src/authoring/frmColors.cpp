@@ -40,6 +40,7 @@ void frmColors::open(MainWindow& main) {
 }
 
 bool frmColors::onInit() {
+    showProgramIcon();
     for (int i = 0; i < kSwatchCount; ++i) Text1_[static_cast<std::size_t>(i)].create(hwnd(), i);
     layOut();
     modWndPos::MakeTopmost(hwnd());

@@ -7,6 +7,8 @@
 #include "help/core/links.h"
 #include "win/error.h"
 #include "win/shell_open.h"
+#include "win/unique.h"
+#include "win/units.h"
 #include "win/window.h"
 
 namespace {
@@ -38,13 +40,6 @@ std::string Version() {
            "." + std::to_string(LOWORD(info.dwFileVersionLS));
 }
 
-win::UniqueFont Underlined(HFONT font) {
-    LOGFONTA look{};
-    ::GetObjectA(font, sizeof look, &look);
-    look.lfUnderline = TRUE;
-    return win::UniqueFont(::CreateFontIndirectA(&look));
-}
-
 int Brightness(COLORREF colour) {
     return (30 * GetRValue(colour) + 59 * GetGValue(colour) + 11 * GetBValue(colour)) / 100;
 }
@@ -56,18 +51,30 @@ COLORREF LinkColour() {
     return contrast >= 80 ? link : ::GetSysColor(COLOR_BTNTEXT);
 }
 
+// Letter by letter, for the line below to be as long as the text: Wine draws whole texts narrower than it
+// measures them.
+void DrawMeasured(HDC dc, RECT area, const std::string& text) {
+    for (const char& letter : text) {
+        RECT size{};
+        ::DrawTextA(dc, &letter, 1, &size, kLinkFormat | DT_CALCRECT);
+        ::DrawTextA(dc, &letter, 1, &area, kLinkFormat);
+        area.left += size.right;
+    }
+}
+
 }  // namespace
 
 bool frmAbout::onInit() {
     setItemText(lblDescription, kDescription);
     setItemText(lblVersion, "Version " + Version());
-    linkFont_ = Underlined(reinterpret_cast<HFONT>(::SendMessageA(item(lblLinks), WM_GETFONT, 0, 0)));
     for (int i = 0; i < kLinks; ++i) fitLink(item(lblLinks + i));
     focusItem(cmdOK);
     return false;
 }
 
 bool frmAbout::onCommand(WORD id, WORD notification) {
+    // Enter on a link reaches the default button, since buttons that draw themselves cannot be that.
+    if (id == cmdOK && isLink(::GetFocus())) id = static_cast<WORD>(::GetDlgCtrlID(::GetFocus()));
     if (id == cmdOK) {
         close(IDOK);
         return true;
@@ -84,7 +91,7 @@ bool frmAbout::isLink(HWND window) const {
 
 void frmAbout::fitLink(HWND link) const {
     const HDC dc = ::GetDC(link);
-    const HGDIOBJ old = ::SelectObject(dc, linkFont_.get());
+    const HGDIOBJ old = ::SelectObject(dc, reinterpret_cast<HFONT>(::SendMessageA(link, WM_GETFONT, 0, 0)));
     RECT area{};
     ::DrawTextA(dc, win::WindowText(link).c_str(), -1, &area, kLinkFormat | DT_CALCRECT);
     ::SelectObject(dc, old);
@@ -93,15 +100,16 @@ void frmAbout::fitLink(HWND link) const {
                    SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void frmAbout::drawLink(const DRAWITEMSTRUCT& link) const {
+void frmAbout::drawLink(const DRAWITEMSTRUCT& link) {
     ::FillRect(link.hDC, &link.rcItem, ::GetSysColorBrush(COLOR_BTNFACE));
     RECT area = link.rcItem;
     ::InflateRect(&area, -kFrame, -kFrame);
-    const HGDIOBJ old = ::SelectObject(link.hDC, linkFont_.get());
     ::SetBkMode(link.hDC, TRANSPARENT);
     ::SetTextColor(link.hDC, LinkColour());
-    ::DrawTextA(link.hDC, win::WindowText(link.hwndItem).c_str(), -1, &area, kLinkFormat);
-    ::SelectObject(link.hDC, old);
+    DrawMeasured(link.hDC, area, win::WindowText(link.hwndItem));
+    area.top = area.bottom - win::Scaled(1);
+    const win::UniqueBrush line(::CreateSolidBrush(LinkColour()));
+    ::FillRect(link.hDC, &area, line.get());
     if ((link.itemState & ODS_FOCUS) != 0 && (link.itemState & ODS_NOFOCUSRECT) == 0) {
         ::DrawFocusRect(link.hDC, &link.rcItem);
     }

@@ -5,7 +5,6 @@
 
 #include "main_window.h"
 #include "win/dialog.h"
-#include "win/unique.h"
 
 class frmAbout : public win::Dialog {
  public:
@@ -17,10 +16,8 @@ class frmAbout : public win::Dialog {
     INT_PTR onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     // As wide as its text, so that only the text can be clicked.
     void fitLink(HWND link) const;
-    void drawLink(const DRAWITEMSTRUCT& link) const;
+    static void drawLink(const DRAWITEMSTRUCT& link);
     bool isLink(HWND window) const;
-
-    win::UniqueFont linkFont_;
 };
 
 namespace help {

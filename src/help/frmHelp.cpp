@@ -56,8 +56,7 @@ void frmHelp::show(MainWindow& main) {
 }
 
 bool frmHelp::onInit() {
-    const auto icon = reinterpret_cast<LPARAM>(::LoadIconA(::GetModuleHandleA(nullptr), "quillon"));
-    ::SendMessageA(hwnd(), WM_SETICON, ICON_SMALL, icon);
+    showProgramIcon();
     Picture1_.open(hwnd(), win::Scaled(kMargin), win::Scaled(kTop));
     int id = Picture1;
     for (const ToolButton& button : kToolbar)

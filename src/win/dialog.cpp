@@ -45,6 +45,11 @@ std::string Dialog::itemText(int id) const {
     return WindowText(item(id));
 }
 
+void Dialog::showProgramIcon() const {
+    const auto icon = reinterpret_cast<LPARAM>(::LoadIconA(::GetModuleHandleA(nullptr), "quillon"));
+    ::SendMessageA(hwnd_, WM_SETICON, ICON_SMALL, icon);
+}
+
 void Dialog::focusItem(int id) const {
     ::SendMessageA(hwnd_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(item(id)), TRUE);
 }

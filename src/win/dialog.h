@@ -45,6 +45,8 @@ class Dialog {
     void setItemText(int id, const std::string& text) const { ::SetDlgItemTextA(hwnd_, id, text.c_str()); }
     void enableItem(int id, bool enabled) const { ::EnableWindow(item(id), enabled); }
     bool isChecked(int id) const { return ::IsDlgButtonChecked(hwnd_, id) == BST_CHECKED; }
+    // Has the caption show the program's icon, where the system would show one of its own.
+    void showProgramIcon() const;
     // As Tab would: the default button follows, and the text of an edit box is selected.
     void focusItem(int id) const;
 

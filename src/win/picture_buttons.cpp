@@ -60,7 +60,11 @@ void PictureButton::setHot(bool hot) {
 }
 
 LRESULT PictureButton::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_MOUSEMOVE && !hot_) {
+    // A dialog would take Enter for its default button.
+    if (message == WM_GETDLGCODE && wParam == VK_RETURN) return DLGC_BUTTON | DLGC_WANTMESSAGE;
+    if (message == WM_KEYDOWN && wParam == VK_RETURN) {
+        send(BM_CLICK);
+    } else if (message == WM_MOUSEMOVE && !hot_) {
         TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, hwnd(), 0};
         ::TrackMouseEvent(&track);
         setHot(true);

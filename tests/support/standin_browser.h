@@ -1,21 +1,32 @@
 // The stand-in for the user's browser, in place of what opens .htm files.
 #pragma once
 
+#include <iterator>
 #include <string>
 
 #include "support/windows_seen.h"
 
-// For the object's life the program opens .htm files; with no program nothing does. The stand-in leaves what
-// it sees in a folder.
+// For the object's life the program opens .htm files and addresses; with no program nothing opens files. The
+// stand-in leaves what it sees in a folder.
 class Browser {
  public:
     Browser(const std::string& program, const std::string& folder) : folder_(folder) {
         ::CreateDirectoryA(folder.c_str(), nullptr);
         ::SetEnvironmentVariableA("STANDIN_BROWSER", folder.c_str());
         set(".htm", "quillon.standin");
-        if (!program.empty()) set("quillon.standin\\shell\\open\\command", '"' + program + "\" \"%1\"");
+        if (program.empty()) return;
+        const std::string command = '"' + program + "\" \"%1\"";
+        set("quillon.standin\\shell\\open\\command", command);
+        for (std::size_t i = 0; i < std::size(kProtocols); ++i) {
+            LONG size = sizeof usual_[i];
+            ::RegQueryValueA(HKEY_CLASSES_ROOT, kProtocols[i], usual_[i], &size);
+            set(kProtocols[i], command);
+        }
     }
     ~Browser() {
+        for (std::size_t i = 0; i < std::size(kProtocols); ++i) {
+            if (usual_[i][0] != '\0') set(kProtocols[i], usual_[i]);
+        }
         for (const char* key : {"quillon.standin\\shell\\open\\command", "quillon.standin\\shell\\open",
                                 "quillon.standin\\shell", "quillon.standin", ".htm"}) {
             ::RegDeleteKeyA(HKEY_CLASSES_ROOT, key);
@@ -59,5 +70,9 @@ class Browser {
         return text;
     }
 
+    static constexpr const char* kProtocols[] = {"http\\shell\\open\\command",
+                                                 "mailto\\shell\\open\\command"};
+
     std::string folder_;
+    char usual_[2][MAX_PATH] = {};  // what opens the protocols otherwise
 };

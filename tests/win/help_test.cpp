@@ -1,5 +1,6 @@
 #include "forms/frmAbout.h"
 #include "forms/frmHelp.h"
+#include "support/standin_browser.h"
 #include "win/app_test.h"
 
 namespace {
@@ -60,6 +61,13 @@ TEST_F(HelpTest, EachButtonShowsItsDescription) {
     EXPECT_EQ(words[9].find("The Find Button...\r\n"), 0U);
     EXPECT_NE(words[15].find("216"), std::string::npos);
     EXPECT_EQ(words[16], "This file.\r\n\r\n   The ABOUT file is available through the HELP menu item only.");
+    ::SetFocus(::GetDlgItem(dialog, Picture1));
+    MSG enter{};
+    enter.hwnd = ::GetFocus();
+    enter.message = WM_KEYDOWN;
+    enter.wParam = VK_RETURN;
+    ::IsDialogMessageA(dialog, &enter);
+    EXPECT_EQ(text(dialog, lblWords), words[0]);
     ::SendMessageA(::GetDlgItem(dialog, cmdClose), BM_CLICK, 0, 0);
     EXPECT_FALSE(::IsWindow(dialog));
 }
@@ -77,6 +85,29 @@ TEST_F(HelpTest, TheAboutBoxTellsTheVersionOfTheProgram) {
     EXPECT_EQ(version, "Version 4.1.2");
     EXPECT_EQ(description.find("Description: Small in file size yet robust in features, "), 0U);
     EXPECT_NE(description.find("\r\n   What I"), std::string::npos);
+}
+
+TEST_F(HelpTest, TheLinksOfTheAboutBoxOpenByClickAndByKey) {
+    const Browser browser(Browser::standIn(), scratch("seen"));
+    std::vector<std::string> opened;
+    User user({{"About Quillon", [&](HWND dialog) {
+                    ::SendMessageA(::GetDlgItem(dialog, lblLinks), BM_CLICK, 0, 0);
+                    opened.push_back(browser.shown());
+                    const HWND mail = ::GetDlgItem(dialog, lblLinks + 1);
+                    ::SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(mail), TRUE);
+                    for (const WPARAM key : {VK_SPACE, VK_RETURN}) {
+                        ::PostMessageA(mail, WM_KEYDOWN, key, 0);
+                        ::PostMessageA(mail, WM_KEYUP, key, 0);
+                        opened.push_back(browser.shown());
+                    }
+                    ::PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+                }}});
+    run(mnuHelpAbout);
+    user.heard();
+    ASSERT_EQ(opened.size(), 3U);
+    EXPECT_NE(opened[0].find("http://www.example.com/quillon/"), std::string::npos) << opened[0];
+    EXPECT_NE(opened[1].find("mailto:support@example.com"), std::string::npos) << opened[1];
+    EXPECT_EQ(opened[2], opened[1]);
 }
 
 }  // namespace

@@ -6,9 +6,9 @@ namespace help {
 const char kIntroHeading[] = "\"Quillon Help\"  ";
 
 const char kIntroWords[] =
-    "   A lot for a little. One program file, smaller than many a banner advertisement, holds an editor for any "
-    "number of pages, the tags and scripts that you would otherwise type by hand, a chart of colors, a browser "
-    "preview and a complete FTP client. It asks for no installation and starts at once."
+    "   A lot for a little. One program file that fits on a diskette holds an editor for any number of pages, the "
+    "tags and scripts that you would otherwise type by hand, a chart of colors, a browser preview and a complete "
+    "FTP client. It asks for no installation and starts at once."
     " Learn more about the toolbar by clicking the buttons above, and get more functional details from the "
     "\"Features\" menu.\r\n\r\n"
     "   It's lean enough to replace Notepad on an HTML author's machine, and therefore be a mere VIEW SOURCE away "
@@ -42,10 +42,10 @@ const std::array<Topic, 14> kTopics{{
      "   What travels is the file on your disk. Save first, or the server gets the page as it was when you saved it "
      "last. Your page always goes as text; other files go as their names suggest (pictures, archives and programs "
      "byte for byte) unless you choose \"Binary\".\r\n\r\n"
-     "   A stored password is scrambled, which keeps it from a passing glance but is no real lock: anyone who can "
-     "use your account on this machine can use it too. Leave \"Save Password\" unchecked on a machine that you "
-     "share, and Quillon asks each time. FTP itself sends names, passwords and pages over the network as readable "
-     "text, so do not use a password there that guards anything else."},
+     "   A stored password is scrambled against a passing glance. It is no protection against anyone who can use "
+     "your account on this machine. Leave \"Save Password\" unchecked on a machine that you share, and Quillon "
+     "asks each time. FTP itself sends names, passwords and pages over the network as readable text, so do not use "
+     "a password there that guards anything else."},
 
     {"Line Numbers",
      "   At the lower right of the main window stands the number of the line that holds the caret, counted from 1: "
@@ -135,8 +135,10 @@ const std::array<Topic, 14> kTopics{{
      "   On Windows NT4 there are two copies, one in the WINNT folder and one in the SYSTEM32 folder inside it. Do "
      "the same with both of them; you need the rights of an administrator.\r\n\r\n"
      "   This build of Quillon is made for Windows XP and later, and those guard their Notepad and put it back. "
-     "There, leave the file alone and name Quillon as the program for .txt and .htm files (\"Open With\" in the "
-     "menu of a file), and as the HTML editor or source viewer in your browser's options.\r\n\r\n"
+     "There, leave the file alone and choose Quillon under \"Open With\" in the menu of a .txt or .htm file. "
+     "Windows then hands over paths in quotes, which Quillon answers with a new page; so start regedit, go to "
+     "HKEY_CLASSES_ROOT\\Applications\\Quillon.exe\\shell\\open\\command and take away the quotes round %1. Where "
+     "your browser's options name an HTML editor or source viewer, name Quillon there.\r\n\r\n"
      "   To undo any of this, give the old file its name back or choose the old program again. Quillon itself "
      "changes nothing in your system."},
 
