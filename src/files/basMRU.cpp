@@ -24,20 +24,8 @@ Command MenuItem(std::size_t number) {
     return static_cast<Command>(mnuFileMRU + number);
 }
 
-bool IsNumber(const std::string& key) {
-    return !key.empty() && key.find_first_not_of("0123456789") == std::string::npos;
-}
-
-// As many entries as the count says, or fewer where the section has fewer; keys that are no number do not
-// belong to the list.
 std::vector<std::string> StoredFiles() {
-    const int count = std::atoi(settings::Get(kCountSection, "Count").c_str());
-    const auto wanted = std::min(static_cast<std::size_t>(std::max(count, 0)), kRecentFiles);
-    std::vector<std::string> paths;
-    for (const settings::Row& row : settings::GetAll(kFilesSection)) {
-        if (paths.size() < wanted && IsNumber(row.key) && !row.value.empty()) paths.push_back(row.value);
-    }
-    return paths;
+    return files::StoredFiles(settings::Get(kCountSection, "Count"), settings::GetAll(kFilesSection));
 }
 
 void ShowInMenu(MainWindow& main, const std::vector<std::string>& paths) {
@@ -50,13 +38,45 @@ void ShowInMenu(MainWindow& main, const std::vector<std::string>& paths) {
     }
 }
 
-// Surplus rows go last, so that a store that refuses in between has forgotten nothing.
+// The number that each path has in the store; 0 for one that is to be put before the others.
+std::vector<std::size_t> OldNumbers(const std::vector<settings::Row>& old,
+                                    const std::vector<std::string>& paths) {
+    std::vector<std::size_t> numbers;
+    for (const std::string& path : paths) {
+        const auto row =
+            std::find_if(old.begin(), old.end(), [&path](const settings::Row& r) { return r.value == path; });
+        numbers.push_back(row == old.end() ? 0 : static_cast<std::size_t>(std::atoi(row->key.c_str())));
+    }
+    if (numbers.size() > 1 && numbers[0] > numbers[1]) numbers[0] = 0;
+    return numbers;
+}
+
+bool StoreCount(std::size_t count) {
+    return settings::Save(kCountSection, "Count", std::to_string(count));
+}
+
+// Up goes from the top on and down from the bottom on, so that a row is written over only once its path
+// stands elsewhere, and surplus rows go last: a store that refuses in between has forgotten nothing.
+bool StoreRows(const std::vector<settings::Row>& old, const std::vector<std::string>& paths) {
+    const std::vector<std::size_t> numbers = OldNumbers(old, paths);
+    const std::size_t count = paths.size();
+    const auto save = [&paths](std::size_t i) {
+        return settings::Save(kFilesSection, std::to_string(i + 1), paths[i]);
+    };
+    for (std::size_t i = 0; i < count; ++i) {
+        if (numbers[i] > i && !save(i)) return false;
+    }
+    for (std::size_t i = count; i-- > 0;) {
+        if (numbers[i] <= i && !save(i)) return false;
+    }
+    return true;
+}
+
 void Store(const std::vector<std::string>& paths) {
     const std::vector<settings::Row> old = settings::GetAll(kFilesSection);
-    for (std::size_t i = 0; i < paths.size(); ++i) {
-        settings::Save(kFilesSection, std::to_string(i + 1), paths[i]);
-    }
-    settings::Save(kCountSection, "Count", std::to_string(paths.size()));
+    const std::size_t stored = StoredFiles().size();
+    if (paths.size() > stored && !StoreCount(paths.size())) return;
+    if (!StoreRows(old, paths) || !StoreCount(paths.size())) return;
     for (const settings::Row& row : old) {
         const auto number = static_cast<std::size_t>(std::atoi(row.key.c_str()));
         const bool kept = number >= 1 && number <= paths.size() && row.key == std::to_string(number);

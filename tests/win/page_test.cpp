@@ -169,6 +169,16 @@ TEST_F(PageTest, ClosingAsksOnlyForAChangedPageAndSavesTheOneItAsksAbout) {
     EXPECT_EQ(main().documents().size(), 1U);
 }
 
+TEST_F(PageTest, APageThatClosesUnsavedAfterAllIsOnTheClipboard) {
+    newPage("page");
+    type("my ");
+    User user({User::press("Quillon", IDYES), User::press("Save File As...", IDCANCEL)});
+    run(mnuFileClose);
+    user.heard();
+    EXPECT_TRUE(main().documents().empty());
+    EXPECT_EQ(win::ClipboardText(nullptr), "my page");
+}
+
 TEST_F(PageTest, ACloseWhileABoxWaitsIsIgnoredAndExitAsksForEveryChangedPage) {
     newPage("");
     type("x");
