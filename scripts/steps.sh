@@ -14,6 +14,22 @@ fuzz() {
         -artifact_prefix="$results/$1-" "$found" "$project/tests/fuzz/corpus/${1#fuzz_}"
 }
 
+# with_small_disk FOLDER COMMAND...: runs the command with a file system of 128 KB mounted at FOLDER, which
+# only it sees and finds named in QUILLON_SMALL_DISK; or without, where nothing may be mounted.
+with_small_disk() {
+    local folder=$1 view=(unshare --mount)
+    shift
+    (( EUID == 0 )) || view+=(--map-current-user --keep-caps)
+    # shellcheck disable=SC2016
+    view+=(sh -c 'mount -t tmpfs -o size=128k none "$0" && exec "$@"' "$folder")
+    mkdir -p "$folder"
+    if "${view[@]}" true; then
+        QUILLON_SMALL_DISK=$(windows_path "$folder") "${view[@]}" "$@"
+    else
+        "$@"
+    fi
+}
+
 # in_windows PROGRAM FILTER: runs a test program of build/win32/tests on a display and in a prefix of its
 # own.
 in_windows() {
@@ -22,7 +38,7 @@ in_windows() {
     mkdir -p "$scratch"
     QUILLON_PREFIX=$results/$1-prefix QUILLON_SCRATCH=$(windows_path "$scratch") \
         QUILLON_EXE=$(windows_path "$project/dist/Quillon.exe") \
-        "$project/tests/ftp/servers" "$project/scripts/headless" \
+        with_small_disk "$results/$1-disk" "$project/tests/ftp/servers" "$project/scripts/headless" \
         timeout --foreground --kill-after=10 "${QUILLON_TEST_SECONDS:-900}" \
         "$project/scripts/wine" "$project/build/win32/tests/$1.exe" "--gtest_filter=$2"
 }

@@ -1,6 +1,6 @@
 #include "files/basMRU.h"
 
-#include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <exception>
 #include <vector>
@@ -38,17 +38,12 @@ void ShowInMenu(MainWindow& main, const std::vector<std::string>& paths) {
     }
 }
 
-// The number that each path has in the store; 0 for one that is to be put before the others.
-std::vector<std::size_t> OldNumbers(const std::vector<settings::Row>& old,
-                                    const std::vector<std::string>& paths) {
-    std::vector<std::size_t> numbers;
-    for (const std::string& path : paths) {
-        const auto row =
-            std::find_if(old.begin(), old.end(), [&path](const settings::Row& r) { return r.value == path; });
-        numbers.push_back(row == old.end() ? 0 : static_cast<std::size_t>(std::atoi(row->key.c_str())));
+// The number that a path has in the store, or 0.
+std::size_t OldNumber(const std::vector<settings::Row>& old, const std::string& path) {
+    for (const settings::Row& row : old) {
+        if (row.value == path) return static_cast<std::size_t>(std::atoi(row.key.c_str()));
     }
-    if (numbers.size() > 1 && numbers[0] > numbers[1]) numbers[0] = 0;
-    return numbers;
+    return 0;
 }
 
 bool StoreCount(std::size_t count) {
@@ -58,18 +53,21 @@ bool StoreCount(std::size_t count) {
 // Up goes from the top on and down from the bottom on, so that a row is written over only once its path
 // stands elsewhere, and surplus rows go last: a store that refuses in between has forgotten nothing.
 bool StoreRows(const std::vector<settings::Row>& old, const std::vector<std::string>& paths) {
-    const std::vector<std::size_t> numbers = OldNumbers(old, paths);
-    const std::size_t count = paths.size();
-    const auto save = [&paths](std::size_t i) {
-        return settings::Save(kFilesSection, std::to_string(i + 1), paths[i]);
+    std::array<bool, kRecentFiles> goesUp{};
+    std::size_t before = 0;
+    for (std::size_t i = paths.size(); i-- > 0;) {
+        const std::size_t number = OldNumber(old, paths[i]);
+        // A file that is opened again passes those above it, and is written last.
+        goesUp[i] = number > i && (i > 0 || number < before || before == 0);
+        before = number;
+    }
+    const auto save = [&](std::size_t i, bool up) {
+        return goesUp[i] != up || settings::Save(kFilesSection, std::to_string(i + 1), paths[i]);
     };
-    for (std::size_t i = 0; i < count; ++i) {
-        if (numbers[i] > i && !save(i)) return false;
-    }
-    for (std::size_t i = count; i-- > 0;) {
-        if (numbers[i] <= i && !save(i)) return false;
-    }
-    return true;
+    bool done = true;
+    for (std::size_t i = 0; i < paths.size(); ++i) done = done && save(i, true);
+    for (std::size_t i = paths.size(); i-- > 0;) done = done && save(i, false);
+    return done;
 }
 
 void Store(const std::vector<std::string>& paths) {
@@ -79,7 +77,7 @@ void Store(const std::vector<std::string>& paths) {
     if (!StoreRows(old, paths) || !StoreCount(paths.size())) return;
     for (const settings::Row& row : old) {
         const auto number = static_cast<std::size_t>(std::atoi(row.key.c_str()));
-        const bool kept = number >= 1 && number <= paths.size() && row.key == std::to_string(number);
+        const bool kept = number - 1 < paths.size() && row.key == std::to_string(number);
         if (!kept) settings::DeleteKey(kFilesSection, row.key);
     }
 }

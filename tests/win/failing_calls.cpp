@@ -173,3 +173,10 @@ int FailEachCall(const FaultyWork& test) {
     }
     return faults;
 }
+
+std::vector<std::string> SaidBy(const std::function<void()>& work) {
+    State now;
+    const Hooked hooked(now);
+    work();
+    return now.said;
+}

@@ -23,3 +23,6 @@ struct FaultyWork {
 // thread count. What fails has no effect, but for a write, which gets half of its bytes in, and a close.
 // Gives how many faults there were.
 int FailEachCall(const FaultyWork& test);
+
+// Does the work once with nothing failing but what fails by itself, and gives what message boxes said.
+std::vector<std::string> SaidBy(const std::function<void()>& work);

@@ -72,6 +72,51 @@ TEST_F(SaveTest, EveryCallThatFailsLeavesTheOldFileOrTheNewOne) {
     }
 }
 
+// Leaves this many bytes of a small disk free.
+void Fill(const std::string& disk, DWORD free) {
+    const win::UniqueFile filler(::CreateFileA((disk + "\\filler").c_str(), GENERIC_WRITE, FILE_SHARE_READ,
+                                               nullptr, CREATE_ALWAYS, 0, nullptr));
+    const std::string block(4096, 'f');
+    DWORD written = 0;
+    while (::WriteFile(filler.get(), block.data(), 4096, &written, nullptr) && written > 0) continue;
+    ::SetFilePointer(filler.get(), -static_cast<LONG>(free), nullptr, FILE_END);
+    ::SetEndOfFile(filler.get());
+}
+
+TEST_F(SaveTest, AFullDiskLeavesTheOldFileOrTheNewOne) {
+    char disk[MAX_PATH] = "";
+    if (::GetEnvironmentVariableA("QUILLON_SMALL_DISK", disk, sizeof disk) == 0)
+        GTEST_SKIP() << "no small file system could be mounted";
+    const std::string path = std::string(disk) + "\\page.htm";
+    const std::string old(9000, 'o');
+    writeFile(path, old);
+    const frmChild& page = *files::OpenFile(main(), path);
+    page.txtPad().replaceSelection(std::string(16000, 'n'));
+    const std::string fresh = pageText() + "\r\n";
+    int kept = 0;
+    int saved = 0;
+    for (DWORD free = 0; free <= 10 * 4096; free += 2048) {
+        writeFile(path, old);
+        Fill(disk, free);
+        const std::string copy = std::string(disk) + "\\copy.htm";
+        page.txtPad().setChanged(true);
+        const auto said = SaidBy([&] { run(mnuFileSave); });
+        const bool isSaved = said.empty();
+        EXPECT_TRUE(readFile(path) == (isSaved ? fresh : old)) << free << " bytes free";
+        EXPECT_EQ(page.txtPad().isChanged(), !isSaved) << free << " bytes free";
+        EXPECT_TRUE(isSaved || said[0] == "Could not write to the specified file at this time.");
+        EXPECT_EQ(pageText() + "\r\n", fresh);
+        const bool isCopied = modOpen::SaveDocument(main(), page.id(), copy);
+        EXPECT_TRUE(readFile(copy) == (isCopied ? fresh : "(no file)")) << free << " bytes free";
+        ::DeleteFileA(copy.c_str());
+        ++(isSaved ? saved : kept);
+    }
+    std::printf("%d sizes of a full disk: the old file whole %d times, the new one %d\n", kept + saved, kept,
+                saved);
+    EXPECT_GT(kept, 5);
+    EXPECT_GT(saved, 2);
+}
+
 TEST_F(SaveTest, AnUnwritableTargetLeavesThePageChangedAndTheFileAsItWas) {
     openPage("locked.htm", "old");
     type("new ");
