@@ -372,6 +372,9 @@ TEST_F(MonkeyTest, NoUserLosesAnything) {
     std::printf("seed %u\n", seed);
     random_.seed(seed);
     pages_.push_back({quillon_->page(), document::kPageOutline, ""});
+    run(mnuEditAll);
+    run(mnuEditCopy);
+    clipboard_ = document::kPageOutline;
     const DWORD start = ::GetTickCount();
     while (::GetTickCount() - start < seconds * 1000 && !HasFailure()) {
         act();

@@ -19,6 +19,7 @@ struct State {
     std::string failed;
     std::vector<std::string> said;
 };
+
 bool Fails(const char* name) {
     State* state = State::now;
     if (!state || ::GetCurrentThreadId() != state->thread) return false;
