@@ -7,9 +7,8 @@
 #include "document/frmChild.h"
 #include "files/modOpen.h"
 #include "files/open_file.h"
-#include "files/replace_file.h"
 #include "win/error.h"
-#include "win/wide_path.h"
+#include "win/unique.h"
 
 namespace bench {
 namespace {
@@ -64,12 +63,12 @@ void OpenAndSave(MainWindow& main) {
     Compare(
         "saving 1 MB, beside reading the control and writing a file", 2.0, 15, [&] { Save(main, one); },
         [&] {
-            files::FileCalls calls;
-            const HANDLE file =
-                calls.create(win::WidePath(Scratch("plain.htm")), GENERIC_WRITE, CREATE_ALWAYS);
-            calls.write(file, small.txtPad().text());
-            calls.flush(file);
-            calls.close(file);
+            const win::UniqueFile file(::CreateFileA(Scratch("plain.htm").c_str(), GENERIC_WRITE, 0, nullptr,
+                                                     CREATE_ALWAYS, 0, nullptr));
+            const std::string text = small.txtPad().text();
+            DWORD written = 0;
+            ::WriteFile(file.get(), text.data(), static_cast<DWORD>(text.size()), &written, nullptr);
+            ::FlushFileBuffers(file.get());
         });
     Print("saving 4 MB, beside saving 1 MB", largeSave, Median(7, [&] { Save(main, one); }), 4.5);
     ::SendMessageA(small.hwnd(), WM_CLOSE, 0, 0);

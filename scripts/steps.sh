@@ -1,9 +1,47 @@
-# Sourced by test, after lib.sh: steps that run, are timed and are counted.
+# Sourced by test and by what runs a part of it for longer, after lib.sh: steps that run, are timed and are
+# counted.
 # shellcheck shell=bash
 
 # shellcheck source=lib.sh
 [[ ${project-} ]] || source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 results=$project/build/test
+
+# fuzz TARGET SECONDS [OPTION...]: every kept input once, then new ones made from them.
+fuzz() {
+    local found=$results/found/$1
+    mkdir -p "$found"
+    "$project/build/core-clang/tests/fuzz/$1" -max_total_time="$2" -timeout=10 "${@:3}" \
+        -artifact_prefix="$results/$1-" "$found" "$project/tests/fuzz/corpus/${1#fuzz_}"
+}
+
+# with_small_disk FOLDER COMMAND...: runs the command with a file system of 128 KB mounted at FOLDER, which
+# only it sees and finds named in QUILLON_SMALL_DISK; or without, where nothing may be mounted.
+with_small_disk() {
+    local folder=$1 view=(unshare --mount)
+    shift
+    (( EUID == 0 )) || view+=(--map-current-user --keep-caps)
+    # shellcheck disable=SC2016
+    view+=(sh -c 'mount -t tmpfs -o size=128k none "$0" && exec "$@"' "$folder")
+    mkdir -p "$folder"
+    if "${view[@]}" true; then
+        QUILLON_SMALL_DISK=$(windows_path "$folder") "${view[@]}" "$@"
+    else
+        "$@"
+    fi
+}
+
+# in_windows PROGRAM FILTER: runs a test program of build/win32/tests on a display and in a prefix of its
+# own.
+in_windows() {
+    local scratch=$results/$1-scratch
+    rm -rf "$scratch"
+    mkdir -p "$scratch"
+    QUILLON_PREFIX=$results/$1-prefix QUILLON_SCRATCH=$(windows_path "$scratch") \
+        QUILLON_EXE=$(windows_path "$project/dist/Quillon.exe") \
+        with_small_disk "$results/$1-disk" "$project/tests/ftp/servers" "$project/scripts/headless" \
+        timeout --foreground --kill-after=10 "${QUILLON_TEST_SECONDS:-900}" \
+        "$project/scripts/wine" "$project/build/win32/tests/$1.exe" "--gtest_filter=$2"
+}
 
 # step NAME COMMAND...: runs the command, keeps its output, tells and keeps what came of it. A program of
 # GoogleTest's counts its tests, and one more failed when it ended badly or before its own summary; any

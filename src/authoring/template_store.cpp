@@ -46,9 +46,13 @@ bool WriteTemplates(const TemplateList& list, Moved moved) {
     bool done = true;
     for (std::size_t i = 0; i < list.size(); ++i) {
         const std::size_t slot = moved == Moved::up ? i : list.size() - 1 - i;
+        const Template& wanted = list[slot];
         const std::string key = std::to_string(slot);
-        done = done && settings.SaveRegSetting(kNames, key, list[slot].name) &&
-               settings.SaveRegSetting(kIds, key, list[slot].id);
+        // A slot without an ID is empty: no name is ever beside the ID of another.
+        const bool renamed = settings.GetRegSetting(kNames, key) != wanted.name;
+        done = done && (!renamed || settings.SaveRegSetting(kIds, key, "")) &&
+               settings.SaveRegSetting(kNames, key, wanted.name) &&
+               settings.SaveRegSetting(kIds, key, wanted.id);
     }
     return done;
 }

@@ -147,9 +147,13 @@ void frmChild::replacePage(std::string_view page) {
     showLine();
 }
 
-void frmChild::toReset(std::string_view saved) {
+void frmChild::keepText() const {
     // Of an empty page nothing would be left to paste: the clipboard keeps what it has.
     if (const std::string edited = txtPad_->text(); !edited.empty()) win::SetClipboardText(hwnd(), edited);
+}
+
+void frmChild::toReset(std::string_view saved) {
+    keepText();
     setPage(saved);
     showLine();
 }
@@ -214,6 +218,8 @@ void frmChild::closingCheck() {
         win::RunPending();
         ::Sleep(1000);
         main_.saveAs(*this);
+        // It closes all the same: what the disk did not take, or nobody named a file for, can be pasted.
+        if (txtPad_->isChanged()) keepText();
     } catch (const std::exception& error) {
         win::ShowMessage(hwnd(), std::string("ShutDown Error: ") + error.what(), "Quillon");
     }

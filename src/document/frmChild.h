@@ -66,6 +66,7 @@ class frmChild : public win::Window {
     void layOut() const;
     void close();
     void closingCheck();
+    void keepText() const;  // on the clipboard
     void handOverDrops();
 
     MainWindow& main_;

@@ -1,6 +1,6 @@
 #include "files/basMRU.h"
 
-#include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <exception>
 #include <vector>
@@ -24,20 +24,8 @@ Command MenuItem(std::size_t number) {
     return static_cast<Command>(mnuFileMRU + number);
 }
 
-bool IsNumber(const std::string& key) {
-    return !key.empty() && key.find_first_not_of("0123456789") == std::string::npos;
-}
-
-// As many entries as the count says, or fewer where the section has fewer; keys that are no number do not
-// belong to the list.
 std::vector<std::string> StoredFiles() {
-    const int count = std::atoi(settings::Get(kCountSection, "Count").c_str());
-    const auto wanted = std::min(static_cast<std::size_t>(std::max(count, 0)), kRecentFiles);
-    std::vector<std::string> paths;
-    for (const settings::Row& row : settings::GetAll(kFilesSection)) {
-        if (paths.size() < wanted && IsNumber(row.key) && !row.value.empty()) paths.push_back(row.value);
-    }
-    return paths;
+    return files::StoredFiles(settings::Get(kCountSection, "Count"), settings::GetAll(kFilesSection));
 }
 
 void ShowInMenu(MainWindow& main, const std::vector<std::string>& paths) {
@@ -50,16 +38,46 @@ void ShowInMenu(MainWindow& main, const std::vector<std::string>& paths) {
     }
 }
 
-// Surplus rows go last, so that a store that refuses in between has forgotten nothing.
+// The number that a path has in the store, or 0.
+std::size_t OldNumber(const std::vector<settings::Row>& old, const std::string& path) {
+    for (const settings::Row& row : old) {
+        if (row.value == path) return static_cast<std::size_t>(std::atoi(row.key.c_str()));
+    }
+    return 0;
+}
+
+bool StoreCount(std::size_t count) {
+    return settings::Save(kCountSection, "Count", std::to_string(count));
+}
+
+// Up goes from the top on and down from the bottom on, so that a row is written over only once its path
+// stands elsewhere, and surplus rows go last: a store that refuses in between has forgotten nothing.
+bool StoreRows(const std::vector<settings::Row>& old, const std::vector<std::string>& paths) {
+    std::array<bool, kRecentFiles> goesUp{};
+    std::size_t before = 0;
+    for (std::size_t i = paths.size(); i-- > 0;) {
+        const std::size_t number = OldNumber(old, paths[i]);
+        // A file that is opened again passes those above it, and is written last.
+        goesUp[i] = number > i && (i > 0 || number < before || before == 0);
+        before = number;
+    }
+    const auto save = [&](std::size_t i, bool up) {
+        return goesUp[i] != up || settings::Save(kFilesSection, std::to_string(i + 1), paths[i]);
+    };
+    bool done = true;
+    for (std::size_t i = 0; i < paths.size(); ++i) done = done && save(i, true);
+    for (std::size_t i = paths.size(); i-- > 0;) done = done && save(i, false);
+    return done;
+}
+
 void Store(const std::vector<std::string>& paths) {
     const std::vector<settings::Row> old = settings::GetAll(kFilesSection);
-    for (std::size_t i = 0; i < paths.size(); ++i) {
-        settings::Save(kFilesSection, std::to_string(i + 1), paths[i]);
-    }
-    settings::Save(kCountSection, "Count", std::to_string(paths.size()));
+    const std::size_t stored = StoredFiles().size();
+    if (paths.size() > stored && !StoreCount(paths.size())) return;
+    if (!StoreRows(old, paths) || !StoreCount(paths.size())) return;
     for (const settings::Row& row : old) {
         const auto number = static_cast<std::size_t>(std::atoi(row.key.c_str()));
-        const bool kept = number >= 1 && number <= paths.size() && row.key == std::to_string(number);
+        const bool kept = number - 1 < paths.size() && row.key == std::to_string(number);
         if (!kept) settings::DeleteKey(kFilesSection, row.key);
     }
 }

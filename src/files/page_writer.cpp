@@ -57,8 +57,7 @@ std::string PageBytes(document::RichEdit& pad) {
 }
 
 bool WritePage(document::RichEdit& pad, const std::string& path) {
-    FileCalls calls;
-    return ReplaceFileContents(calls, path, PageBytes(pad));
+    return ReplaceFileContents(path, PageBytes(pad));
 }
 
 }  // namespace files

@@ -216,23 +216,4 @@ TEST(SiteList, AMarkThatIsNoIndexCountsAsNone) {
     }
 }
 
-TEST(SiteList, AStoreThatFailsInTheMiddleLosesNoSiteAndMixesNone) {
-    const auto check = [](const SiteStore& before, const ftp::SiteChanges& changes, std::size_t kept) {
-        SiteStore store = before;
-        for (const ftp::SiteChange& change : changes) {
-            store.apply(change);
-            std::vector<std::string> urls;
-            for (const ftp::Site& site : ftp::ReadSites(store.read())) urls.push_back(site.url);
-            Listed(store);
-            std::sort(urls.begin(), urls.end());
-            urls.erase(std::unique(urls.begin(), urls.end()), urls.end());
-            EXPECT_GE(urls.size(), kept);
-        }
-    };
-    const SiteStore full = StoreOf(12);
-    check(full, ftp::AddSite(full.read(), NewSite("new")).changes, 11);
-    check(full, ftp::RemoveSite(full.read(), 0), 11);
-    check(full, ftp::RemoveSite(full.read(), 7), 11);
-}
-
 }  // namespace

@@ -4,14 +4,6 @@
 
 namespace {
 
-// The folder of the templates, beside the program.
-std::string TemplatePath(const std::string& name) {
-    char exe[MAX_PATH] = "";
-    ::GetEnvironmentVariableA("QUILLON_EXE", exe, sizeof exe);
-    const std::string path = exe;
-    return path.substr(0, path.rfind('\\')) + "\\Templates\\" + name;
-}
-
 // The ID of the newest template in the settings.
 std::string StoredId() {
     char text[128] = "";
@@ -27,14 +19,9 @@ class AuthoringTest : public QuillonTest {
  protected:
     void SetUp() override {
         QuillonTest::SetUp();
-        removeTemplate();
+        RemoveTemplate("mine.htm");
     }
-    void TearDown() override { removeTemplate(); }
-    static void removeTemplate() {
-        ::SetFileAttributesA(TemplatePath("mine.htm").c_str(), FILE_ATTRIBUTE_NORMAL);
-        ::DeleteFileA(TemplatePath("mine.htm").c_str());
-        ::RemoveDirectoryA(TemplatePath("").c_str());
-    }
+    void TearDown() override { RemoveTemplate("mine.htm"); }
     static std::string page() {
         std::string text = "<HTML>\r\n";
         while (text.size() < 300000) text += "<P>A line of teh page, caf\xE9 &amp; bread.</P>\r\n";
@@ -63,7 +50,7 @@ TEST_F(AuthoringTest, ATemplateIsThereAgainAtTheNextStartIfItsFileIs) {
         EXPECT_TRUE(quillon.pageText() == page() + "\r\n");
     }
     EXPECT_EQ(StoredId(), "My Cool Template");
-    removeTemplate();
+    RemoveTemplate("mine.htm");
     const Quillon quillon;
     EXPECT_EQ(StoredId(), "") << "its file has gone";
 }

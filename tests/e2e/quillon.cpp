@@ -179,10 +179,35 @@ std::string Quillon::answer(const std::string& title, WORD button) const {
     return said;
 }
 
-void Quillon::chooseFile(const std::string& title, const std::string& path) const {
+void Quillon::chooseFile(const std::string& title, const std::string& path, bool exists) const {
     const HWND dialog = waitForDialog(title);
     seen::ChooseFile(dialog, path);
+    HWND question = nullptr;
+    // The question has the dialog's own title.
+    const auto asked = [&] {
+        for (const HWND window : seen::TopLevel(id_)) {
+            if (window != dialog && seen::ClassOf(window) == "#32770") question = window;
+        }
+        return question != nullptr;
+    };
+    if (exists && seen::Until(asked)) ::PostMessageA(question, WM_COMMAND, IDYES, 0);
     seen::Until([dialog] { return !::IsWindow(dialog); });
+}
+
+std::string TemplatePath(const std::string& name) {
+    const std::string exe = Environment("QUILLON_EXE");
+    return exe.substr(0, exe.rfind('\\')) + "\\Templates\\" + name;
+}
+
+void RemoveTemplate(const std::string& name) {
+    ::SetFileAttributesA(TemplatePath(name).c_str(), FILE_ATTRIBUTE_NORMAL);
+    ::DeleteFileA(TemplatePath(name).c_str());
+    ::RemoveDirectoryA(TemplatePath("").c_str());
+}
+
+int EnvironmentNumber(const char* name, int otherwise) {
+    const std::string text = Environment(name);
+    return text.empty() ? otherwise : std::atoi(text.c_str());
 }
 
 void QuillonTest::SetUp() {

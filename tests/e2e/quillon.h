@@ -43,7 +43,8 @@ class Quillon {
     HWND waitForBox(const std::string& title) const;
     // Waits for such a dialog, presses the button and waits until it is gone. Gives what it said.
     std::string answer(const std::string& title, WORD button) const;
-    void chooseFile(const std::string& title, const std::string& path) const;
+    // `exists` when the dialog will ask whether to write over the file.
+    void chooseFile(const std::string& title, const std::string& path, bool exists = false) const;
 
  private:
     void bringToFront() const;
@@ -52,6 +53,14 @@ class Quillon {
     DWORD id_ = 0;
     HWND window_ = nullptr;
 };
+
+// A file in the folder of the templates, which lies beside the program.
+std::string TemplatePath(const std::string& name);
+// The folder goes with its last file.
+void RemoveTemplate(const std::string& name);
+
+// A number from the environment of the test run.
+int EnvironmentNumber(const char* name, int otherwise);
 
 // Each test starts with no settings but a welcome already given, and an empty folder of its own.
 class QuillonTest : public ::testing::Test {

@@ -2,20 +2,16 @@
 // line to put in its place, and the text.
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
 #include "authoring/core/find_replace.h"
+#include "check.h"
 
 using authoring::FoldTable;
 using authoring::kNotFound;
 
 namespace {
-
-void Check(bool holds) {
-    if (!holds) std::abort();
-}
 
 std::string Folded(std::string_view text, const FoldTable& fold) {
     std::string result;
@@ -38,18 +34,12 @@ std::string PlainReplace(std::string text, std::string_view find, std::string_vi
     return text;
 }
 
-std::string_view TakeLine(std::string_view& rest) {
-    const std::string_view line = rest.substr(0, rest.find('\n'));
-    rest.remove_prefix(line.size() == rest.size() ? line.size() : line.size() + 1);
-    return line;
-}
-
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     std::string_view text(reinterpret_cast<const char*>(data), size);
-    const std::string_view find = TakeLine(text);
-    const std::string_view with = TakeLine(text);
+    const std::string find = TakeLine(text);
+    const std::string with = TakeLine(text);
     if (find.empty()) {
         Check(authoring::FindExact(text, find) == kNotFound && authoring::CountMatches(text, find) == 0);
         Check(authoring::ReplaceText(text, find, with) == text);

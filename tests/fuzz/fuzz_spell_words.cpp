@@ -1,9 +1,10 @@
 // Any page, with one letter beyond ASCII.
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 
+#include "authoring/core/spell_text.h"
 #include "authoring/core/spelling_pass.h"
+#include "check.h"
 
 namespace {
 
@@ -13,10 +14,6 @@ class Nothing : public authoring::SpellDictionary {
     std::vector<std::string> suggestions(const std::string&) override { return {}; }
     void add(const std::string&) override {}
 };
-
-void Check(bool holds) {
-    if (!holds) std::abort();
-}
 
 }  // namespace
 
@@ -40,5 +37,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (i % 2 == 0) pass.change(pass.word());
     }
     Check(pass.result() == page && !pass.isChanged());
+    // A word processor gives the page back with CR for each line end, and one more at its end.
+    std::string given = page + '\r';
+    given.erase(std::remove(given.begin(), given.end(), '\n'), given.end());
+    const std::string taken = authoring::TextFromWordProcessor(given);
+    Check(std::count(taken.begin(), taken.end(), '\r') == std::count(page.begin(), page.end(), '\r'));
+    if (std::count(page.begin(), page.end(), '\n') == 0) {
+        std::string back = taken;
+        back.erase(std::remove(back.begin(), back.end(), '\n'), back.end());
+        Check(back == page);
+    }
     return 0;
 }

@@ -3,26 +3,16 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
 #include "authoring/core/template_list.h"
+#include "check.h"
 
 using authoring::Template;
 using authoring::TemplateList;
 
 namespace {
-
-void Check(bool holds) {
-    if (!holds) std::abort();
-}
-
-std::string TakeLine(std::string_view& rest) {
-    const std::string line(rest.substr(0, rest.find('\n')));
-    rest.remove_prefix(line.size() == rest.size() ? line.size() : line.size() + 1);
-    return line;
-}
 
 bool Exists(const std::string& name) {
     return !name.starts_with('-');

@@ -30,6 +30,14 @@ HWND ChildOfClass(HWND parent, const std::string& cls);
 // empty ones.
 std::string LabelsOf(HWND dialog);
 
+// How many things of the system's a process holds.
+struct Holdings {
+    int windows = 0;
+    int gdi = 0;           // pens, fonts, bitmaps, ...
+    SIZE_T kilobytes = 0;  // of memory of its own
+};
+Holdings HeldBy(DWORD process);
+
 // Polls until the condition holds; false when it has not come true within ten seconds.
 bool Until(const std::function<bool()>& condition, DWORD milliseconds = 10000);
 

@@ -3,8 +3,10 @@
 
 #include "forms/frmUpload.h"
 #include "ftp/core/scramble.h"
+#include "ftp/download.h"
 #include "ftp/frmUpload.h"
 #include "ftp/site_store.h"
+#include "win/failing_calls.h"
 #include "win/ftp_test.h"
 
 namespace {
@@ -76,6 +78,29 @@ TEST_F(FtpFaultsTest, ATransferThatBreaksOffIsNoSuccessAndLeavesTheOldFile) {
         click(cmdUp);
         EXPECT_EQ(user.heard().front(), "Unable to upload the current file.") << behaviour;
     }
+}
+
+TEST_F(FtpFaultsTest, ADownloadThatCannotBePutInItsPlaceLeavesTheOldFile) {
+    const auto session = ScriptedSession();
+    ASSERT_TRUE(session->open() && session->connect("127.0.0.1", "plain", "pw"));
+    const std::string path = scratch("kept.htm");
+    bool done = false;
+    const auto download = [&] {
+        done = ftp::Download(*session, "good.htm", path, ftp::TransferType::binary);
+    };
+    download();
+    ASSERT_TRUE(done);
+    const std::string remote = readFile(path);
+    const auto check = [&](const Fault& fault) {
+        EXPECT_EQ(readFile(path), done ? remote : "old") << fault.what;
+        WIN32_FIND_DATAA found{};
+        const HANDLE left = ::FindFirstFileA(scratch("qui*").c_str(), &found);
+        ::FindClose(left);
+        EXPECT_TRUE(left == INVALID_HANDLE_VALUE || fault.what.find("all after") != std::string::npos)
+            << fault.what;
+        ::DeleteFileA(scratch(found.cFileName).c_str());
+    };
+    EXPECT_GE(FailEachCall({[&] { writeFile(path, "old"); }, download, check}), 8);
 }
 
 TEST_F(FtpFaultsTest, LoginsThatFailOpenNoWindow) {

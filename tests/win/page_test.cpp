@@ -169,6 +169,16 @@ TEST_F(PageTest, ClosingAsksOnlyForAChangedPageAndSavesTheOneItAsksAbout) {
     EXPECT_EQ(main().documents().size(), 1U);
 }
 
+TEST_F(PageTest, APageThatClosesUnsavedAfterAllIsOnTheClipboard) {
+    newPage("page");
+    type("my ");
+    User user({User::press("Quillon", IDYES), User::press("Save File As...", IDCANCEL)});
+    run(mnuFileClose);
+    user.heard();
+    EXPECT_TRUE(main().documents().empty());
+    EXPECT_EQ(win::ClipboardText(nullptr), "my page");
+}
+
 TEST_F(PageTest, ACloseWhileABoxWaitsIsIgnoredAndExitAsksForEveryChangedPage) {
     newPage("");
     type("x");
@@ -186,21 +196,21 @@ TEST_F(PageTest, ACloseWhileABoxWaitsIsIgnoredAndExitAsksForEveryChangedPage) {
     EXPECT_FALSE(::IsWindow(window));
 }
 
-TEST_F(PageTest, AThousandPagesLeaveNothingBehind) {
-    const auto objects = [](DWORD kind) { return ::GetGuiResources(::GetCurrentProcess(), kind); };
+TEST_F(PageTest, TwoHundredPagesLeaveNothingBehind) {
     for (int i = 0; i < 5; ++i) {
         newPage("warm");
         run(mnuFileClose);
     }
-    const DWORD user = objects(GR_USEROBJECTS);
-    const DWORD gdi = objects(GR_GDIOBJECTS);
-    for (int i = 0; i < 1000; ++i) {
+    const seen::Holdings before = seen::HeldBy(::GetCurrentProcessId());
+    ASSERT_GT(before.gdi, 0);
+    for (int i = 0; i < 200; ++i) {
         newPage("page");
         run(mnuFileClose);
         win::RunPending();
     }
-    EXPECT_LE(objects(GR_USEROBJECTS), user);
-    EXPECT_LE(objects(GR_GDIOBJECTS), gdi);
+    const seen::Holdings after = seen::HeldBy(::GetCurrentProcessId());
+    EXPECT_LE(after.windows, before.windows);
+    EXPECT_LE(after.gdi, before.gdi);
 }
 
 }  // namespace

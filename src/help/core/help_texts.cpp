@@ -103,7 +103,7 @@ const std::array<Topic, 14> kTopics{{
      "changed page, or the whole program with changed pages in it, and you are asked for each one, by its name, "
      "whether to save it. Unchanged pages close without a word.\r\n\r\n"
      "   Yes opens the Save As dialog, so that you can keep the old file and store the new text under another name. "
-     "No throws the changes away for good.\r\n\r\n"
+     "If no file comes of it, the page's text is left on the clipboard. No throws the changes away for good.\r\n\r\n"
      "   The same watch tells Preview whether it needs a copy, and Reset whether there is anything to take back. "
      "Uploading does not count as saving: it sends the file that is on your disk."},
 

@@ -1,0 +1,72 @@
+// Settings as anything may have left them: a line with a count, a line with a path, and rows of the recent
+// files, a key and a value on a line each.
+#include <algorithm>
+#include <charconv>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <limits>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "check.h"
+#include "document/core/font_size.h"
+#include "files/core/recent_files.h"
+
+namespace {
+
+using settings::Row;
+
+// Every other key sorts behind all numbers.
+unsigned long Number(const Row& row) {
+    unsigned long number = 0;
+    const char* end = row.key.data() + row.key.size();
+    const auto [stop, error] = std::from_chars(row.key.data(), end, number);
+    return error == std::errc() && stop == end ? number : std::numeric_limits<unsigned long>::max();
+}
+
+void CheckRecent(const std::string& count, const std::string& path, const std::vector<Row>& rows) {
+    const std::vector<std::string> stored = files::StoredFiles(count, rows);
+    const std::set<std::string> once(stored.begin(), stored.end());
+    Check(stored.size() <= files::kRecentFiles && once.size() == stored.size() && once.count("") == 0);
+    const auto fresh = files::WithNewest(stored, path, std::equal_to<>());
+    Check(fresh.size() <= files::kRecentFiles && fresh.front() == path);
+    Check(std::count(fresh.begin(), fresh.end(), path) == 1);
+    const bool full = stored.size() == files::kRecentFiles && once.count(path) == 0;
+    Check(fresh.size() == stored.size() + (full || once.count(path) != 0 ? 0U : 1U));
+    auto from = stored.begin();
+    for (auto entry = fresh.begin() + 1; entry != fresh.end(); ++entry) {
+        from = std::find(from, stored.end(), *entry);
+        Check(from++ != stored.end());
+    }
+}
+
+void CheckFontSize(const std::string& text) {
+    const float points = document::ParseFontSize(text);
+    if (points == 0) return;
+    Check(points >= document::kSmallestPoints && points <= document::kLargestPoints);
+    const float again = document::ParseFontSize(document::FontSizeText(points));
+    Check(again - points < 0.006F && points - again < 0.006F);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    std::string_view rest(reinterpret_cast<const char*>(data), size);
+    const std::string count = TakeLine(rest);
+    const std::string path = TakeLine(rest);
+    CheckFontSize(count);
+    std::vector<Row> rows;
+    while (!rest.empty()) {
+        const std::string key = TakeLine(rest);
+        rows.push_back({key, TakeLine(rest)});
+    }
+    std::vector<Row> sorted = rows;
+    std::stable_sort(sorted.begin(), sorted.end(),
+                     [](const Row& a, const Row& b) { return Number(a) < Number(b); });
+    settings::SortRows(rows);
+    Check(rows == sorted);
+    CheckRecent(count, path, rows);
+    return 0;
+}

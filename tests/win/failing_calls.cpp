@@ -1,0 +1,183 @@
+#include "win/failing_calls.h"
+
+#include <algorithm>
+#include <cstring>
+#include <type_traits>
+
+#include "win/windows.h"
+
+namespace {
+
+struct State {
+    static inline State* now = nullptr;
+
+    DWORD thread = ::GetCurrentThreadId();
+    int left = 0;  // calls until the one that fails
+    DWORD error = 0;
+    bool forGood = false;
+    bool newFilesRefused = false;
+    std::string failed;
+    std::vector<std::string> said;
+};
+
+bool Fails(const char* name) {
+    State* state = State::now;
+    if (!state || ::GetCurrentThreadId() != state->thread) return false;
+    --state->left;
+    if (state->left > 0 || (state->left < 0 && !state->forGood)) return false;
+    if (state->left == 0) state->failed = name;
+    ::SetLastError(state->error);
+    return true;
+}
+
+// Where this program keeps the address of a function of the system's.
+void** ImportSlot(const char* name) {
+    auto* base = reinterpret_cast<BYTE*>(::GetModuleHandleA(nullptr));
+    const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
+    const auto* nt = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
+    const DWORD table = nt->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress;
+    const auto* dll = reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(base + table);
+    for (; dll->Name != 0; ++dll) {
+        const auto* wanted = reinterpret_cast<const IMAGE_THUNK_DATA*>(base + dll->OriginalFirstThunk);
+        auto* slot = reinterpret_cast<void**>(base + dll->FirstThunk);
+        for (; wanted->u1.AddressOfData != 0; ++wanted, ++slot) {
+            if (IMAGE_SNAP_BY_ORDINAL(wanted->u1.Ordinal)) continue;
+            const auto* import =
+                reinterpret_cast<const IMAGE_IMPORT_BY_NAME*>(base + wanted->u1.AddressOfData);
+            if (std::strcmp(reinterpret_cast<const char*>(import->Name), name) == 0) return slot;
+        }
+    }
+    return nullptr;
+}
+
+template <typename Result>
+Result Refusal() {
+    if constexpr (std::is_same_v<Result, LONG>)
+        return static_cast<LONG>(State::now->error);  // the registry's
+    if constexpr (std::is_same_v<Result, HANDLE>) return INVALID_HANDLE_VALUE;
+    return Result{};
+}
+
+template <std::size_t kSize>
+struct Name {
+    consteval Name(const char (&name)[kSize]) { std::copy_n(name, kSize, text); }
+    char text[kSize] = {};
+};
+
+template <Name kName, typename Function>
+struct Hook;
+template <Name kName, typename Result, typename... Args>
+struct Hook<kName, Result(WINAPI*)(Args...)> {
+    static inline Result(WINAPI* real)(Args...) = nullptr;
+
+    static Result WINAPI call(Args... args) { return Fails(kName.text) ? Refusal<Result>() : real(args...); }
+    static void put(Result(WINAPI* function)(Args...) = call) {
+        void** slot = ImportSlot(kName.text);
+        if (!real) std::memcpy(&real, slot, sizeof real);
+        std::memcpy(slot, &function, sizeof function);
+    }
+    static void restore() { put(real); }
+};
+
+#define HOOK(function) Hook<#function, decltype(&::function)>
+using Create = HOOK(CreateFileW);
+using Write = HOOK(WriteFile);
+using Close = HOOK(CloseHandle);
+using Box = HOOK(MessageBoxA);
+
+template <typename... Hooks>
+struct All {
+    static void put() { (Hooks::put(), ...); }
+    static void restore() { (Hooks::restore(), ...); }
+};
+using Plain = All<HOOK(RegCreateKeyExA), HOOK(RegSetValueExA), HOOK(RegDeleteValueA), HOOK(RegDeleteKeyA),
+                  HOOK(SetEndOfFile), HOOK(FlushFileBuffers), HOOK(MoveFileExW), HOOK(DeleteFileW),
+                  HOOK(SetFileAttributesW), HOOK(CreateDirectoryW), HOOK(GetTempFileNameA)>;
+#undef HOOK
+
+HANDLE WINAPI CreateOrRefuse(LPCWSTR path, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security,
+                             DWORD disposition, DWORD flags, HANDLE like) {
+    if (State::now && State::now->newFilesRefused && disposition == CREATE_ALWAYS) {
+        ::SetLastError(ERROR_ACCESS_DENIED);
+        return INVALID_HANDLE_VALUE;
+    }
+    if ((access & GENERIC_WRITE) != 0 && Fails("CreateFileW")) return INVALID_HANDLE_VALUE;
+    return Create::real(path, access, share, security, disposition, flags, like);
+}
+
+BOOL WINAPI WriteOrHalf(HANDLE file, LPCVOID bytes, DWORD size, LPDWORD written, LPOVERLAPPED where) {
+    if (!Fails("WriteFile")) return Write::real(file, bytes, size, written, where);
+    Write::real(file, bytes, size / 2, written, where);
+    ::SetLastError(State::now->error);
+    return FALSE;
+}
+
+BOOL WINAPI CloseAnyway(HANDLE handle) {
+    const BOOL closed = Close::real(handle);
+    return Fails("CloseHandle") ? FALSE : closed;
+}
+
+int WINAPI Answer(HWND owner, LPCSTR text, LPCSTR title, UINT style) {
+    State* state = State::now;
+    if (!state || ::GetCurrentThreadId() != state->thread) return Box::real(owner, text, title, style);
+    state->said.emplace_back(text);
+    return (style & MB_YESNO) == MB_YESNO ? IDYES : IDOK;
+}
+
+class Hooked {
+ public:
+    explicit Hooked(State& state) {
+        Plain::put();
+        Create::put(CreateOrRefuse);
+        Write::put(WriteOrHalf);
+        Close::put(CloseAnyway);
+        Box::put(Answer);
+        State::now = &state;
+    }
+    ~Hooked() {
+        State::now = nullptr;
+        Plain::restore();
+        All<Create, Write, Close, Box>::restore();
+    }
+    Hooked(const Hooked&) = delete;
+    Hooked& operator=(const Hooked&) = delete;
+};
+
+// Whether there was a call to fail.
+bool FailOne(const FaultyWork& test, State& now) {
+    const std::string what = "call " + std::to_string(now.left) + (now.forGood ? " and all after it" : "") +
+                             ", error " + std::to_string(now.error);
+    test.prepare();
+    {
+        const Hooked hooked(now);
+        test.work();
+    }
+    test.check({what + " " + now.failed, now.said});
+    return !now.failed.empty();
+}
+
+}  // namespace
+
+int FailEachCall(const FaultyWork& test) {
+    int faults = 0;
+    for (const DWORD error : test.errors) {
+        for (const bool forGood : {false, true}) {
+            for (int n = 1; n < 500; ++n, ++faults) {
+                State now;
+                now.left = n;
+                now.error = error;
+                now.forGood = forGood;
+                now.newFilesRefused = test.newFilesRefused;
+                if (!FailOne(test, now)) break;
+            }
+        }
+    }
+    return faults;
+}
+
+std::vector<std::string> SaidBy(const std::function<void()>& work) {
+    State now;
+    const Hooked hooked(now);
+    work();
+    return now.said;
+}

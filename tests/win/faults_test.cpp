@@ -1,0 +1,141 @@
+// What the settings and the templates' folder hold while the system refuses one call or all.
+#include <algorithm>
+#include <cstdio>
+
+#include "authoring/mTemplateLoad.h"
+#include "authoring/template_store.h"
+#include "files/modPubFuncs.h"
+#include "ftp/site_store.h"
+#include "settings/app_settings.h"
+#include "win/app_test.h"
+#include "win/failing_calls.h"
+
+namespace {
+
+constexpr int kSites = 5;
+
+class FaultsTest : public AppTest {
+ protected:
+    void TearDown() override {
+        AppTest::TearDown();
+        for (int i = 0; i < 10; ++i) authoring::SetFileReadOnly(authoring::TemplatePath(nameOf(i)), false);
+        DeleteTree(authoring::TemplateFolder());
+    }
+    static std::string nameOf(int i) { return "t" + std::to_string(i) + ".htm"; }
+
+    static ftp::Site site(int i) {
+        const std::string url = "s" + std::to_string(i);
+        return {0, url, "name of " + url, "pass of " + url};
+    }
+    // How many sites are gone, but for one that was to go, or stand beside another's login.
+    static int lostSites(const std::string& gone) {
+        std::vector<std::string> urls;
+        int lost = 0;
+        for (const ftp::Site& site : ftp::ReadSites(ftp::ReadSections())) {
+            lost += site.name != "name of " + site.url || site.storedPassword != "pass of " + site.url;
+            urls.push_back(site.url);
+        }
+        for (int i = 0; i < kSites; ++i) {
+            const std::string& url = site(i).url;
+            lost += url != gone && std::find(urls.begin(), urls.end(), url) == urls.end();
+        }
+        return lost;
+    }
+
+    // A full list, each with a file that says its name.
+    static authoring::TemplateList templates() {
+        authoring::TemplateList list;
+        for (int i = 0; i < 9; ++i) list[static_cast<std::size_t>(i)] = {nameOf(i), "ID of " + nameOf(i)};
+        return list;
+    }
+    static void prepareTemplates() {
+        ::CreateDirectoryA(authoring::TemplateFolder().c_str(), nullptr);
+        authoring::SetFileReadOnly(authoring::TemplatePath(nameOf(9)), false);
+        ::DeleteFileA(authoring::TemplatePath(nameOf(9)).c_str());
+        for (int i = 0; i < 9; ++i) {
+            const std::string path = authoring::TemplatePath(nameOf(i));
+            if (!modPubFuncs::FileExists(path)) writeFile(path, nameOf(i) + "\r\n");
+        }
+        authoring::WriteTemplates(templates(), authoring::Moved::up);
+    }
+    // How many are gone from the list that the next start makes, but for one that was to go, have another's
+    // name, or have another page.
+    static int lostTemplates(int gone) {
+        const authoring::TemplateList list = authoring::RebuiltTemplates(
+            authoring::ReadTemplates(),
+            [](const std::string& name) { return modPubFuncs::FileExists(authoring::TemplatePath(name)); });
+        int lost = 0;
+        for (const authoring::Template& slot : list)
+            lost += !slot.name.empty() && slot.id != "ID of " + slot.name;
+        for (int i = 0; i < 9; ++i) {
+            const auto wanted = templates()[static_cast<std::size_t>(i)];
+            lost += i != gone && std::find(list.begin(), list.end(), wanted) == list.end();
+            lost += i != gone && readFile(authoring::TemplatePath(nameOf(i))) != nameOf(i) + "\r\n";
+        }
+        return lost;
+    }
+
+    // Fills the dialog in once it is there. One that stays after a refusal is cancelled.
+    static void CALLBACK enterTemplate(HWND, UINT, UINT_PTR timer, DWORD) {
+        const HWND dialog = seen::Dialog(::GetCurrentProcessId(), "Add a Template");
+        if (!dialog) return;
+        ::KillTimer(nullptr, timer);
+        const HWND name = seen::ChildOfClass(dialog, "Edit");
+        ::SetWindowTextA(name, nameOf(9).c_str());
+        ::SetWindowTextA(::GetNextDlgTabItem(dialog, name, FALSE), ("ID of " + nameOf(9)).c_str());
+        ::SendMessageA(seen::Child(dialog, "Enter", "Button"), BM_CLICK, 0, 0);
+        ::PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+    }
+
+    static void expectNothingLost(const char* what, const std::function<void()>& prepare,
+                                  const std::function<void()>& work, const std::function<int()>& lost) {
+        int sum = 0;
+        const auto check = [&](const Fault& fault) {
+            const int count = lost();
+            EXPECT_EQ(count, 0) << what << ": " << fault.what;
+            sum += count > 0;
+        };
+        const int faults = FailEachCall({prepare, work, check, false, {ERROR_ACCESS_DENIED}});
+        std::printf("%d faults of %s, %d with a loss\n", faults, what, sum);
+        EXPECT_GT(faults, 20) << what;
+    }
+};
+
+TEST_F(FaultsTest, NoChangeOfTheSiteListLosesASite) {
+    const auto prepare = [] {
+        for (int i = 0; i < kSites; ++i) {
+            settings::Save("FTP Sites", std::to_string(i), site(i).url);
+            settings::Save("FTP Names", std::to_string(i), site(i).name);
+            settings::Save("FTP Passes", std::to_string(i), site(i).storedPassword);
+        }
+        settings::DeleteKey("FTP Sites", std::to_string(kSites));
+        settings::Save("FTP Names", "99", "3");
+    };
+    expectNothingLost(
+        "adding a site", prepare, [] { ftp::Apply(ftp::AddSite(ftp::ReadSections(), site(kSites)).changes); },
+        [] { return lostSites(""); });
+    expectNothingLost(
+        "removing a site", prepare, [] { ftp::Apply(ftp::RemoveSite(ftp::ReadSections(), 1)); },
+        [] { return lostSites("s1"); });
+}
+
+TEST_F(FaultsTest, AddingATemplateLosesNone) {
+    newPage(nameOf(9));
+    const auto add = [this] {
+        ::SetTimer(nullptr, 0, 1, enterTemplate);
+        run(mnuOptsTempAdd);
+    };
+    expectNothingLost("adding a template", prepareTemplates, add, [] { return lostTemplates(8); });
+}
+
+TEST_F(FaultsTest, RebuildingTheMenuLosesNoTemplate) {
+    const auto prepare = [] {
+        prepareTemplates();
+        ::DeleteFileA(authoring::TemplatePath(nameOf(4)).c_str());
+    };
+    expectNothingLost(
+        "a rebuilt menu", prepare, [this] { mTemplateLoad::RebuildTemplateMenu(main()); },
+        [] { return lostTemplates(4); });
+}
+
+}  // namespace
