@@ -18,7 +18,7 @@ add_executable(Quillon WIN32 src/main.cpp)
 target_link_libraries(Quillon PRIVATE quillon_app quillon_resources)
 if(MINGW)
     # Linking all at once drops the lines of the sources unless it is told to keep them.
-    target_link_options(Quillon PRIVATE -g)
+    target_link_options(Quillon PRIVATE -g -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.)
 endif()
 if(MINGW AND CMAKE_SIZEOF_VOID_P EQUAL 4)
     target_sources(Quillon PRIVATE src/lean_runtime.cpp)
