@@ -16,7 +16,7 @@ if(WIN32)
     target_compile_definitions(quillon_flags INTERFACE
         _WIN32_WINNT=0x0501 WINVER=0x0501 _WIN32_IE=0x0600 WIN32_LEAN_AND_MEAN NOMINMAX STRICT)
     if(NOT MSVC)
-        target_compile_options(quillon_flags INTERFACE -ffunction-sections -fdata-sections -fno-rtti)
+        target_compile_options(quillon_flags INTERFACE -ffunction-sections -fdata-sections -fno-rtti -g)
         if(CMAKE_SIZEOF_VOID_P EQUAL 4)
             # Windows promises 4 bytes, and no code of ours needs more.
             target_compile_options(quillon_flags INTERFACE -mpreferred-stack-boundary=2)

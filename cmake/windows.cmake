@@ -16,6 +16,10 @@ set_source_files_properties(res/quillon.rc PROPERTIES OBJECT_DEPENDS "${resource
 
 add_executable(Quillon WIN32 src/main.cpp)
 target_link_libraries(Quillon PRIVATE quillon_app quillon_resources)
+if(MINGW)
+    # Linking all at once drops the lines of the sources unless it is told to keep them.
+    target_link_options(Quillon PRIVATE -g -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.)
+endif()
 if(MINGW AND CMAKE_SIZEOF_VOID_P EQUAL 4)
     target_sources(Quillon PRIVATE src/lean_runtime.cpp)
     # The program starts no thread: with the runtime of the compiler's other variant it need not carry a library of
@@ -24,7 +28,5 @@ if(MINGW AND CMAKE_SIZEOF_VOID_P EQUAL 4)
         OUTPUT_VARIABLE lean_runtime OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
     cmake_path(GET lean_runtime PARENT_PATH lean_runtime)
     target_link_directories(Quillon BEFORE PRIVATE ${lean_runtime})
-endif()
-if(MINGW AND CMAKE_SIZEOF_VOID_P EQUAL 4)
     target_sources(Quillon PRIVATE cmake/mingw_tick_count.cpp)
 endif()
