@@ -144,12 +144,14 @@ TEST_F(FtpFaultsTest, OverlongNamesDoNoHarm) {
 
 TEST_F(FtpFaultsTest, WhileASilentServerIsWaitedForTheWindowsAnswerAndCanBeClosed) {
     HWND closing = nullptr;
-    for (const char* command : {"PASS", "LIST", "CWD"}) {
-        User user({closeDuring(command, "Quillon FTP", closing), User::press("NOT CONNECTED", IDOK)});
-        openScripted(std::string("silent-") + command);
-        EXPECT_EQ(user.heard().back(), "Cannot connect to FTP site...") << command;
-        EXPECT_EQ(ftpWindow(), nullptr) << command;
+    const std::pair<const char*, const char*> behaviours[] = {
+        {"silent-PASS", "PASS"}, {"silent-LIST", "LIST"}, {"list-endless", "LIST"}, {"silent-CWD", "CWD"}};
+    for (const auto& [behaviour, command] : behaviours) {
         ::DeleteFileA(std::getenv("QUILLON_FTP_LOG"));
+        User user({closeDuring(command, "Quillon FTP", closing), User::press("NOT CONNECTED", IDOK)});
+        openScripted(behaviour);
+        EXPECT_EQ(user.heard().back(), "Cannot connect to FTP site...") << behaviour;
+        EXPECT_EQ(ftpWindow(), nullptr) << behaviour;
     }
     newPage("");
     writeFile(scratch("page.htm"), "page");
