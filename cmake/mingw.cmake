@@ -1,4 +1,4 @@
-# The posix variant, because GoogleTest needs std::mutex; the program itself starts no thread.
+# The posix variant, because GoogleTest needs std::mutex; the program itself does not.
 set(CMAKE_C_COMPILER ${QUILLON_MINGW}-gcc-posix)
 set(CMAKE_CXX_COMPILER ${QUILLON_MINGW}-g++-posix)
 set(CMAKE_RC_COMPILER ${QUILLON_MINGW}-windres)

@@ -22,8 +22,8 @@ if(MINGW)
 endif()
 if(MINGW AND CMAKE_SIZEOF_VOID_P EQUAL 4)
     target_sources(Quillon PRIVATE src/lean_runtime.cpp)
-    # The program starts no thread: with the runtime of the compiler's other variant it need not carry a library of
-    # POSIX threads, 25 KB.
+    # The program uses no thread of the language's: with the runtime of the compiler's other variant it need not carry
+    # a library of POSIX threads, 25 KB.
     execute_process(COMMAND ${QUILLON_MINGW}-g++-win32 -print-file-name=libstdc++.a
         OUTPUT_VARIABLE lean_runtime OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
     cmake_path(GET lean_runtime PARENT_PATH lean_runtime)

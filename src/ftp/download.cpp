@@ -21,7 +21,7 @@ bool Download(FtpSession& session, const std::string& remote, const std::string&
     const std::string arriving = NewFileBeside(path);
     if (arriving.empty()) return false;
     const std::wstring from = win::WidePath(arriving);
-    const bool done = session.get(remote, arriving, type) &&
+    const bool done = session.tell(RemoteCommand::get, remote, arriving, type) &&
                       ::MoveFileExW(from.c_str(), win::WidePath(path).c_str(),
                                     MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
     if (!done) ::DeleteFileW(from.c_str());

@@ -3,7 +3,14 @@
 HWND frmConnect::open(HWND owner) {
     auto* form = new frmConnect;
     form->showModeless(owner);
-    // Connecting lets no message through, so the window is painted now or never.
     ::UpdateWindow(form->hwnd());
     return form->hwnd();
+}
+
+bool frmConnect::onCommand(WORD id, WORD notification) {
+    const Dialog* waiting = find(::GetWindow(hwnd(), GW_OWNER), "frmUpload");
+    if (id != IDCANCEL || !waiting) return false;
+    // It knows what to do with this window.
+    ::SendMessageA(waiting->hwnd(), WM_COMMAND, MAKEWPARAM(id, notification), 0);
+    return true;
 }

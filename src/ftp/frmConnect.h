@@ -1,4 +1,4 @@
-// The small window that is there while a session is being opened.
+// The small window that is there while a session is being opened. Closing it ends the attempt.
 #pragma once
 
 #include "win/dialog.h"
@@ -10,4 +10,6 @@ class frmConnect : public win::Dialog {
 
  private:
     frmConnect() : Dialog("frmConnect") {}
+
+    bool onCommand(WORD id, WORD notification) override;
 };

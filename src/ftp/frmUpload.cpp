@@ -21,6 +21,10 @@ namespace {
 
 constexpr UINT kLoad = WM_APP;
 constexpr UINT kUpload = WM_APP + 1;  // what was dropped before
+// How long, in milliseconds, a closed window lets the server finish what it is at: long enough for a page.
+constexpr DWORD kPatience = 1000;
+
+constexpr char kNoConnection[] = "Cannot connect to FTP site...";
 
 constexpr int kSessionControls[] = {lstRemoteFiles, cmdUp,  cmdRefresh, cmdMakeDir,
                                     cmdShut,        upType, upType + 1, upType + 2};
@@ -57,10 +61,10 @@ frmUpload::Busy::~Busy() {
 
 void frmUpload::open(MainWindow& main, int siteIndex, ftp::SessionMaker makeSession) {
     auto* shown = static_cast<frmUpload*>(find(main.mainHwnd(), "frmUpload"));
-    if (shown && shown->comeForward(siteIndex)) return;
+    if (shown ? shown->comeForward(siteIndex) : find(main.mainHwnd(), "frmConnect") != nullptr) return;
     const HWND connecting = frmConnect::open(main.mainHwnd());
     win::RunPending();
-    if (!main.mainHwnd()) return;
+    if (!::IsWindow(connecting)) return;
     auto* form = new frmUpload(main, siteIndex, connecting, makeSession);
     form->createModeless(main.mainHwnd());
     // As a message, because the object lasts as long as one of its handlers runs.
@@ -99,7 +103,11 @@ void frmUpload::showPictures() {
 
 void frmUpload::onClosing() {
     unloadConnect();
-    session_->close();
+    if (busy_ > 0) {
+        session_->giveUp(kPatience);
+    } else {
+        session_->close();
+    }
     modWndPos::DropTopmost(hwnd());
     ::SetFocus(main_.mainHwnd());
 }
@@ -165,7 +173,7 @@ void frmUpload::cmdPassword_Click() {
 
 void frmUpload::Connect() {
     const Busy busy(*this);
-    if (!session_->dial()) {
+    if (!session_->dial() && isThere()) {
         unloadConnect();
         ::ShowWindow(hwnd(), SW_HIDE);
         say("Could not connect to the internet through AutoDial.\r\n"
@@ -177,35 +185,47 @@ void frmUpload::Connect() {
 }
 
 bool frmUpload::openSession() {
-    const char* failure = nullptr;
     if (!session_->open()) {
-        failure = "Cannot obtain internet handle...";
+        endAttempt("Cannot obtain internet handle...");
     } else if (!session_->connect(ftp::SplitSiteUrl(site_).host, user_, password_)) {
-        failure = "Cannot connect to FTP site...";
+        endAttempt(kNoConnection);
     }
-    if (!failure) return true;
+    return session_->isConnected();
+}
+
+void frmUpload::endAttempt(const char* failure) {
     unloadConnect();
+    if (!isThere()) return;
     session_->close();
     say(failure, "NOT CONNECTED");
     if (hwnd()) close();
-    return false;
 }
 
 void frmUpload::startInSiteDirectory() {
     const std::string path = ftp::SplitSiteUrl(site_).path;
-    if (!path.empty() && !session_->changeDirectory(path)) {
-        say("Cannot access Directory!", "Quillon Note:");
-        if (!isThere()) return;
-    }
+    const bool refused = !path.empty() && !changeDirectory(path);
+    if (refused && isThere() && session_->isConnected()) say("Cannot access Directory!", "Quillon Note:");
+    if (!isThere()) return;
     root_ = session_->currentDirectory().value_or("/");
+    if (!isThere()) return;
     current_ = root_;
     ListRemote();
     if (!isThere()) return;
+    if (!session_->isConnected()) {
+        endAttempt(kNoConnection);
+        return;
+    }
     unloadConnect();
     ftp::SaveLastSite(main_, siteIndex_, site_);
     if (::IsWindowVisible(hwnd())) return;
     place();
     ::ShowWindow(hwnd(), SW_SHOW);
+}
+
+void frmUpload::giveUp() {
+    closeWanted_ = !connecting_;
+    session_->giveUp(connecting_ ? 0 : kPatience);
+    unloadConnect();
 }
 
 void frmUpload::CloseSession() {
@@ -218,16 +238,28 @@ void frmUpload::CloseSession() {
     focusItem(txtPassword);
 }
 
+bool frmUpload::change(const char* status, ftp::RemoteCommand command, const std::string& first,
+                       const std::string& second) {
+    const Busy busy(*this, status);
+    const bool granted = isThere() && session_->tell(command, first, second);
+    if (granted) ListRemote();
+    return granted;
+}
+
 void frmUpload::ListRemote() {
     const Busy busy(*this, "Listing Files...");
     if (!isThere()) return;
     const std::string selected = lstRemoteFiles_.selected();
-    const std::string before = std::exchange(current_, session_->currentDirectory().value_or(current_));
+    const std::string before = current_;
+    const std::optional<std::string> now = session_->currentDirectory();
+    if (!isThere()) return;
+    current_ = now.value_or(before);
     lstRemoteFiles_.clear();
     ftp::RemoteListing listing;
     auto entry = session_->findFirst("*");
     while (entry && listing.add(entry->name, entry->attributes)) entry = session_->findNext();
     session_->endFind();
+    if (!isThere()) return;
     listLines(listing.lines());
     if (isThere() && current_ == before) lstRemoteFiles_.select(selected);
 }
@@ -237,6 +269,7 @@ void frmUpload::listLines(const std::vector<std::string>& lines) {
     bool probing = true;
     for (const std::string& line : lines) {
         const bool directory = probing && !ftp::IsDirectoryLine(line) && IsRemoteDirectory(line);
+        if (!isThere()) return;
         probing = probing && session_->answered();
         lstRemoteFiles_.add(directory ? line + "/" : line);
         win::RunPending();
@@ -245,24 +278,15 @@ void frmUpload::listLines(const std::vector<std::string>& lines) {
 }
 
 bool frmUpload::IsRemoteDirectory(const std::string& name) {
-    return session_->changeDirectory(ftp::JoinRemote(current_, name)) && session_->changeDirectory(current_);
+    return changeDirectory(ftp::JoinRemote(current_, name)) && changeDirectory(current_);
 }
 
-void frmUpload::enterDirectory() {
-    const std::string line = lstRemoteFiles_.selected();
-    if (line.empty() || !ftp::OpensOnDoubleClick(line)) return;
-    const std::string name(ftp::NameOfLine(line));
-    const bool entered = change("PROCESSING REQUEST...",
-                                [&](ftp::FtpSession& session) { return session.changeDirectory(name); });
-    if (isThere() && !entered) say("Cannot access Directory!", "Quillon Note:");
+bool frmUpload::changeDirectory(const std::string& directory) {
+    return session_->tell(ftp::RemoteCommand::changeDirectory, directory);
 }
 
-void frmUpload::cmdUpDir_Click() {
-    const std::optional<std::string> above = ftp::DirectoryAbove(current_, root_);
-    if (!above) return;
-    const bool moved = change("PROCESSING REQUEST...",
-                              [&](ftp::FtpSession& session) { return session.changeDirectory(*above); });
-    if (isThere() && !moved) say("Cannot find it!", "Quillon Note:");
+std::optional<std::string> frmUpload::directoryAbove() const {
+    return ftp::DirectoryAbove(current_, root_);
 }
 
 void frmUpload::showMenu(POINT at) {
@@ -277,7 +301,7 @@ ftp::TransferType frmUpload::transferType(const std::string& name) const {
     return ftp::ChooseTransferType(mode, name);
 }
 
-int frmUpload::say(const std::string& text, const std::string& title, UINT style) const {
+int frmUpload::say(const std::string& text, const char* title, UINT style) const {
     const HWND owner = ::IsWindowVisible(hwnd()) ? hwnd() : main_.mainHwnd();
     return win::ShowMessage(owner, text, title, style);
 }
@@ -296,7 +320,7 @@ void frmUpload::enableControls() const {
     const bool connected = session_->isConnected();
     for (const int id : kSessionControls) enableItem(id, idle && connected);
     for (const int id : kLoginControls) enableItem(id, idle && !connected);
-    enableItem(cmdUpDir, idle && connected && ftp::DirectoryAbove(current_, root_));
+    enableItem(cmdUpDir, idle && connected && directoryAbove());
 }
 
 void frmUpload::finishWork(HWND focus) {
@@ -331,7 +355,7 @@ bool frmUpload::comeForward(int siteIndex) {
         close();
         return false;
     }
-    ::SetForegroundWindow(::GetLastActivePopup(hwnd()));
+    ::SetForegroundWindow(connecting_ ? connecting_ : ::GetLastActivePopup(hwnd()));
     return true;
 }
 
@@ -345,7 +369,7 @@ bool frmUpload::runCommand(WORD id) {
             ListRemote();
             return true;
         case cmdUpDir:
-            cmdUpDir_Click();
+            ftp::MoveUp(*this);
             return true;
         case cmdMakeDir:
             ftp::MakeDirectory(*this);
@@ -389,16 +413,18 @@ bool frmUpload::onCommand(WORD id, WORD notification) {
         return true;
     }
     if (busy_ > 0) {
-        if (id == IDCANCEL) closeWanted_ = true;
+        if (id == IDCANCEL) giveUp();
         return true;
     }
     if (id == lstRemoteFiles) {
-        if (notification == LBN_DBLCLK) enterDirectory();
+        if (notification == LBN_DBLCLK) ftp::EnterDirectory(*this, lstRemoteFiles_.selected());
         return true;
     }
     // The Enter key: there is no default button, what it means depends on where the focus is.
     if (id == IDOK) {
-        if (::GetFocus() == item(lstRemoteFiles)) enterDirectory();
+        if (::GetFocus() == item(lstRemoteFiles)) {
+            ftp::EnterDirectory(*this, lstRemoteFiles_.selected());
+        }
         if (::GetFocus() == item(txtPassword)) cmdPassword_Click();
         return true;
     }

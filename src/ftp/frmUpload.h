@@ -3,6 +3,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,32 +30,26 @@ class frmUpload : public win::Dialog {
     MainWindow& main() const { return main_; }
     // False once the window is going. To be asked after all that lets messages through: a message box, work.
     bool isThere() const { return hwnd() && !closeWanted_; }
-    int say(const std::string& text, const std::string& title = "Quillon", UINT style = MB_OK) const;
+    int say(const std::string& text, const char* title = "Quillon", UINT style = MB_OK) const;
     // Shows the status while `request` works with the session; unless the window goes before that.
     template <typename Request>
     void work(const char* status, Request request) {
         const Busy busy(*this, status);
         if (isThere()) request(*session_);
     }
-    // The same for what changes the directory: lists it anew and gives true when the request was granted.
-    template <typename Request>
-    bool change(const char* status, Request request) {
-        bool granted = false;
-        work(status, [&](ftp::FtpSession& session) {
-            granted = request(session);
-            if (granted) ListRemote();
-        });
-        return granted;
-    }
+    // Tells the server what changes the directory: lists it anew and gives true when that was granted.
+    bool change(const char* status, ftp::RemoteCommand command, const std::string& first,
+                const std::string& second = {});
     void ListRemote();
     const std::string& currentDirectory() const { return current_; }
+    std::optional<std::string> directoryAbove() const;  // nothing where the session started
     ftp::TransferType transferType(const std::string& name) const;
     void select(const std::string& line) { lstRemoteFiles_.select(line); }
     void showResult(const std::string& text) const;  // in txtCurDir
 
  private:
-    // The window while it works: nothing in it can be clicked, the pointer shows it, and closing waits for
-    // the end.
+    // The window while it works: nothing in it can be clicked, the pointer shows it, and closing waits a
+    // moment for the end. The other windows go on: all that a call of the session's lets through can happen.
     class Busy {
      public:
         explicit Busy(frmUpload& form, const char* status = nullptr);
@@ -85,15 +80,17 @@ class frmUpload : public win::Dialog {
     void cmdPassword_Click();
     void Connect();
     bool openSession();
+    void endAttempt(const char* failure);
     void startInSiteDirectory();
+    // The user has closed this window, or the connecting one, while the session works.
+    void giveUp();
     void CloseSession();
     // Whether this window is the one to stay for a site.
     bool comeForward(int siteIndex);
 
     void listLines(const std::vector<std::string>& lines);
     bool IsRemoteDirectory(const std::string& name);
-    void enterDirectory();
-    void cmdUpDir_Click();
+    bool changeDirectory(const std::string& directory);
     void showMenu(POINT at);
 
     void showIdle();

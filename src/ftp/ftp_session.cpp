@@ -5,8 +5,10 @@
 
 #include <wininet.h>
 
+#include "ftp/core/scramble.h"
 #include "win/late.h"
 #include "win/unique.h"
+#include "win/worker.h"
 
 namespace ftp {
 namespace {
@@ -35,16 +37,102 @@ void CloseInternet(HINTERNET handle) {
 
 using UniqueInternet = win::Unique<HINTERNET, CloseInternet>;
 
-RemoteEntry Entry(const WIN32_FIND_DATAA& found) {
-    return {found.cFileName, found.dwFileAttributes, found.nFileSizeLow};
+// The calls that are no RemoteCommand.
+enum class Call { command, dial, connect, currentDirectory, findFirst, findNext };
+
+// One call with what it takes and gives. What comes of it when nobody waits any more is not kept: a
+// connection is closed, a file that has arrived is deleted.
+class Request final : public win::Task {
+ public:
+    Request(Call call, HINTERNET handle, const char* first, const char* second = "",
+            RemoteCommand command = {}, DWORD number = 0)
+        : call_(call), command_(command), handle_(handle), first_(first), second_(second), number_(number) {}
+
+    std::string password;
+    bool wanted = true;
+
+    BOOL done = FALSE;
+    UniqueInternet opened;
+    std::array<char, 4096> directory{};
+    WIN32_FIND_DATAA found{};
+
+ private:
+    ~Request() override {
+        Wipe(password);
+        if (command_ == RemoteCommand::get && !wanted) ::DeleteFileA(second_.c_str());
+    }
+    void run() override;
+    BOOL runCommand();
+
+    const Call call_;
+    const RemoteCommand command_;
+    const HINTERNET handle_;
+    const std::string first_;
+    const std::string second_;
+    DWORD number_;
+};
+
+void Request::run() {
+    switch (call_) {
+        case Call::command:
+            done = runCommand();
+            return;
+        case Call::dial:
+            done = kInternetAutodial(INTERNET_AUTODIAL_FORCE_UNATTENDED, nullptr);
+            return;
+        case Call::connect:
+            opened.reset(kInternetConnect(handle_, first_.c_str(), static_cast<INTERNET_PORT>(number_),
+                                          second_.c_str(), password.c_str(), INTERNET_SERVICE_FTP, 0, 0));
+            break;
+        case Call::currentDirectory:
+            number_ = static_cast<DWORD>(directory.size());
+            done = kFtpGetCurrentDirectory(handle_, directory.data(), &number_);
+            return;
+        case Call::findFirst:
+            opened.reset(kFtpFindFirstFile(handle_, first_.c_str(), &found, 0, 0));
+            break;
+        case Call::findNext:
+            done = kInternetFindNextFile(handle_, &found);
+            return;
+    }
+    done = static_cast<bool>(opened);
 }
+
+BOOL Request::runCommand() {
+    const char* first = first_.c_str();
+    const char* second = second_.c_str();
+    switch (command_) {
+        case RemoteCommand::changeDirectory:
+            return kFtpSetCurrentDirectory(handle_, first);
+        case RemoteCommand::createDirectory:
+            return kFtpCreateDirectory(handle_, first);
+        case RemoteCommand::removeDirectory:
+            return kFtpRemoveDirectory(handle_, first);
+        case RemoteCommand::removeFile:
+            return kFtpDeleteFile(handle_, first);
+        case RemoteCommand::rename:
+            return kFtpRenameFile(handle_, first, second);
+        case RemoteCommand::get:
+            return kFtpGetFile(handle_, first, second, FALSE, 0, number_, 0);
+        case RemoteCommand::put:
+            return kFtpPutFile(handle_, first, second, number_, 0);
+    }
+    return FALSE;
+}
+
+void Release(Request* request) {
+    request->release();
+}
+
+using UniqueRequest = win::Unique<Request*, Release>;
 
 class WinInetSession final : public FtpSession {
  public:
     explicit WinInetSession(INTERNET_PORT port) : port_(port) {}
     ~WinInetSession() override { close(); }
 
-    bool dial() override { return kInternetAutodial(INTERNET_AUTODIAL_FORCE_UNATTENDED, nullptr) != FALSE; }
+    // To the user who does not want to wait there is nothing to tell.
+    bool dial() override { return ask(Call::dial, nullptr) || worker_.isGivenUp(); }
 
     bool open() override {
         internet_.reset(kInternetOpen("Quillon", INTERNET_OPEN_TYPE_DIRECT, nullptr, nullptr, 0));
@@ -52,12 +140,16 @@ class WinInetSession final : public FtpSession {
     }
 
     bool connect(const std::string& host, const std::string& user, const std::string& password) override {
-        server_.reset(kInternetConnect(internet_.get(), host.c_str(), port_, user.c_str(), password.c_str(),
-                                       INTERNET_SERVICE_FTP, 0, 0));
+        const UniqueRequest request(
+            new Request(Call::connect, internet_.get(), host.c_str(), user.c_str(), {}, port_));
+        request.get()->password = password;
+        if (await(*request.get())) server_ = std::move(request.get()->opened);
         return isConnected();
     }
 
-    bool isConnected() const override { return static_cast<bool>(server_); }
+    bool isConnected() const override { return server_ && !worker_.isGivenUp(); }
+
+    void giveUp(DWORD patience) override { worker_.giveUp(patience); }
 
     void close() override {
         find_.reset();
@@ -68,70 +160,63 @@ class WinInetSession final : public FtpSession {
     bool answered() const override { return answered_; }
 
     std::optional<std::string> currentDirectory() override {
-        std::array<char, 4096> directory{};
-        auto size = static_cast<DWORD>(directory.size());
-        if (!note(kFtpGetCurrentDirectory(server(), directory.data(), &size))) return std::nullopt;
-        return directory.data();
-    }
-
-    bool changeDirectory(const std::string& directory) override {
-        return note(kFtpSetCurrentDirectory(server(), directory.c_str()));
+        const UniqueRequest request = ask(Call::currentDirectory, server());
+        if (!request) return std::nullopt;
+        return request.get()->directory.data();
     }
 
     std::optional<RemoteEntry> findFirst(const std::string& pattern) override {
-        WIN32_FIND_DATAA found{};
-        UniqueInternet find(kFtpFindFirstFile(server(), pattern.c_str(), &found, 0, 0));
-        if (!note(static_cast<bool>(find))) return std::nullopt;
-        find_ = std::move(find);
-        return Entry(found);
+        const UniqueRequest request = ask(Call::findFirst, server(), pattern.c_str());
+        if (request) find_ = std::move(request.get()->opened);
+        return Entry(request);
     }
 
-    std::optional<RemoteEntry> findNext() override {
-        WIN32_FIND_DATAA found{};
-        if (!note(kInternetFindNextFile(find_.get(), &found))) return std::nullopt;
-        return Entry(found);
-    }
+    std::optional<RemoteEntry> findNext() override { return Entry(ask(Call::findNext, find_.get())); }
 
     void endFind() override { find_.reset(); }
 
-    bool get(const std::string& remote, const std::string& localPath, TransferType type) override {
-        return note(
-            kFtpGetFile(server(), remote.c_str(), localPath.c_str(), FALSE, 0, static_cast<DWORD>(type), 0));
-    }
-
-    bool put(const std::string& localPath, const std::string& remote, TransferType type) override {
-        return note(kFtpPutFile(server(), localPath.c_str(), remote.c_str(), static_cast<DWORD>(type), 0));
-    }
-
-    bool createDirectory(const std::string& directory) override {
-        return note(kFtpCreateDirectory(server(), directory.c_str()));
-    }
-
-    bool removeDirectory(const std::string& directory) override {
-        return note(kFtpRemoveDirectory(server(), directory.c_str()));
-    }
-
-    bool removeFile(const std::string& name) override { return note(kFtpDeleteFile(server(), name.c_str())); }
-
-    bool rename(const std::string& from, const std::string& to) override {
-        return note(kFtpRenameFile(server(), from.c_str(), to.c_str()));
+    bool tell(RemoteCommand command, const std::string& first, const std::string& second,
+              TransferType type) override {
+        const UniqueRequest request(new Request(Call::command, server(), first.c_str(), second.c_str(),
+                                                command, static_cast<DWORD>(type)));
+        return await(*request.get());
     }
 
  private:
+    static std::optional<RemoteEntry> Entry(const UniqueRequest& request) {
+        if (!request) return std::nullopt;
+        const WIN32_FIND_DATAA& found = request.get()->found;
+        return RemoteEntry{found.cFileName, found.dwFileAttributes, found.nFileSizeLow};
+    }
+
     // Windows refuses a command while a listing is open.
     HINTERNET server() {
         find_.reset();
         return server_.get();
     }
 
-    bool note(bool done) {
-        const DWORD error = done ? ERROR_SUCCESS : ::GetLastError();
-        answered_ = done || error == ERROR_INTERNET_EXTENDED_ERROR || error == ERROR_FILE_NOT_FOUND ||
-                    error == ERROR_NO_MORE_FILES;
-        return done;
+    // What came of a call; nothing when it was refused.
+    UniqueRequest ask(Call call, HINTERNET on, const char* pattern = "") {
+        UniqueRequest request(new Request(call, on, pattern));
+        if (!await(*request.get())) request.reset();
+        return request;
+    }
+
+    bool await(Request& request) {
+        const bool ended = worker_.run(request);
+        const DWORD error = ended && request.done ? ERROR_SUCCESS : ::GetLastError();
+        answered_ = error == ERROR_SUCCESS || error == ERROR_INTERNET_EXTENDED_ERROR ||
+                    error == ERROR_FILE_NOT_FOUND || error == ERROR_NO_MORE_FILES;
+        if (!ended) {
+            request.wanted = false;
+            // Ends the call, where the system can.
+            close();
+        }
+        return ended && request.done;
     }
 
     INTERNET_PORT port_;
+    win::Worker worker_;
     // Released last to first, the listing before the connection that it belongs to.
     UniqueInternet internet_;
     UniqueInternet server_;

@@ -18,8 +18,7 @@ void AskAndDeleteDirectory(frmUpload& form, const std::string& line) {
     const std::string question = "Are you sure you want to delete the folder\r\n" + line + " ?";
     if (form.say(question, "DELETION CONFIRMATION", MB_YESNO) != IDYES || !form.isThere()) return;
     const std::string name(NameOfLine(line));
-    const bool deleted =
-        form.change(kWorking, [&](FtpSession& session) { return session.removeDirectory(name); });
+    const bool deleted = form.change(kWorking, RemoteCommand::removeDirectory, name);
     if (!form.isThere()) return;
     if (deleted) {
         form.say("The Directory:\r\n[ " + line + " ]\r\nwas successfully Deleted.");
@@ -34,11 +33,24 @@ void AskAndDeleteDirectory(frmUpload& form, const std::string& line) {
 
 }  // namespace
 
+void EnterDirectory(frmUpload& form, const std::string& line) {
+    if (line.empty() || !OpensOnDoubleClick(line)) return;
+    const std::string name(NameOfLine(line));
+    const bool entered = form.change(kWorking, RemoteCommand::changeDirectory, name);
+    if (form.isThere() && !entered) form.say("Cannot access Directory!", "Quillon Note:");
+}
+
+void MoveUp(frmUpload& form) {
+    const std::optional<std::string> above = form.directoryAbove();
+    if (!above) return;
+    const bool moved = form.change(kWorking, RemoteCommand::changeDirectory, *above);
+    if (form.isThere() && !moved) form.say("Cannot find it!", "Quillon Note:");
+}
+
 void MakeDirectory(frmUpload& form) {
     const std::string name = win::AskText(form.hwnd(), "Enter a name for the New Directory", "NEW FOLDER");
     if (name.empty() || !form.isThere()) return;
-    const bool made =
-        form.change(kWorking, [&](FtpSession& session) { return session.createDirectory(name); });
+    const bool made = form.change(kWorking, RemoteCommand::createDirectory, name);
     if (!form.isThere()) return;
     if (made) {
         form.select(name + "/");
@@ -56,7 +68,8 @@ void CheckFileSize(frmUpload& form, const std::string& line) {
     });
     if (!form.isThere()) return;
     if (entry) {
-        form.say("Approximately " + std::to_string(entry->size) + " Bytes", "SIZE of " + line + " is:");
+        form.say("Approximately " + std::to_string(entry->size) + " Bytes",
+                 ("SIZE of " + line + " is:").c_str());
     } else {
         form.say("Could not retrieve requested information.");
     }
@@ -79,8 +92,7 @@ void DownloadFile(frmUpload& form, const std::string& line) {
 void RenameFile(frmUpload& form, const std::string& line) {
     const std::string name = win::AskText(form.hwnd(), "Enter new file name below", "FILENAME CHANGE");
     if (name.empty() || !form.isThere()) return;
-    const bool renamed =
-        form.change(kWorking, [&](FtpSession& session) { return session.rename(line, name); });
+    const bool renamed = form.change(kWorking, RemoteCommand::rename, line, name);
     if (!form.isThere()) return;
     if (renamed) {
         form.select(name);
@@ -93,7 +105,7 @@ void RenameFile(frmUpload& form, const std::string& line) {
 void DeleteRemoteFile(frmUpload& form, const std::string& line) {
     const std::string question = "Are you sure you want to delete " + line + " ?";
     if (form.say(question, "DELETION CONFIRMATION", MB_YESNO) != IDYES || !form.isThere()) return;
-    const bool deleted = form.change(kWorking, [&](FtpSession& session) { return session.removeFile(line); });
+    const bool deleted = form.change(kWorking, RemoteCommand::removeFile, line);
     if (!form.isThere()) return;
     if (deleted) {
         form.say("The File [ " + line + " ] was Deleted.", "DELETION CONFIRMATION");

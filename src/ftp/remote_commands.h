@@ -8,6 +8,8 @@ class frmUpload;
 
 namespace ftp {
 
+void EnterDirectory(frmUpload& form, const std::string& line);
+void MoveUp(frmUpload& form);
 void MakeDirectory(frmUpload& form);
 // `line` is the selected line of the list, that of a directory with its "/".
 void CheckFileSize(frmUpload& form, const std::string& line);

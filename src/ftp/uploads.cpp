@@ -19,7 +19,9 @@ std::string NameOf(const std::string& path) {
 
 bool UploadFile(frmUpload& form, FtpSession& session, const std::string& path) {
     const std::string name = NameOf(path);
-    if (session.put(path, JoinRemote(form.currentDirectory(), name), form.transferType(name))) return true;
+    if (session.tell(RemoteCommand::put, path, JoinRemote(form.currentDirectory(), name),
+                     form.transferType(name)))
+        return true;
     if (form.isThere()) form.say("There was a problem uploading " + name + ".", "UPLOAD DIFFICULTY");
     return false;
 }
@@ -48,8 +50,7 @@ void UploadAll(frmUpload& form, const std::vector<std::string>& files) {
 // Pages are text, so this one goes as text whatever the transfer mode says.
 void UploadDocument(frmUpload& form, const std::string& path) {
     const std::string remote = JoinRemote(form.currentDirectory(), NameOf(path));
-    const bool done = form.change(
-        kUploading, [&](FtpSession& session) { return session.put(path, remote, TransferType::ascii); });
+    const bool done = form.change(kUploading, RemoteCommand::put, path, remote);
     if (!form.isThere()) return;
     if (done) {
         form.showResult("Upload Complete");

@@ -72,9 +72,10 @@ class DropTarget : public IDropTarget {
     }
 
  private:
-    // One effect of those that the source offers, none while a dialog keeps the user from the window.
+    // One effect of those that the source offers, none while work or a dialog keeps the user from the window.
     DWORD allowed(DWORD offered) const {
-        if (!::IsWindowEnabled(::GetAncestor(window_, GA_ROOT))) return DROPEFFECT_NONE;
+        if (!::IsWindowEnabled(window_) || !::IsWindowEnabled(::GetAncestor(window_, GA_ROOT)))
+            return DROPEFFECT_NONE;
         for (const DWORD effect : {DROPEFFECT_COPY, DROPEFFECT_LINK, DROPEFFECT_MOVE}) {
             if (offered & effect) return effect;
         }

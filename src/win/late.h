@@ -1,10 +1,12 @@
 // Functions of DLLs that most runs of the program never need.
 #pragma once
 
-#include "win/error.h"
 #include "win/windows.h"
 
 namespace win {
+
+// The function itself.
+void* LateFunction(const char* dll, const char* name);
 
 // Calls a function of a DLL that is loaded by the first call and then stays. An import of the program's would
 // load it at every start, which those few calls are not worth. Throws win::Error where the system has no such
@@ -16,8 +18,7 @@ class Late {
 
     template <typename... Arguments>
     auto operator()(Arguments... arguments) const {
-        const FARPROC found = Check(::GetProcAddress(Check(::LoadLibraryA(dll_)), name_));
-        return reinterpret_cast<Function>(reinterpret_cast<void*>(found))(arguments...);
+        return reinterpret_cast<Function>(LateFunction(dll_, name_))(arguments...);
     }
 
  private:

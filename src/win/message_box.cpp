@@ -2,9 +2,9 @@
 
 namespace win {
 
-int ShowMessage(HWND owner, const std::string& text, const std::string& title, UINT style) {
+int ShowMessage(HWND owner, const std::string& text, const char* title, UINT style) {
     const HWND top = owner ? ::GetAncestor(owner, GA_ROOT) : nullptr;
-    return ::MessageBoxA(top, text.c_str(), title.c_str(), style);
+    return ::MessageBoxA(top, text.c_str(), title, style);
 }
 
 }  // namespace win

@@ -22,15 +22,16 @@ int RunMessageLoop() {
     return static_cast<int>(message.wParam);
 }
 
-void RunPending() {
+bool RunPending() {
     MSG message{};
     while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
         if (message.message == WM_QUIT) {
             ::PostQuitMessage(static_cast<int>(message.wParam));
-            return;
+            return false;
         }
         Handle(message);
     }
+    return true;
 }
 
 }  // namespace win

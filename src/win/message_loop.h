@@ -13,8 +13,8 @@ inline constexpr UINT kPreTranslate = WM_APP + 0x100;
 int RunMessageLoop();
 
 // Handles the messages that are waiting. Anything can happen meanwhile: any window, also the caller's, may
-// be gone afterwards. A WM_QUIT stays in the queue for the outer loop.
-void RunPending();
+// be gone afterwards. A WM_QUIT stays in the queue for the outer loop, and the result is false.
+bool RunPending();
 
 // The hourglass, until the scope ends.
 class WaitCursor {

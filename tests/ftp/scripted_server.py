@@ -18,6 +18,7 @@ import os
 import socket
 import sys
 import threading
+import time
 
 FILES = {b"good.htm": b"<HTML>good</HTML>\r\n", b"large.bin": b"0123456789abcdef" * 65536}
 FOLDERS = {b"folder"}
@@ -48,8 +49,8 @@ def long():
 
 
 def endless():
-    number = 0
-    while True:
+    number, start = 0, time.monotonic()
+    while time.monotonic() < start + 15:  # longer than anybody here waits
         number += 1
         yield b"".join(line(b"page%d.htm" % (number * 1000 + i)) for i in range(1000))
 

@@ -1,5 +1,6 @@
 // Servers that refuse, break off, or send what no server should.
 #include <algorithm>
+#include <cstdlib>
 
 #include "forms/frmUpload.h"
 #include "ftp/core/scramble.h"
@@ -8,6 +9,7 @@
 #include "ftp/site_store.h"
 #include "win/failing_calls.h"
 #include "win/ftp_test.h"
+#include "win/message_loop.h"
 
 namespace {
 
@@ -26,6 +28,20 @@ class FtpFaultsTest : public FtpTest {
                     ::SendMessageA(seen::ChildOfClass(box, "Edit"), WM_SETTEXT, 0,
                                    reinterpret_cast<LPARAM>(text.c_str()));
                     ::PostMessageA(box, WM_COMMAND, IDOK, 0);
+                }};
+    }
+    static bool wasTold(const std::string& command) {
+        return seen::Until([&] { return told().find(command) != std::string::npos; });
+    }
+    static bool answers(HWND window) {
+        return ::SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_NORMAL, 1000, nullptr) != 0;
+    }
+    // Once the server keeps silent about the command: looks whether the windows answer, and closes one.
+    User::Act closeDuring(const std::string& command, const std::string& title, HWND& closing) {
+        return {title, [=, &closing, main = main().mainHwnd()](HWND dialog) {
+                    EXPECT_TRUE(wasTold(command)) << told();
+                    EXPECT_TRUE(answers(dialog) && answers(main)) << command;
+                    ::PostMessageA(closing ? closing : dialog, WM_CLOSE, 0, 0);
                 }};
     }
     User::Act saveAs(const std::string& name) { return User::chooseFile("Save File As...", scratch(name)); }
@@ -151,6 +167,44 @@ TEST_F(FtpFaultsTest, OverlongNamesDoNoHarm) {
     EXPECT_TRUE(::IsWindowEnabled(control(cmdRefresh)));
 }
 
+TEST_F(FtpFaultsTest, WhileASilentServerIsWaitedForTheWindowsAnswerAndCanBeClosed) {
+    HWND closing = nullptr;
+    const std::pair<const char*, const char*> behaviours[] = {
+        {"silent-PASS", "PASS"}, {"silent-LIST", "LIST"}, {"list-endless", "LIST"}, {"silent-CWD", "CWD"}};
+    for (const auto& [behaviour, command] : behaviours) {
+        ::DeleteFileA(std::getenv("QUILLON_FTP_LOG"));
+        User user({closeDuring(command, "Quillon FTP", closing), User::press("NOT CONNECTED", IDOK)});
+        openScripted(behaviour);
+        EXPECT_EQ(user.heard().back(), "Cannot connect to FTP site...") << behaviour;
+        EXPECT_EQ(ftpWindow(), nullptr) << behaviour;
+    }
+    newPage("");
+    writeFile(scratch("page.htm"), "page");
+    active().setTag(scratch("page.htm"));
+    openScripted("silent-STOR");
+    {
+        User user({{kFtpTitle, [&](HWND form) {
+                        EXPECT_TRUE(wasTold("STOR"));
+                        EXPECT_EQ(textOf(txtCurDir), "Uploading.....");
+                        EXPECT_FALSE(::IsWindowEnabled(control(cmdUp)));
+                        type("going on");
+                        EXPECT_TRUE(answers(form));
+                        ::PostMessageA(form, WM_CLOSE, 0, 0);
+                    }}});
+        click(cmdUp);
+    }
+    EXPECT_EQ(ftpWindow(), nullptr);
+    EXPECT_EQ(pageText(), "going on");
+    active().txtPad().setChanged(false);
+    openScripted("silent-DELE");
+    closing = main().mainHwnd();
+    User user({User::press("DELETION CONFIRMATION", IDYES), closeDuring("DELE", kFtpTitle, closing)});
+    choose("good.htm", mnuRClist + 5);
+    EXPECT_FALSE(::IsWindow(closing)) << "the main window is not held up either";
+    EXPECT_EQ(ftpWindow(), nullptr);
+    EXPECT_FALSE(win::RunPending()) << "nor the end of the program";
+}
+
 TEST_F(FtpFaultsTest, APasswordArrivesByteForByte) {
     const std::string password = "mno847\xE9 x";  // the key itself scrambles to codes 0
     addSite("127.0.0.1", "plain", password);
@@ -171,20 +225,17 @@ class Unplugged : public ftp::FtpSession {
     }
     bool isConnected() const override { return session_->isConnected(); }
     void close() override { session_->close(); }
+    void giveUp(DWORD patience) override { session_->giveUp(patience); }
     bool answered() const override { return session_->answered(); }
     std::optional<std::string> currentDirectory() override { return session_->currentDirectory(); }
-    bool changeDirectory(const std::string& name) override { return session_->changeDirectory(name); }
     std::optional<ftp::RemoteEntry> findFirst(const std::string& name) override {
         return session_->findFirst(name);
     }
     std::optional<ftp::RemoteEntry> findNext() override { return session_->findNext(); }
     void endFind() override { session_->endFind(); }
-    bool get(const std::string&, const std::string&, ftp::TransferType) override { return false; }
-    bool put(const std::string&, const std::string&, ftp::TransferType) override { return false; }
-    bool createDirectory(const std::string&) override { return false; }
-    bool removeDirectory(const std::string&) override { return false; }
-    bool removeFile(const std::string&) override { return false; }
-    bool rename(const std::string&, const std::string&) override { return false; }
+    bool tell(ftp::RemoteCommand, const std::string&, const std::string&, ftp::TransferType) override {
+        return false;
+    }
 
  private:
     Fault fault_;

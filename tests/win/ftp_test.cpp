@@ -71,7 +71,7 @@ HWND FtpTest::openScripted(const std::string& behaviour) {
 }
 
 HWND FtpTest::ftpWindow() {
-    return seen::Titled(::GetCurrentProcessId(), "Quillon FTP - - - - -");
+    return seen::Titled(::GetCurrentProcessId(), kFtpTitle);
 }
 
 std::string FtpTest::told() {

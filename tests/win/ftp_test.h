@@ -11,6 +11,8 @@
 std::unique_ptr<ftp::FtpSession> HonestSession();
 std::unique_ptr<ftp::FtpSession> ScriptedSession();
 
+inline constexpr char kFtpTitle[] = "Quillon FTP - - - - -";
+
 class FtpTest : public AppTest {
  protected:
     void SetUp() override;

@@ -1,6 +1,3 @@
-#include <algorithm>
-
-#include "files/modPubFuncs.h"
 #include "forms/frmUpload.h"
 #include "ftp/frmUpload.h"
 #include "ftp/site_store.h"
@@ -155,6 +152,44 @@ TEST_F(FtpWindowTest, UploadsThePageAsItIsOnTheDisk) {
     EXPECT_EQ(textOf(txtCurDir), "Upload Complete");
     EXPECT_EQ(readFile(onServer("my page.htm")), "<P>caf\xE9</P>\n")
         << "sent as text although Binary is chosen, so the server has put its own line ends";
+}
+
+TEST_F(FtpWindowTest, UploadsWhatIsDroppedOnTheList) {
+    ASSERT_TRUE(openHonest());
+    const std::string bytes = "GIF89a\r\n\n\r";
+    writeFile(scratch("Lamp.GIF"), bytes);
+    writeFile(scratch("page.htm"), "<P>\r\n");
+    const auto drop = [&](std::vector<std::string> files, const std::string& title) {
+        User user({User::press(title, IDOK)});
+        ::SendMessageA(control(lstRemoteFiles), win::kDropped, 0, reinterpret_cast<LPARAM>(&files));
+        win::RunPending();
+        return user.heard().front();
+    };
+    EXPECT_EQ(drop({scratch("Lamp.GIF"), scratch("page.htm")}, "Quillon"), "Uploading Completed.");
+    EXPECT_EQ(lines(), "Lamp.GIF,page.htm");
+    EXPECT_EQ(readFile(onServer("Lamp.GIF")), bytes);
+    EXPECT_EQ(readFile(onServer("page.htm")), "<P>\n") << "as text, so the server has put its own line ends";
+    EXPECT_EQ(drop({scratch("page.htm")}, "Quillon"), "Upload of page.htm Complete");
+    EXPECT_EQ(drop({scratch("gone.htm")}, "UPLOAD DIFFICULTY"), "There was a problem uploading gone.htm.");
+    EXPECT_EQ(drop({}, "Quillon Note:"), "Unknown Object");
+}
+
+TEST_F(FtpWindowTest, WhatHasGoneFromTheServerMeanwhileIsTold) {
+    ASSERT_TRUE(openHonest({"a.htm", "docs/", "docs/deep/"}));
+    doubleClick("docs/");
+    doubleClick("deep/");
+    DeleteTree(onServer("docs"));
+    {
+        User user({User::press("Quillon Note:", IDOK)});
+        click(cmdUpDir);
+        EXPECT_EQ(user.heard().front(), "Cannot find it!");
+    }
+    ::SendMessageA(ftpWindow(), WM_COMMAND, IDCANCEL, 0);
+    reopen();
+    ::DeleteFileA(onServer("a.htm").c_str());
+    User user({User::press("Quillon", IDOK)});
+    choose("a.htm", mnuRClist);
+    EXPECT_EQ(user.heard().front(), "Could not retrieve requested information.");
 }
 
 TEST_F(FtpWindowTest, AsksForAPasswordThatIsNotStored) {

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""An FTP server on loopback that serves a folder: honest_server.py FOLDER [PORT [ADDRESS]]
+"""An FTP server on loopback that serves a folder: ftp_server.py FOLDER [PORT [ADDRESS]]
 
 Prints its port once it listens and serves until it is killed. The one login is user / secret; the folder
 "closed" can be seen but not entered.

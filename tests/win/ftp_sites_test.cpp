@@ -1,0 +1,84 @@
+#include "forms/frmCrypt.h"
+#include "forms/frmToUp.h"
+#include "ftp/core/scramble.h"
+#include "ftp/frmCrypt.h"
+#include "ftp/frmToUp.h"
+#include "ftp/site_store.h"
+#include "win/app_test.h"
+#include "win/dialog.h"
+#include "win/message_loop.h"
+
+namespace {
+
+class FtpSitesTest : public AppTest {
+ protected:
+    HWND dialog() { return seen::Dialog(::GetCurrentProcessId(), "ADD An Upload Site"); }
+    void fill(int box, const char* text) { ::SetDlgItemTextA(dialog(), box, text); }
+    void enter() { ::SendMessageA(::GetDlgItem(dialog(), cmdSetVal), BM_CLICK, 0, 0); }
+    std::string complaint(const std::string& title) {
+        User user({User::press(title, IDOK)});
+        enter();
+        return user.heard().front();
+    }
+};
+
+TEST_F(FtpSitesTest, ASiteIsAddedOnceItsFieldsAreRightAndOnlyOnce) {
+    frmCrypt::open(main());
+    EXPECT_EQ(complaint("REMINDER"), "You need to enter an FTP URL.");
+    fill(txtURL, "ftp.sandholm.example");
+    EXPECT_EQ(complaint("REMINDER"), "You need to enter a USER NAME.");
+    fill(txtName, "keeper");
+    ::CheckDlgButton(dialog(), chkPass, BST_CHECKED);
+    EXPECT_EQ(complaint("REMINDER"), "You need to enter a PASSWORD to save it.");
+    fill(txtPassWord, "lamp");
+    enter();
+    EXPECT_EQ(dialog(), nullptr);
+    EXPECT_EQ(main().menu().caption(mnuUploadSites), "ftp.sandholm.example");
+    EXPECT_EQ(ftp::FindSite(ftp::ReadSections(), 0)->storedPassword, ftp::ScramblePassword("lamp"));
+    frmCrypt::open(main());
+    fill(txtURL, "ftp.sandholm.example");
+    fill(txtName, "other");
+    EXPECT_EQ(complaint("REDUNDANT LOCATION"), "There is already an entry for ftp.sandholm.example.");
+    EXPECT_EQ(ftp::FindSite(ftp::ReadSections(), 0)->name, "keeper");
+}
+
+TEST_F(FtpSitesTest, TheUrlIsLookedAtWhenTheFocusLeavesTheDialog) {
+    newPage("");
+    frmCrypt::open(main());
+    const HWND form = dialog();
+    const auto leave = [&](const char* url) {
+        ::SetFocus(::GetDlgItem(form, txtURL));
+        fill(txtURL, url);
+        ::SetFocus(active().txtPad().hwnd());
+        win::RunPending();
+        return seen::TextOf(::GetDlgItem(form, txtURL));
+    };
+    EXPECT_EQ(leave("ftp://ftp.sandholm.example/www"), "ftp.sandholm.example/www");
+    User user({User::press("FTP URL NEEDED", IDOK)});
+    EXPECT_EQ(leave("sandholm"), "");
+    EXPECT_EQ(user.heard().front(), "You must enter a valid FTP URL, for example: \r\nftp.example.com");
+    EXPECT_EQ(::GetFocus(), ::GetDlgItem(form, txtURL));
+}
+
+TEST_F(FtpSitesTest, ASiteIsDeletedWithItsPasswordOnly) {
+    const ftp::Site site{0, "ftp.sandholm.example", "keeper", ftp::ScramblePassword("lamp")};
+    ftp::Apply(ftp::AddSite(ftp::ReadSections(), site).changes);
+    const auto clickDelete = [](HWND form) { ::PostMessageA(::GetDlgItem(form, cmdDelete), BM_CLICK, 0, 0); };
+    const auto password = [](const char* text) {
+        return [text](HWND box) {
+            ::SetWindowTextA(seen::ChildOfClass(box, "Edit"), text);
+            ::PostMessageA(box, WM_COMMAND, IDOK, 0);
+        };
+    };
+    User user({{"FTP Site", clickDelete},
+               {"Quillon", password("Lamp")},
+               User::press("INCORRECT PASSWORD", IDOK),
+               {"FTP Site", clickDelete},
+               {"Quillon", password("lamp")}});
+    frmToUp::ask(main(), site.url, 0);
+    EXPECT_EQ(user.heard()[1], "Enter Site Password To Delete ftp.sandholm.example");
+    EXPECT_EQ(user.heard()[2], "Check password and try again.");
+    EXPECT_FALSE(ftp::FindSite(ftp::ReadSections(), 0));
+}
+
+}  // namespace
