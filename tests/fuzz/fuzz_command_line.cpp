@@ -1,13 +1,11 @@
-// A pattern, then the text after it: a window's title, a command line, a page's path.
+// A pattern, then the text after it: a window's title, a command line.
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "authoring/core/preview_path.h"
 #include "check.h"
-#include "files/core/path.h"
 #include "shell/core/command_line.h"
 #include "shell/core/wildcard.h"
 
@@ -48,16 +46,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string path(text);
     Check(shell::TextAfterProgramName("\"C:\\My Programs\\Quillon.exe\" " + path) == Trimmed(path));
     Check(shell::TextAfterProgramName("Quillon.exe\t" + path) == Trimmed(path));
-
-    for (const bool exists : {false, true}) {
-        const std::string shown =
-            authoring::PreviewFile(path, pattern.empty(), [=](const std::string&) { return exists; });
-        const std::string name(modPubFuncs::FileNameFromPath(path));
-        Check(shown.empty() == path.empty() && shown.size() <= path.size() + 6);
-        // A copy never has the name of the page, and never that of a file of the user's.
-        if (shown != path) Check(shown.find("$$") != std::string::npos || !exists);
-        Check(shown.starts_with(path.substr(0, path.size() - name.size())) ||
-              name.find_first_of("/:") != std::string::npos);
-    }
     return 0;
 }
