@@ -18,6 +18,8 @@ DWORD WINAPI Task::perform(void* task) {
         self->lastError_ = ::GetLastError();
     } catch (const Error& error) {
         self->thrown_ = error.code();
+    } catch (...) {
+        self->thrown_ = ERROR_NOT_ENOUGH_MEMORY;
     }
     ::SetEvent(self->done_.get());
     self->release();

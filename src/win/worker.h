@@ -20,7 +20,7 @@ class Task {
 
  private:
     friend class Worker;
-    // On the other thread. What leaves it as a win::Error comes through to the waiting thread.
+    // On the other thread. What it throws comes through to the waiting thread as a win::Error.
     virtual void run() = 0;
     static DWORD WINAPI perform(void* task);
 
