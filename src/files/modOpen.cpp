@@ -81,14 +81,18 @@ void Open(MainWindow& main) {
     }
 }
 
-void WriteAs(MainWindow& main, DocumentId id, const std::string& path) {
+// The document, when it has been saved and is still there.
+frmChild* SaveOrWarn(MainWindow& main, DocumentId id, const std::string& path) {
     const bool saved = SaveDocument(main, id, path);
     frmChild* page = main.find(id);
+    if (!page || saved) return page;
+    Warn(main, "Could not write to the specified file at this time.");
+    return nullptr;
+}
+
+void WriteAs(MainWindow& main, DocumentId id, const std::string& path) {
+    frmChild* page = SaveOrWarn(main, id, path);
     if (!page) return;
-    if (!saved) {
-        Warn(main, "Could not write to the specified file at this time.");
-        return;
-    }
     page->setCaption(std::string(modPubFuncs::FileNameFromPath(path)));
     main.showResult("Saved :  " + path);
     basMRU::AddRecentFile(main, path);
@@ -114,13 +118,8 @@ void AskAndSaveAs(MainWindow& main, DocumentId id) {
 void SaveTo(MainWindow& main, frmChild& document, const std::string& path) {
     const DocumentId id = document.id();
     const document::Selection caret = document.txtPad().selection();
-    const bool saved = SaveDocument(main, id, path);
-    frmChild* page = main.find(id);
+    frmChild* page = SaveOrWarn(main, id, path);
     if (!page) return;
-    if (!saved) {
-        Warn(main, "Could not write to the specified file at this time.");
-        return;
-    }
     main.showResult("Saved :  " + path);
     page->focusPage();
     page->txtPad().select(caret.start, caret.start);
