@@ -51,7 +51,7 @@ class MonkeyTest : public QuillonTest {
         const auto found =
             std::find_if(pages_.begin(), pages_.end(),
                          [window = quillon_->page()](auto& page) { return page.window == window; });
-        EXPECT_NE(found, pages_.end()) << "a page that nobody opened";
+        EXPECT_TRUE(found != pages_.end()) << "a page that nobody opened";
         return found == pages_.end() ? pages_.front() : *found;
     }
     static LRESULT send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {

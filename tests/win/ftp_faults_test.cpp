@@ -23,13 +23,6 @@ class FtpFaultsTest : public FtpTest {
         choose(line, item);
         return user.heard().back();
     }
-    static User::Act enter(const std::string& title, const std::string& text) {
-        return {title, [text](HWND box) {
-                    ::SendMessageA(seen::ChildOfClass(box, "Edit"), WM_SETTEXT, 0,
-                                   reinterpret_cast<LPARAM>(text.c_str()));
-                    ::PostMessageA(box, WM_COMMAND, IDOK, 0);
-                }};
-    }
     static bool wasTold(const std::string& command) {
         return seen::Until([&] { return told().find(command) != std::string::npos; });
     }
@@ -63,14 +56,6 @@ TEST_F(FtpFaultsTest, EveryRefusedCommandIsToldAndTheSessionGoesOn) {
     EXPECT_EQ(readFile(scratch("x.htm")), "(no file)");
     EXPECT_EQ(textOf(txtCurDir), "/");
     EXPECT_TRUE(::IsWindowEnabled(control(cmdRefresh)));
-    newPage("page");
-    writeFile(scratch("page.htm"), "page");
-    active().setTag(scratch("page.htm"));
-    openScripted("refuse-STOR");
-    User user({User::press("UPLOAD FAILURE", IDOK)});
-    click(cmdUp);
-    EXPECT_EQ(user.heard().front(), "Unable to upload the current file.");
-    EXPECT_EQ(textOf(txtCurDir), "/");
 }
 
 TEST_F(FtpFaultsTest, ATransferThatBreaksOffIsNoSuccessAndLeavesTheOldFile) {
@@ -85,14 +70,10 @@ TEST_F(FtpFaultsTest, ATransferThatBreaksOffIsNoSuccessAndLeavesTheOldFile) {
     WIN32_FIND_DATAA found{};
     const HANDLE find = ::FindFirstFileA(scratch("qui*").c_str(), &found);
     EXPECT_EQ(find, INVALID_HANDLE_VALUE) << found.cFileName << " was left";
-    newPage("page");
-    writeFile(scratch("page.htm"), std::string(500000, 'x'));
-    active().setTag(scratch("page.htm"));
-    for (const char* behaviour : {"cut-STOR", "break-STOR"}) {
+    savePage("page.htm", std::string(500000, 'x'));
+    for (const char* behaviour : {"refuse-STOR", "cut-STOR", "break-STOR"}) {
         openScripted(behaviour);
-        User user({User::press("UPLOAD FAILURE", IDOK)});
-        click(cmdUp);
-        EXPECT_EQ(user.heard().front(), "Unable to upload the current file.") << behaviour;
+        EXPECT_EQ(saidToClick(cmdUp, "UPLOAD FAILURE"), "Unable to upload the current file.") << behaviour;
     }
 }
 
@@ -129,7 +110,8 @@ TEST_F(FtpFaultsTest, LoginsThatFailOpenNoWindow) {
 }
 
 TEST_F(FtpFaultsTest, AListingThatFailsLeavesAnEmptyListAndAWorkingWindow) {
-    for (const char* behaviour : {"refuse-LIST", "drop-LIST", "refuse-PORT", "refuse-TYPE", "refuse-PWD"}) {
+    for (const char* behaviour :
+         {"refuse-LIST", "drop-LIST", "refuse-PORT", "refuse-TYPE", "refuse-PWD", "list-long"}) {
         openScripted(behaviour);
         EXPECT_EQ(textOf(txtCurDir), "/") << behaviour;
         EXPECT_TRUE(::IsWindowEnabled(control(cmdRefresh))) << behaviour;
@@ -145,26 +127,19 @@ TEST_F(FtpFaultsTest, OddNamesStayInsideTheChosenFolder) {
     EXPECT_EQ(lines(),
               "..\\up.htm,/etc/passwd,C:\\boot.ini,CON,a\x01"
               "b\x7F.htm,%TEMP%.htm,caf\xE9.htm,last.htm");
-    const std::pair<const char*, const char*> proposals[] = {
-        {"..\\up.htm", "up.htm"}, {"/etc/passwd", "passwd"}, {"C:\\boot.ini", "boot.ini"}, {"CON", "_CON"}};
-    for (const auto& [line, name] : proposals) {
+    using Proposal = std::pair<const char*, const char*>;
+    for (const auto& [line, name] : {Proposal{"..\\up.htm", "up.htm"}, Proposal{"/etc/passwd", "passwd"},
+                                     Proposal{"C:\\boot.ini", "boot.ini"}, Proposal{"CON", "_CON"}}) {
         std::string proposed;
-        User user({{"Save File As...", [&](HWND dialog) {
-                        HWND box = ::GetDlgItem(dialog, 0x47c);
-                        if (!box) box = ::GetDlgItem(dialog, 0x480);
-                        proposed = seen::TextOf(box);
-                        ::PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
-                    }}});
-        choose(line, mnuRClist + 2);
-        user.heard();
+        {
+            const User user({{"Save File As...", [&](HWND dialog) {
+                                  proposed = seen::TextOf(seen::FileNameBox(dialog));
+                                  ::PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+                              }}});
+            choose(line, mnuRClist + 2);
+        }
         EXPECT_EQ(proposed.substr(0, proposed.find_last_not_of(' ') + 1), name) << line;
     }
-}
-
-TEST_F(FtpFaultsTest, OverlongNamesDoNoHarm) {
-    openScripted("list-long");
-    EXPECT_EQ(textOf(txtCurDir), "/");
-    EXPECT_TRUE(::IsWindowEnabled(control(cmdRefresh)));
 }
 
 TEST_F(FtpFaultsTest, WhileASilentServerIsWaitedForTheWindowsAnswerAndCanBeClosed) {
@@ -178,9 +153,7 @@ TEST_F(FtpFaultsTest, WhileASilentServerIsWaitedForTheWindowsAnswerAndCanBeClose
         EXPECT_EQ(user.heard().back(), "Cannot connect to FTP site...") << behaviour;
         EXPECT_EQ(ftpWindow(), nullptr) << behaviour;
     }
-    newPage("");
-    writeFile(scratch("page.htm"), "page");
-    active().setTag(scratch("page.htm"));
+    savePage("page.htm", "");
     openScripted("silent-STOR");
     {
         User user({{kFtpTitle, [&](HWND form) {
@@ -213,13 +186,14 @@ TEST_F(FtpFaultsTest, APasswordArrivesByteForByte) {
 }
 
 // What no server on loopback can bring about.
+enum class Step { dial, open };
+
 class Unplugged : public ftp::FtpSession {
  public:
-    enum class Fault { dial, open };
-    explicit Unplugged(Fault fault) : fault_(fault), session_(ScriptedSession()) {}
+    explicit Unplugged(Step missing) : missing_(missing), session_(ScriptedSession()) {}
 
-    bool dial() override { return fault_ != Fault::dial; }
-    bool open() override { return fault_ != Fault::open && session_->open(); }
+    bool dial() override { return missing_ != Step::dial; }
+    bool open() override { return missing_ != Step::open && session_->open(); }
     bool connect(const std::string& host, const std::string& user, const std::string& password) override {
         return session_->connect(host, user, password);
     }
@@ -238,30 +212,29 @@ class Unplugged : public ftp::FtpSession {
     }
 
  private:
-    Fault fault_;
+    Step missing_;
     std::unique_ptr<ftp::FtpSession> session_;
 };
 
-TEST_F(FtpFaultsTest, WithoutADialUpLinkTheAttemptGoesOn) {
+template <Step kStep>
+std::unique_ptr<ftp::FtpSession> Without() {
+    return std::make_unique<Unplugged>(kStep);
+}
+
+TEST_F(FtpFaultsTest, WithoutADialUpLinkTheAttemptGoesOnAndWithoutNetworkingItEnds) {
     addSite("127.0.0.1", "plain", "pw");
+    {
+        User user({User::press("NOT CONNECTED", IDOK)});
+        frmUpload::open(main(), 0, Without<Step::open>);
+        EXPECT_EQ(user.heard().front(), "Cannot obtain internet handle...");
+        EXPECT_EQ(ftpWindow(), nullptr);
+    }
     User user({User::press("NOT CONNECTED", IDOK)});
-    frmUpload::open(main(), 0, []() -> std::unique_ptr<ftp::FtpSession> {
-        return std::make_unique<Unplugged>(Unplugged::Fault::dial);
-    });
+    frmUpload::open(main(), 0, Without<Step::dial>);
     EXPECT_EQ(user.heard().front(),
               "Could not connect to the internet through AutoDial.\r\n"
               "Connect to Internet before attempting to use FTP.");
     EXPECT_EQ(textOf(txtCurDir), "/");
-}
-
-TEST_F(FtpFaultsTest, WithoutNetworkingThereIsNoWindow) {
-    addSite("127.0.0.1", "plain", "pw");
-    User user({User::press("NOT CONNECTED", IDOK)});
-    frmUpload::open(main(), 0, []() -> std::unique_ptr<ftp::FtpSession> {
-        return std::make_unique<Unplugged>(Unplugged::Fault::open);
-    });
-    EXPECT_EQ(user.heard().front(), "Cannot obtain internet handle...");
-    EXPECT_EQ(ftpWindow(), nullptr);
 }
 
 }  // namespace

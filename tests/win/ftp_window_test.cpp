@@ -7,22 +7,7 @@
 
 namespace {
 
-class FtpWindowTest : public FtpTest {
- protected:
-    // Types into the input box and presses OK.
-    static User::Act enter(const std::string& title, const std::string& text) {
-        return {title, [text](HWND box) {
-                    ::SendMessageA(seen::ChildOfClass(box, "Edit"), WM_SETTEXT, 0,
-                                   reinterpret_cast<LPARAM>(text.c_str()));
-                    ::PostMessageA(box, WM_COMMAND, IDOK, 0);
-                }};
-    }
-    void savePage(const std::string& name, const std::string& text) {
-        newPage(text);
-        writeFile(scratch(name), text);
-        active().setTag(scratch(name));
-    }
-};
+class FtpWindowTest : public FtpTest {};
 
 TEST_F(FtpWindowTest, OpensOnTheStoredSiteBesideTheMainWindow) {
     ASSERT_TRUE(openHonest({"a.htm", "b.htm", "docs/", "site.files/"}));
@@ -39,8 +24,6 @@ TEST_F(FtpWindowTest, OpensOnTheStoredSiteBesideTheMainWindow) {
     EXPECT_NEAR(own.top, mainArea.top, 1);
     EXPECT_FALSE(::IsWindowEnabled(control(cmdUpDir)));
     EXPECT_FALSE(::IsWindowEnabled(control(cmdPassword)));
-    EXPECT_EQ(seen::Titled(::GetCurrentProcessId(), "Quillon FTP"), nullptr)
-        << "the connecting window has gone";
 }
 
 TEST_F(FtpWindowTest, WalksDirectoriesAndNeverAboveTheStart) {
@@ -77,48 +60,6 @@ TEST_F(FtpWindowTest, ListsWhatCannotBeEnteredAndFollowsLinks) {
     EXPECT_FALSE(::IsWindowEnabled(control(cmdUp)));
 }
 
-TEST_F(FtpWindowTest, MakesRenamesAndDeletes) {
-    ASSERT_TRUE(openHonest({"a.htm", "full/", "full/x"}));
-    User user({enter("NEW FOLDER", "new"), User::press("CONFIRMATION", IDOK),
-               enter("FILENAME CHANGE", "c.htm"), User::press("CONFIRMATION", IDOK),
-               User::press("SIZE of c.htm is:", IDOK), User::press("DELETION CONFIRMATION", IDNO),
-               User::press("DELETION CONFIRMATION", IDYES), User::press("DELETION CONFIRMATION", IDOK),
-               User::press("DELETION CONFIRMATION", IDYES), User::press("Quillon", IDOK),
-               User::press("DELETION CONFIRMATION", IDYES), User::press("FAILED TO DELETE", IDOK),
-               enter("NEW FOLDER", "full"), User::press("DIRECTORY NOT MADE", IDOK),
-               enter("NEW FOLDER", "")});
-    click(cmdMakeDir);
-    EXPECT_EQ(lines(), "a.htm,full/,new/");
-    choose("a.htm", mnuRClist + 3);
-    EXPECT_EQ(lines(), "c.htm,full/,new/");
-    EXPECT_EQ(readFile(onServer("c.htm")), "The file a.htm");
-    choose("c.htm", mnuRClist);
-    choose("c.htm", mnuRClist + 5);
-    EXPECT_EQ(lines(), "c.htm,full/,new/");
-    choose("c.htm", mnuRClist + 5);
-    EXPECT_EQ(lines(), "full/,new/");
-    choose("new/", mnuDirDelete);
-    EXPECT_EQ(lines(), "full/");
-    choose("full/", mnuDirDelete);
-    click(cmdMakeDir);
-    click(cmdMakeDir);
-    EXPECT_EQ(lines(), "full/");
-    EXPECT_EQ(
-        user.heard(),
-        (std::vector<std::string>{
-            "Enter a name for the New Directory", "New Directory [ new ] successfully created.",
-            "Enter new file name below", "File has been Renamed", "Approximately 14 Bytes",
-            "Are you sure you want to delete c.htm ?", "Are you sure you want to delete c.htm ?",
-            "The File [ c.htm ] was Deleted.", "Are you sure you want to delete the folder\r\nnew/ ?",
-            "The Directory:\r\n[ new/ ]\r\nwas successfully Deleted.",
-            "Are you sure you want to delete the folder\r\nfull/ ?",
-            "Could not delete file\r\nA directory must be not contain any files in order to delete...\r\n"
-            "Are you sure this folder is empty?",
-            "Enter a name for the New Directory", "Could not create the Directory.",
-            "Enter a name for the New Directory"}));
-    EXPECT_EQ(textOf(txtCurDir), "/own");
-}
-
 TEST_F(FtpWindowTest, DownloadsWhole) {
     ASSERT_TRUE(openHonest({"a.htm"}));
     writeFile(scratch("kept.htm"), "what was there before, and longer than the new file");
@@ -132,23 +73,13 @@ TEST_F(FtpWindowTest, DownloadsWhole) {
 
 TEST_F(FtpWindowTest, UploadsThePageAsItIsOnTheDisk) {
     ASSERT_TRUE(openHonest());
-    {
-        User user({User::press("NO FILE OPEN", IDOK)});
-        click(cmdUp);
-        EXPECT_EQ(user.heard().front(), "No file is currently open.");
-    }
+    EXPECT_EQ(saidToClick(cmdUp, "NO FILE OPEN"), "No file is currently open.");
     newPage("never saved");
-    {
-        User user({User::press("PRECAUTION", IDOK)});
-        click(cmdUp);
-        EXPECT_EQ(user.heard().front(), "The Current page SHOULD BE SAVED before uploading.");
-    }
+    EXPECT_EQ(saidToClick(cmdUp, "PRECAUTION"), "The Current page SHOULD BE SAVED before uploading.");
     savePage("my page.htm", "<P>caf\xE9</P>\r\n");
     type("changed");
     click(upType);
-    User user({User::press("Quillon", IDOK)});
-    click(cmdUp);
-    EXPECT_EQ(user.heard().front(), "Upload Complete");
+    EXPECT_EQ(saidToClick(cmdUp, "Quillon"), "Upload Complete");
     EXPECT_EQ(textOf(txtCurDir), "Upload Complete");
     EXPECT_EQ(readFile(onServer("my page.htm")), "<P>caf\xE9</P>\n")
         << "sent as text although Binary is chosen, so the server has put its own line ends";
@@ -179,11 +110,7 @@ TEST_F(FtpWindowTest, WhatHasGoneFromTheServerMeanwhileIsTold) {
     doubleClick("docs/");
     doubleClick("deep/");
     DeleteTree(onServer("docs"));
-    {
-        User user({User::press("Quillon Note:", IDOK)});
-        click(cmdUpDir);
-        EXPECT_EQ(user.heard().front(), "Cannot find it!");
-    }
+    EXPECT_EQ(saidToClick(cmdUpDir, "Quillon Note:"), "Cannot find it!");
     ::SendMessageA(ftpWindow(), WM_COMMAND, IDCANCEL, 0);
     reopen();
     ::DeleteFileA(onServer("a.htm").c_str());
