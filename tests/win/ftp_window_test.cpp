@@ -60,14 +60,45 @@ TEST_F(FtpWindowTest, ListsWhatCannotBeEnteredAndFollowsLinks) {
     EXPECT_FALSE(::IsWindowEnabled(control(cmdUp)));
 }
 
-TEST_F(FtpWindowTest, DownloadsWhole) {
-    ASSERT_TRUE(openHonest({"a.htm"}));
-    writeFile(scratch("kept.htm"), "what was there before, and longer than the new file");
-    User user({User::chooseFile("Save File As...", scratch("kept.htm")),
-               User::press("Save File As...", IDYES), User::press("TASK COMPLETE", IDOK)});
-    choose("a.htm", mnuRClist + 2);
-    EXPECT_EQ(user.heard().back(), "Download of a.htm is complete.");
-    EXPECT_EQ(readFile(scratch("kept.htm")), "The file a.htm");
+TEST_F(FtpWindowTest, MakesRenamesAndDeletes) {
+    ASSERT_TRUE(openHonest({"a.htm", "full/", "full/x"}));
+    User user({enter("NEW FOLDER", "new"), User::press("CONFIRMATION", IDOK),
+               enter("FILENAME CHANGE", "c.htm"), User::press("CONFIRMATION", IDOK),
+               User::press("SIZE of c.htm is:", IDOK), User::press("DELETION CONFIRMATION", IDNO),
+               User::press("DELETION CONFIRMATION", IDYES), User::press("DELETION CONFIRMATION", IDOK),
+               User::press("DELETION CONFIRMATION", IDYES), User::press("Quillon", IDOK),
+               User::press("DELETION CONFIRMATION", IDYES), User::press("FAILED TO DELETE", IDOK),
+               enter("NEW FOLDER", "full"), User::press("DIRECTORY NOT MADE", IDOK),
+               enter("NEW FOLDER", "")});
+    click(cmdMakeDir);
+    EXPECT_EQ(lines(), "a.htm,full/,new/");
+    choose("a.htm", mnuRClist + 3);
+    EXPECT_EQ(lines(), "c.htm,full/,new/");
+    EXPECT_EQ(readFile(onServer("c.htm")), "The file a.htm");
+    choose("c.htm", mnuRClist);
+    choose("c.htm", mnuRClist + 5);
+    EXPECT_EQ(lines(), "c.htm,full/,new/");
+    choose("c.htm", mnuRClist + 5);
+    EXPECT_EQ(lines(), "full/,new/");
+    choose("new/", mnuDirDelete);
+    EXPECT_EQ(lines(), "full/");
+    choose("full/", mnuDirDelete);
+    click(cmdMakeDir);
+    click(cmdMakeDir);
+    EXPECT_EQ(lines(), "full/");
+    EXPECT_EQ(
+        user.heard(),
+        (std::vector<std::string>{
+            "Enter a name for the New Directory", "New Directory [ new ] successfully created.",
+            "Enter new file name below", "File has been Renamed", "Approximately 14 Bytes",
+            "Are you sure you want to delete c.htm ?", "Are you sure you want to delete c.htm ?",
+            "The File [ c.htm ] was Deleted.", "Are you sure you want to delete the folder\r\nnew/ ?",
+            "The Directory:\r\n[ new/ ]\r\nwas successfully Deleted.",
+            "Are you sure you want to delete the folder\r\nfull/ ?",
+            "Could not delete file\r\nA directory must be not contain any files in order to delete...\r\n"
+            "Are you sure this folder is empty?",
+            "Enter a name for the New Directory", "Could not create the Directory.",
+            "Enter a name for the New Directory"}));
     EXPECT_EQ(textOf(txtCurDir), "/own");
 }
 

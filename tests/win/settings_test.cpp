@@ -42,7 +42,6 @@ TEST_F(SettingsTest, CRegSettingsKnowsTheUnnamedValueAndWholeSections) {
     EXPECT_EQ(store.GetRegSetting("Files", "*", "gone"), "gone");
     store.setCompany("  Other  ");
     EXPECT_EQ(store.Company(), "Other");
-    EXPECT_EQ(store.GetRegSetting("Tabs", "Length", "d"), "d");
     store.setCompany("   ");
     EXPECT_EQ(store.Company(), "Corvale");
 }
@@ -79,15 +78,6 @@ TEST_F(RecentFilesTest, TheNewestSevenAreListedEachOnce) {
     EXPECT_EQ(listed(), "1687432");
     basMRU::AddRecentFile(main(), main().temporaryFolder() + "view.htm");
     EXPECT_EQ(listed(), "1687432");
-}
-
-TEST_F(RecentFilesTest, PruningGoesByWhatIsStored) {
-    settings::Save("Recent Files", "1", makeFile(1));
-    settings::Save("Recent Files", "2", makeFile(2));
-    settings::Save("File Count", "Count", "2");
-    EXPECT_FALSE(main().menu().isShown(mnuFileMRU + 1)) << "not loaded into the menu";
-    basMRU::AddRecentFile(main(), makeFile(3));
-    EXPECT_EQ(listed(), "312");
 }
 
 TEST_F(RecentFilesTest, ADamagedListDoesNoHarm) {
