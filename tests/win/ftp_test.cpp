@@ -71,6 +71,12 @@ std::string FtpTest::saidToClick(int id, const std::string& title) {
     return user.heard().front();
 }
 
+std::string FtpTest::say(const std::string& line, int item, std::vector<User::Act> acts) {
+    User user(std::move(acts));
+    choose(line, item);
+    return user.heard().back();
+}
+
 User::Act FtpTest::enter(const std::string& title, const std::string& text) {
     return {title, [text](HWND box) {
                 ::SendMessageA(seen::ChildOfClass(box, "Edit"), WM_SETTEXT, 0,
