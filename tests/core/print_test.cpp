@@ -61,38 +61,32 @@ TEST(ExpandTabs, ReachTheNextColumn) {
     EXPECT_EQ(modPrint::ExpandTabs("a\tb", 0), "a b");
 }
 
-struct Printed {
-    Lines tops;  // "page left top" of each line
-    Lines texts;
-};
-
-Printed Print(std::string_view text, std::string_view title, const modPrint::Paper& paper) {
+// "page left top text" of each line.
+Lines Print(std::string_view text, std::string_view title, const modPrint::Paper& paper) {
     modPrint::PrintLayout layout(text, title, paper, kTenATwip, 8);
-    Printed printed;
+    Lines printed;
     int page = 0;
     while (const auto line = layout.next()) {
-        if (line->startsPage) ++page;
-        printed.tops.push_back(std::to_string(page) + " " + std::to_string(line->left) + " " +
-                               std::to_string(line->top));
-        printed.texts.emplace_back(line->text);
+        page += line->startsPage;
+        printed.push_back(std::to_string(page) + " " + std::to_string(line->left) + " " +
+                          std::to_string(line->top) + " " + std::string(line->text));
     }
     return printed;
 }
 
 TEST(PrintLayout, HeaderOnTheFirstPageAndTheBodyAtItsPlaceOnEach) {
     // Three lines fit: tops 1440, 1640 and 1840 lie above 4000 - 2000, 2040 does not.
-    const Printed printed = Print("a\r\n\r\nc\r\nd\r\n", "C:\\p.htm", {1000, 4000, 200});
-    EXPECT_EQ(printed.texts, (Lines{"          C:\\p.htm", "a", "", "c", "d"}));
-    EXPECT_EQ(printed.tops, (Lines{"1 0 100", "1 780 1440", "1 780 1640", "1 780 1840", "2 780 1440"}));
+    EXPECT_EQ(Print("a\r\n\r\nc\r\nd\r\n", "C:\\p.htm", {1000, 4000, 200}),
+              (Lines{"1 0 100           C:\\p.htm", "1 780 1440 a", "1 780 1640 ", "1 780 1840 c",
+                     "2 780 1440 d"}));
     // A line that reaches the limit exactly starts a page, a full page no empty one.
-    EXPECT_EQ(Print("a\r\nb\r\nc", "", {1000, 3840, 200}).tops.back(), "2 780 1440");
-    EXPECT_EQ(Print("a\r\nb\r\n", "", {1000, 3840, 200}).tops.back(), "1 780 1640");
+    EXPECT_EQ(Print("a\r\nb\r\nc", "", {1000, 3840, 200}).back(), "2 780 1440 c");
+    EXPECT_EQ(Print("a\r\nb\r\n", "", {1000, 3840, 200}).back(), "1 780 1640 b");
 }
 
 TEST(PrintLayout, LeavesThirtyCharactersFreeAtTheRight) {
     // A character is 10 wide: 500 - 300 leaves room for twenty.
-    EXPECT_EQ(Print(std::string(21, 'x'), "", {500, 9000, 200}).texts,
-              (Lines{std::string(10, ' '), std::string(20, 'x'), "x"}));
+    EXPECT_EQ(Print(std::string(21, 'x'), "", {500, 9000, 200}).back(), "1 780 1640 x");
     // Without metrics 2220 twips are kept free, and lines do not all fall on one another.
     const Measure noMetrics{[](std::string_view text) { return text.size() == 10 ? 0 : 1000; }, {}};
     modPrint::PrintLayout layout("ab\r\nc", "", {3219, 9000, 0}, noMetrics, 8);
@@ -102,10 +96,10 @@ TEST(PrintLayout, LeavesThirtyCharactersFreeAtTheRight) {
 }
 
 TEST(PrintLayout, AnEmptyTextPrintsNothingAndALongOneWhole) {
-    EXPECT_TRUE(Print("", "title", {1000, 4000, 200}).texts.empty());
+    EXPECT_TRUE(Print("", "title", {1000, 4000, 200}).empty());
     std::string text;
     for (int i = 0; i < 20'000; ++i) text += "line\r\n";
-    EXPECT_EQ(Print(text, "", {1000, 4000, 200}).texts.size(), 20'001U);
+    EXPECT_EQ(Print(text, "", {1000, 4000, 200}).size(), 20'001U);
 }
 
 }  // namespace
