@@ -29,6 +29,7 @@ TEST_F(PageToolsTest, TextIsFoundAndReplacedFromTheKeyboard) {
     quillon.typeText("needle");
     quillon.pressKey(VK_RETURN);
     EXPECT_TRUE(seen::Until([&] { return seen::LabelsOf(find) == "4000\r\noccurrences"; }));
+    quillon.pressKey('F', true);  // the page has the focus by now
     quillon.pressKey(VK_ESCAPE);
     EXPECT_TRUE(seen::Until([&] { return !::IsWindow(find); }));
     quillon.pressKey('H', true);
