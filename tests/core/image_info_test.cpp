@@ -63,10 +63,4 @@ TEST(ImageInfo, TheFrameMarkerHasToBeginAndEndInTheFirstThousandBytes) {
         << "the first marker counts, even in the wrong place";
 }
 
-TEST(ImageInfo, TagAndStatus) {
-    EXPECT_EQ(authoring::ImageTag("a \"b\"&\xE4.JPG", 0, 65535),
-              "<img src=\"images/a \"b\"&\xE4.JPG\" width=\"0\" height=\"65535\" border=\"0\">");
-    EXPECT_EQ(authoring::ImageStatus("logo.gif", 2048), "logo.gif    2048 bytes");
-}
-
 }  // namespace

@@ -18,13 +18,6 @@ TemplateList FullList() {
     return list;
 }
 
-TEST(Templates, ANewOneComesFirstAndTheNinthFallsOff) {
-    const TemplateList list = FullList();
-    const TemplateList longer = authoring::WithTemplate(list, {"new.htm", "New"});
-    EXPECT_EQ(longer[0], (Template{"new.htm", "New"}));
-    EXPECT_TRUE(std::equal(longer.begin() + 1, longer.end(), list.begin()));
-}
-
 TEST(Templates, RebuildingClosesGapsAndKeepsTheOrder) {
     TemplateList list = FullList();
     list[1].id.clear();

@@ -1,4 +1,5 @@
 // A user who does anything at any time, and a plain model of what every page and file must hold.
+#include <algorithm>
 #include <cstdio>
 #include <map>
 #include <optional>

@@ -1,6 +1,5 @@
 #include "e2e/quillon.h"
 
-#include <algorithm>
 #include <cstdlib>
 
 #include "shell/menu_table.h"

@@ -34,7 +34,8 @@ def ordinary():
 
 
 def odd():
-    for name in (b"..\\up.htm", b"/etc/passwd", b"C:\\boot.ini", b"CON", b"a\x01b\x7f.htm", b"%TEMP%.htm", b"caf\xe9.htm"):
+    for name in (b"..\\up.htm", b"/etc/passwd", b"C:\\boot.ini", b"CON", b"a\x01b\x7f.htm", b"%TEMP%.htm",
+                 b"caf\xe9.htm"):
         yield line(name)
     yield b"what is this line\r\n"  # an empty one would end Wine's own wininet
     yield line(b".", True) + line(b"..", True) + line(b"last.htm")

@@ -1,5 +1,4 @@
 // Servers that refuse, break off, or send what no server should.
-#include <algorithm>
 #include <cstdlib>
 
 #include "forms/frmUpload.h"
