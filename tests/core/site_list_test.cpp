@@ -56,9 +56,10 @@ TEST(SiteList, EachOfThirteenAdditionsComesFirstAndTheMarkFollowsItsSite) {
 }
 
 TEST(SiteList, EveryDeletionMovesTheLaterSitesUpAndTheMarkWithThem) {
+    const SiteStore full = StoreOf(12);
     for (int removed = 0; removed < 12; ++removed) {
         for (int mark = 0; mark < 12; ++mark) {
-            SiteStore store = StoreOf(12);
+            SiteStore store = full;
             store.names()["99"] = std::to_string(mark);
             store.apply(ftp::RemoveSite(store.read(), removed));
             std::string expected;
