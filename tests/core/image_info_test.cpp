@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <utility>
+#include <tuple>
 
 #include "core/kept_files.h"
 
@@ -20,13 +20,7 @@ Size SizeOf(ImageType type, std::string_view head) {
     return {ImageWidth(type, head), ImageHeight(type, head)};
 }
 
-struct Encoded {
-    const char* file;
-    ImageType type;
-    Size size;
-};
-
-const Encoded kEncoded[] = {
+const std::tuple<const char*, ImageType, Size> kEncoded[] = {
     {"gif87a.gif", ImageType::gif, {120, 60}},
     {"gif89a.gif", ImageType::gif, {120, 60}},
     {"jfif.jpg", ImageType::jpeg, {120, 60}},
@@ -47,34 +41,11 @@ TEST(ImageInfo, FilesOfRealEncodersFromTheBytesThatAreAskedFor) {
     }
 }
 
-TEST(ImageInfo, ACutFileHasItsValuesOrNone) {
-    for (const auto& [file, type, size] : kEncoded) {
-        const std::string bytes = kept::Read("fuzz/corpus/image_info/"s + file);
-        bool typeSeen = false;
-        Size last{0, 0};
-        for (std::size_t length = 0; length <= bytes.size(); ++length) {
-            const std::string cut = bytes.substr(0, length);
-            const ImageType found = DetectImageType(cut);
-            EXPECT_TRUE(found == type || (!typeSeen && found == ImageType::unrecognized)) << file << length;
-            typeSeen = found == type;
-            const Size now = SizeOf(type, cut);
-            EXPECT_TRUE(now.first == last.first || (last.first == 0 && now.first == size.first))
-                << file << length;
-            EXPECT_TRUE(now.second == last.second || (last.second == 0 && now.second == size.second))
-                << file << length;
-            last = now;
-        }
-        EXPECT_EQ(last, size) << file;
-    }
-}
-
 TEST(ImageInfo, TheTypeIsTheLastThatMatches) {
-    EXPECT_EQ(DetectImageType(""), ImageType::unrecognized);
     EXPECT_EQ(DetectImageType("BM"), ImageType::bitmap);
     EXPECT_EQ(DetectImageType("GIFfy"), ImageType::gif);
     EXPECT_EQ(DetectImageType("gif89a"), ImageType::unrecognized);
     EXPECT_EQ(DetectImageType("GIF89a JFIF\0"s), ImageType::jpeg);
-    EXPECT_EQ(DetectImageType("BM JFIF\0"s), ImageType::jpeg);
     EXPECT_EQ(DetectImageType("JFIF"), ImageType::unrecognized);
     EXPECT_EQ(DetectImageType(std::string(95, ' ') + "JFIF\0"s), ImageType::jpeg);
     EXPECT_EQ(DetectImageType(std::string(96, ' ') + "JFIF\0"s), ImageType::unrecognized);
@@ -86,30 +57,10 @@ TEST(ImageInfo, TheFrameMarkerHasToBeginAndEndInTheFirstThousandBytes) {
         const std::string bytes = std::string(at, '\0') + frame;
         const Size expected = at <= 998 ? Size{772, 258} : Size{0, 0};
         EXPECT_EQ(SizeOf(ImageType::jpeg, bytes), expected) << at;
-        EXPECT_EQ(SizeOf(ImageType::jpeg, bytes.substr(0, authoring::ImageSizeBytes(ImageType::jpeg))),
-                  expected)
-            << at;
     }
     EXPECT_EQ(SizeOf(ImageType::jpeg, frame.substr(0, 8)), Size(0, 258));
     EXPECT_EQ(SizeOf(ImageType::jpeg, "\xFF\xC0 "s + frame), Size(0x0801, 0x0011))
         << "the first marker counts, even in the wrong place";
-}
-
-TEST(ImageInfo, OnlyTheStoredTypeDecidesHowTheSizeIsRead) {
-    const std::string gif = "GIF89a\x78\x00\x3C\x00"s;
-    EXPECT_EQ(SizeOf(ImageType::gif, gif), Size(120, 60));
-    for (const ImageType type : {ImageType::undetermined, ImageType::unrecognized, ImageType{7}}) {
-        EXPECT_EQ(SizeOf(type, gif), Size(0, 0));
-        EXPECT_EQ(authoring::ImageSizeBytes(type), 0U);
-    }
-}
-
-TEST(ImageInfo, TagAndStatus) {
-    EXPECT_EQ(authoring::ImageTag("logo.gif", 120, 60),
-              R"(<img src="images/logo.gif" width="120" height="60" border="0">)");
-    EXPECT_EQ(authoring::ImageTag("a \"b\"&\xE4.JPG", 0, 65535),
-              "<img src=\"images/a \"b\"&\xE4.JPG\" width=\"0\" height=\"65535\" border=\"0\">");
-    EXPECT_EQ(authoring::ImageStatus("logo.gif", 2048), "logo.gif    2048 bytes");
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
 #include <string>
 
 #include "authoring/core/spelling_pass.h"
@@ -47,29 +46,23 @@ TEST(SpellWords, LeaveOutWhatNobodySpells) {
 TEST(SpellWords, ALooseSignIsNoTag) {
     EXPECT_EQ(WordsOf("if up < down and <unclosed <b>bold</b>"), "if|up|down|and|unclosed|bold|");
     EXPECT_EQ(WordsOf("<b title=\"open>yes <i>more"), "yes|more|");
-    EXPECT_EQ(WordsOf("&unended ab & cd &; ef"), "unended|ab|cd|ef|");
-    EXPECT_EQ(WordsOf("ab<!-- never ended"), "ab|");
+    EXPECT_EQ(WordsOf("&unended ab & cd &; ef<!-- gh"), "unended|ab|cd|ef|");
 }
 
-class Known : public SpellDictionary {
+class KnowsGood : public SpellDictionary {
  public:
-    explicit Known(std::set<std::string> words) : words_(std::move(words)) {}
     bool knows(const std::string& word) override {
-        ++asked;
-        return words_.contains(word);
+        asked += word + "|";
+        return word == "good";
     }
     std::vector<std::string> suggestions(const std::string&) override { return {}; }
     void add(const std::string& word) override { added += word; }
 
-    int asked = 0;
-    std::string added;
-
- private:
-    std::set<std::string> words_;
+    std::string asked, added;
 };
 
 TEST(SpellingPass, StopsAtUnknownWordsOnceTheyAreNotIgnored) {
-    Known dictionary({"good"});
+    KnowsGood dictionary;
     SpellingPass pass("good aa good bb aa cc bb cc dd", kAsciiLetters, dictionary);
     std::string stops;
     while (pass.next()) {
@@ -80,21 +73,13 @@ TEST(SpellingPass, StopsAtUnknownWordsOnceTheyAreNotIgnored) {
     }
     EXPECT_EQ(stops, "aa|bb|cc|cc|dd|");
     EXPECT_EQ(dictionary.added, "bb");
+    EXPECT_EQ(dictionary.asked.find("good", 4), std::string::npos) << "a known word is asked about once";
     EXPECT_EQ(pass.result(), "good aa good bb aa new and longer bb new and longer dd");
     EXPECT_TRUE(pass.isChanged());
 }
 
-TEST(SpellingPass, AsksOnlyOnceAboutAWordThatIsKnown) {
-    Known dictionary({"good"});
-    SpellingPass pass("good good good", kAsciiLetters, dictionary);
-    EXPECT_FALSE(pass.next());
-    EXPECT_EQ(dictionary.asked, 1);
-    EXPECT_EQ(pass.result(), "good good good");
-    EXPECT_FALSE(pass.isChanged());
-}
-
 TEST(SpellingPass, AWordMayBeTakenOutAndItsSurroundingsAreShown) {
-    Known dictionary({});
+    KnowsGood dictionary;
     const std::string line(40, 'x');
     SpellingPass pass("1 " + line + " teh\r\n2 " + line, kAsciiLetters, dictionary);
     ASSERT_TRUE(pass.next() && pass.next());

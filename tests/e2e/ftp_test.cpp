@@ -1,5 +1,3 @@
-#include <cstdlib>
-#include <functional>
 #include <optional>
 
 #include "e2e/quillon.h"
@@ -14,9 +12,9 @@ class PublishingTest : public QuillonTest {
  protected:
     void SetUp() override {
         QuillonTest::SetUp();
-        address_ = std::getenv("QUILLON_FTP_ADDRESS");
+        address_ = Environment("QUILLON_FTP_ADDRESS");
         if (address_.empty()) GTEST_SKIP() << "no FTP server: port 21 is in use everywhere or takes root";
-        const std::string examples = std::getenv("QUILLON_EXE") + std::string("\\..\\..\\examples\\");
+        const std::string examples = Environment("QUILLON_EXE") + "\\..\\..\\examples\\";
         writeFile(scratch("index.htm"), readFile(examples + "index.htm"));
         quillon_.emplace(scratch("index.htm"));
     }
@@ -64,7 +62,7 @@ class PublishingTest : public QuillonTest {
             seen::Until([&] { return seen::TextOf(::GetDlgItem(form_, txtCurDir)) == "Upload Complete"; }));
     }
     static std::string onServer(const std::string& name) {
-        return std::getenv("QUILLON_FTP_FOLDER") + std::string("\\own\\") + name;
+        return Environment("QUILLON_FTP_FOLDER") + "\\own\\" + name;
     }
     static bool sitesAreStored() {
         HKEY key = nullptr;
@@ -114,7 +112,7 @@ TEST_F(PublishingTest, APageIsPublishedChangedAndFetchedAgain) {
     EXPECT_EQ(::GetFileAttributesA(onServer("pictures").c_str()), INVALID_FILE_ATTRIBUTES);
 
     EXPECT_TRUE(sitesAreStored());
-    ::PostMessageA(quillon().window(), WM_COMMAND, mnuUploadSites, 0);
+    quillon().choose(mnuUploadSites);
     const HWND site = quillon().waitForDialog("FTP Site");
     ::PostMessageA(seen::Child(site, "Delete", "Button"), BM_CLICK, 0, 0);
     answerWith("Quillon", "secret");

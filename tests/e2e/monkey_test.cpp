@@ -1,4 +1,5 @@
 // A user who does anything at any time, and a plain model of what every page and file must hold.
+#include <algorithm>
 #include <cstdio>
 #include <map>
 #include <optional>
@@ -27,55 +28,41 @@ class MonkeyTest : public QuillonTest {
         QuillonTest::SetUp();
         quillon_.emplace();
     }
-
     void TearDown() override {
         quillon_.reset();
         for (int i = 0; i < 20; ++i) RemoveTemplate("monkey" + std::to_string(i) + ".htm");
     }
 
     // ---- What chance decides.
-    std::size_t below(std::size_t count) { return count == 0 ? 0 : random_() % count; }
+    std::size_t below(std::size_t count) { return random_() % count; }
     // A place in the page that is not inside a line end.
-    std::size_t place(const std::string& text) {
+    std::size_t place() {
+        const std::string& text = front().text;
         const std::size_t at = below(text.size() + 1);
         return at > 0 && at < text.size() && text[at] == '\n' ? at - 1 : at;
     }
     std::string word() {
-        std::string text;
-        for (std::size_t length = 1 + below(8); text.size() < length;)
-            text += static_cast<char>('a' + below(26));
+        std::string text(1 + below(8), ' ');
+        for (char& c : text) c = static_cast<char>('a' + below(26));
         return text;
     }
 
     // ---- The program.
     Page& front() {
-        const HWND window = quillon_->page();
-        for (Page& page : pages_) {
-            if (page.window == window) return page;
-        }
-        ADD_FAILURE() << "a page that nobody opened";
-        return pages_.front();
+        const auto found =
+            std::find_if(pages_.begin(), pages_.end(),
+                         [window = quillon_->page()](auto& page) { return page.window == window; });
+        EXPECT_TRUE(found != pages_.end()) << "a page that nobody opened";
+        return found == pages_.end() ? pages_.front() : *found;
     }
-    LRESULT send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
+    static LRESULT send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
         DWORD_PTR result = 0;
         if (!::SendMessageTimeoutA(window, message, wParam, lParam, SMTO_NORMAL, 20000, &result))
             ADD_FAILURE() << "no answer to message " << message;
         return static_cast<LRESULT>(result);
     }
-    void run(int command) const { send(quillon_->window(), WM_COMMAND, static_cast<WPARAM>(command)); }
-    void post(int command) const {
-        ::PostMessageA(quillon_->window(), WM_COMMAND, static_cast<WPARAM>(command), 0);
-    }
-    void click(HWND dialog, const char* button) const {
-        send(seen::Child(dialog, button, "Button"), BM_CLICK);
-    }
-    void fill(HWND dialog, const std::string& first, const std::string& second, const char* button) {
-        const HWND edit = seen::ChildOfClass(dialog, "Edit");
-        send(edit, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(first.c_str()));
-        send(::GetNextDlgTabItem(dialog, edit, FALSE), WM_SETTEXT, 0,
-             reinterpret_cast<LPARAM>(second.c_str()));
-        click(dialog, button);
-    }
+    // Until it is done; with choose() a dialog may come up meanwhile.
+    void run(int command) { send(quillon_->window(), WM_COMMAND, static_cast<WPARAM>(command)); }
     // Waits until the window has gone, after a message to it where one is needed.
     static void gone(HWND window, UINT message = WM_NULL) {
         ::PostMessageA(window, message, 0, 0);
@@ -88,33 +75,28 @@ class MonkeyTest : public QuillonTest {
     }
 
     // ---- Changes of the page in front.
-    struct Range {
-        std::size_t start, end;
-    };
-    Range select() {
-        const std::string& text = front().text;
-        std::size_t start = place(text);
-        std::size_t end = below(3) == 0 ? place(text) : start;
-        if (end < start) std::swap(start, end);
-        if (end - start > 400) end = start;
-        send(quillon_->pad(), EM_SETSEL, start, static_cast<LPARAM>(end));
-        return {start, end};
+    // Selects something, mostly nothing, for what comes next to replace.
+    void select() {
+        start_ = end_ = place();
+        if (below(3) == 0) end_ = place();
+        if (end_ < start_ || end_ - start_ > 400) end_ = start_;
+        send(quillon_->pad(), EM_SETSEL, start_, static_cast<LPARAM>(end_));
     }
-    void replaced(Range range, std::string_view with) {
-        Page& page = front();
-        page.text.replace(range.start, range.end - range.start, with);
-        page.changed = true;
+    void replaced(std::string_view with) {
+        front().text.replace(start_, end_ - start_, with);
+        front().changed = true;
     }
     void type() {
-        const Range range = select();
+        select();
         const std::string text = word();
         for (const char c : text) ::PostMessageA(quillon_->pad(), WM_CHAR, static_cast<unsigned char>(c), 0);
-        const std::size_t key = below(4);
-        constexpr WPARAM kKeys[] = {0, VK_RETURN, VK_TAB, VK_BACK};
-        if (key > 0) ::PostMessageA(quillon_->pad(), WM_KEYDOWN, kKeys[key], 0);
-        const std::string typed[] = {text, text + "\r\n", text + std::string(front().tab, ' '),
-                                     text.substr(0, text.size() - 1)};
-        replaced(range, typed[key]);
+        const std::pair<WPARAM, std::string> keys[] = {{0, text},
+                                                       {VK_RETURN, text + "\r\n"},
+                                                       {VK_TAB, text + std::string(front().tab, ' ')},
+                                                       {VK_BACK, text.substr(0, text.size() - 1)}};
+        const auto& [key, typed] = keys[below(4)];
+        if (key != 0) ::PostMessageA(quillon_->pad(), WM_KEYDOWN, key, 0);
+        replaced(typed);
     }
     void insertTag() {
         static constexpr std::pair<int, TagMenu> kMenus[] = {
@@ -126,7 +108,8 @@ class MonkeyTest : public QuillonTest {
         const std::string_view tag = authoring::TagFragment(menu, index);
         if (tag.empty()) return;
         const std::string before = front().text;
-        replaced(select(), tag);
+        select();
+        replaced(tag);
         run(first + index);
         if (below(3) != 0) return;
         EXPECT_EQ(quillon_->pageText(), front().text);
@@ -134,53 +117,50 @@ class MonkeyTest : public QuillonTest {
         front().text = before;
     }
     void color() {
-        const Range range = select();
+        select();
         run(tbrColor);
         const HWND chart = quillon_->waitForDialog("Click for Color Tag...");
-        const std::string text = below(2) == 0 ? "\"#CC00FF\"" : "\"#003399\"";
-        const HWND box = seen::Child(chart, text);
+        clipboard_ = below(2) == 0 ? "\"#CC00FF\"" : "\"#003399\"";
+        const HWND box = seen::Child(chart, clipboard_);
         ::PostMessageA(box, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
         ::PostMessageA(box, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
         gone(chart);
-        replaced(range, text);
-        clipboard_ = text;
+        replaced(clipboard_);
     }
-    void clipboard() {
-        const Range range = select();
-        const std::string selected = front().text.substr(range.start, range.end - range.start);
-        const std::size_t action = below(3);
-        run(action == 0 ? mnuEditCut : action == 1 ? mnuEditCopy : mnuEditPaste);
-        if (action < 2 && !selected.empty()) clipboard_ = selected;
-        if (action == 0 && !selected.empty()) replaced(range, "");
-        if (action == 2) replaced(range, clipboard_);
+    void paste() {
+        select();
+        run(mnuEditPaste);
+        replaced(clipboard_);
+    }
+    void cutOrCopy() {
+        select();
+        const bool cuts = below(2) == 0;
+        run(cuts ? mnuEditCut : mnuEditCopy);
+        if (start_ == end_) return;
+        clipboard_ = front().text.substr(start_, end_ - start_);
+        if (cuts) replaced("");
     }
     void replace() {
-        Page& page = front();
-        const std::size_t at = place(page.text);
-        const std::string find =
-            page.text.substr(at, std::min<std::size_t>(1 + below(3), page.text.find('\r', at) - at));
-        if (find.empty() || find[0] == '\r') return;
+        std::string& text = front().text;
+        const std::string find = text.substr(place(), 1 + below(3));
+        if (find.empty() || find.find_first_of("\r\n") != std::string::npos) return;
         const std::string with = word();
+        const bool all = below(2) == 0;
+        for (std::size_t at = text.find(find); at != std::string::npos;) {
+            text.replace(at, find.size(), with);
+            at = all ? text.find(find, at + with.size()) : std::string::npos;
+        }
+        front().changed = true;
         run(tbrReplace);
         const HWND dialog = quillon_->waitForDialog("Replace");
-        const bool all = below(2) == 0;
-        std::string text;
-        for (std::size_t i = 0; i < page.text.size();) {
-            const bool match =
-                page.text.compare(i, find.size(), find) == 0 && (all || i <= page.text.find(find));
-            text += match ? with : page.text.substr(i, 1);
-            i += match ? find.size() : 1;
-        }
-        fill(dialog, find, with, all ? "Replace All" : "Replace");
+        seen::FillIn(dialog, find, with, all ? "Replace All" : "Replace");
         if (all) clipboard_ = text;
-        if (!all) click(dialog, "Cancel");
-        page.text = text;
-        page.changed = true;
+        if (!all) ::PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
         gone(dialog);
     }
     void reset() {
         Page& page = front();
-        post(tbrReset);
+        quillon_->choose(tbrReset);
         if (page.path.empty() || !page.changed) return void(quillon_->answer("Quillon", IDOK));
         if (!page.text.empty()) clipboard_ = page.text;
         page.text = files_[page.path];
@@ -192,28 +172,26 @@ class MonkeyTest : public QuillonTest {
         run(mnuFileNew);
         opened(document::kPageOutline, "");
     }
-    void saved(Page& page, const std::string& path) {
-        page.path = path;
+    void saved(const std::string& path) {
+        Page& page = front();
+        page.path = recent_ = path;
         page.changed = false;
         files_[path] = page.text + "\r\n";
-        recent_ = path;
         EXPECT_TRUE(quillon_->shows("Saved :  " + path));
     }
     void save() {
         if (front().path.empty()) return saveAs();
         run(mnuFileSave);
-        saved(front(), front().path);
+        saved(front().path);
     }
     void saveAs() {
         const std::string path = scratch("page" + std::to_string(below(9)) + ".htm");
-        post(mnuFileSaveAs);
+        quillon_->choose(mnuFileSaveAs);
         quillon_->chooseFile("Save File As...", path, files_.count(path) != 0);
-        saved(front(), path);
+        saved(path);
     }
     void expectOpened(const std::string& path) {
-        const bool open =
-            std::any_of(pages_.begin(), pages_.end(), [&](const Page& page) { return page.path == path; });
-        if (open) {
+        if (std::any_of(pages_.begin(), pages_.end(), [&](const Page& page) { return page.path == path; })) {
             quillon_->answer("Quillon", IDOK);
         } else {
             opened(files_[path], recent_ = path);
@@ -222,13 +200,13 @@ class MonkeyTest : public QuillonTest {
     void openFile() {
         if (files_.empty()) return;
         const std::string path = std::next(files_.begin(), static_cast<long>(below(files_.size())))->first;
-        post(mnuFileOpen);
+        quillon_->choose(mnuFileOpen);
         quillon_->chooseFile("Open File...", path);
         expectOpened(path);
     }
     void openRecent() {
         if (recent_.empty()) return;
-        post(mnuFileMRU + 1);
+        quillon_->choose(mnuFileMRU + 1);
         expectOpened(recent_);
     }
     void addTemplate() {
@@ -236,9 +214,10 @@ class MonkeyTest : public QuillonTest {
         for (const auto& [known, page] : templates_) {
             if (known == name) return;
         }
-        post(mnuOptsTempAdd);
-        fill(quillon_->waitForDialog("Add a Template"), name, "ID " + name, "Enter");
-        gone(seen::Dialog(quillon_->process(), "Add a Template"));
+        quillon_->choose(mnuOptsTempAdd);
+        const HWND dialog = quillon_->waitForDialog("Add a Template");
+        seen::FillIn(dialog, name, "ID " + name, "Enter");
+        gone(dialog);
         templates_.insert(templates_.begin(), {name, front().text + "\r\n"});
         if (templates_.size() > 9) templates_.pop_back();
     }
@@ -252,9 +231,9 @@ class MonkeyTest : public QuillonTest {
     void deleteTemplate() {
         if (templates_.empty()) return;
         const std::size_t slot = below(templates_.size());
-        post(mnuOptsTempOrg);
+        quillon_->choose(mnuOptsTempOrg);
         const HWND dialog = quillon_->waitForDialog("Organize Templates");
-        click(dialog, "Delete");
+        send(seen::Child(dialog, "Delete", "Button"), BM_CLICK);
         send(seen::ChildOfClass(dialog, "ComboBox"), CB_SETCURSEL, slot);
         ::PostMessageA(seen::Child(dialog, "Enter", "Button"), BM_CLICK, 0, 0);
         quillon_->answer("Confirm file deletion", IDYES);
@@ -264,12 +243,11 @@ class MonkeyTest : public QuillonTest {
     void closePage() {
         const Page page = front();
         const bool keeps = page.changed && below(10) == 0;
-        post(mnuFileClose);
+        quillon_->choose(mnuFileClose);
         if (page.changed) quillon_->answer("Quillon", keeps ? IDYES : IDNO);
         if (keeps) {
-            quillon_->chooseFile("Save File As...", scratch("kept.htm"),
-                                 files_.count(scratch("kept.htm")) != 0);
             recent_ = scratch("kept.htm");
+            quillon_->chooseFile("Save File As...", recent_, files_.count(recent_) != 0);
             files_[recent_] = page.text + "\r\n";
         }
         gone(page.window);
@@ -281,36 +259,33 @@ class MonkeyTest : public QuillonTest {
         EXPECT_EQ(quillon_->page(), pages_[index].window);
     }
     void arrange() {
-        const std::size_t choice = below(5);
-        if (choice < 2) run(mnuWind + static_cast<int>(choice) * 2);
-        if (choice == 2) run(mnuOptWW);
-        if (choice > 2) {
-            tab_ = front().tab = 3 + below(6);
-            run(mnuOptTabsList + static_cast<int>(tab_) - 3);
-        }
+        constexpr int kCommands[] = {mnuWind, mnuWind + 2, mnuOptWW};
+        run(kCommands[below(std::size(kCommands))]);
+    }
+    void setTab() {
+        tab_ = front().tab = 3 + below(6);
+        run(mnuOptTabsList + static_cast<int>(tab_) - 3);
     }
     void look() {
-        using Item = std::pair<int, const char*>;
-        static constexpr Item kDialogs[] = {{mnuHelpCont, "Quillon Help"},
-                                            {mnuHelpAbout, "About Quillon"},
-                                            {mnuOptFont, "Fonts"},
-                                            {mnuUploadSite, "ADD An Upload Site"},
-                                            {mnuFileOpen, "Open File..."},
-                                            {mnuOptsTempAdd, "Add a Template"},
-                                            {tbrFind, "Find"},
-                                            {tbrColor, "Click for Color Tag..."}};
+        static constexpr std::pair<int, const char*> kDialogs[] = {{mnuHelpCont, "Quillon Help"},
+                                                                   {mnuHelpAbout, "About Quillon"},
+                                                                   {mnuOptFont, "Fonts"},
+                                                                   {mnuUploadSite, "ADD An Upload Site"},
+                                                                   {mnuFileOpen, "Open File..."},
+                                                                   {mnuOptsTempAdd, "Add a Template"},
+                                                                   {tbrColor, "Click for Color Tag..."},
+                                                                   {tbrFind, "Find"}};
         const auto [command, title] = kDialogs[below(std::size(kDialogs))];
-        post(command);
+        quillon_->choose(command);
         gone(quillon_->waitForDialog(title), WM_CLOSE);
     }
 
     // ---- What must hold at any time.
     void check() {
         EXPECT_TRUE(quillon_->isRunning());
-        const bool alone = seen::Until([this] {
+        EXPECT_TRUE(seen::Until([this] {
             return seen::TopLevel(quillon_->process()).size() == 1 && ::IsWindowEnabled(quillon_->window());
-        });
-        EXPECT_TRUE(alone) << "something is still open";
+        })) << "something is still open";
         if (pages_.empty()) return;
         seen::Until([this] { return quillon_->pageText() == front().text; });
         EXPECT_EQ(quillon_->pageText(), front().text);
@@ -329,22 +304,21 @@ class MonkeyTest : public QuillonTest {
         const seen::Holdings held = seen::HeldBy(quillon_->process());
         std::printf("%6d actions: %d windows, %d GDI objects, %lu KB\n", actions_, held.windows, held.gdi,
                     static_cast<unsigned long>(held.kilobytes));
-        if (++rests_ == 3) warm_ = held;
-        if (rests_ > 3) {
-            EXPECT_LE(held.windows, warm_.windows);
-            EXPECT_LE(held.gdi, warm_.gdi + 24);
-            EXPECT_LE(held.kilobytes, warm_.kilobytes + 4096);
-        }
+        if (++rests_ <= 3) warm_ = held;
+        EXPECT_LE(held.windows, warm_.windows);
+        EXPECT_LE(held.gdi, warm_.gdi + 24);
+        EXPECT_LE(held.kilobytes, warm_.kilobytes + 4096);
         newPage();
     }
     void act() {
         using M = MonkeyTest;
         static constexpr void (M::*kActions[])() = {
-            &M::type,           &M::type,      &M::type,       &M::type,        &M::insertTag,
-            &M::insertTag,      &M::insertTag, &M::clipboard,  &M::clipboard,   &M::color,
-            &M::replace,        &M::reset,     &M::save,       &M::save,        &M::saveAs,
-            &M::newPage,        &M::openFile,  &M::openRecent, &M::addTemplate, &M::openTemplate,
-            &M::deleteTemplate, &M::closePage, &M::switchPage, &M::arrange,     &M::look};
+            &M::type,      &M::type,        &M::type,         &M::type,           &M::insertTag,
+            &M::insertTag, &M::insertTag,   &M::paste,        &M::cutOrCopy,      &M::color,
+            &M::replace,   &M::reset,       &M::save,         &M::save,           &M::saveAs,
+            &M::newPage,   &M::openFile,    &M::openRecent,   &M::look,           &M::arrange,
+            &M::setTab,    &M::addTemplate, &M::openTemplate, &M::deleteTemplate, &M::closePage,
+            &M::switchPage};
         if (pages_.empty()) return newPage();
         if (pages_.size() > 6) return closePage();
         const std::size_t action = below(std::size(kActions));
@@ -358,18 +332,16 @@ class MonkeyTest : public QuillonTest {
     std::vector<Page> pages_;
     std::map<std::string, std::string> files_;
     std::vector<std::pair<std::string, std::string>> templates_;  // newest first
-    std::string recent_;
-    std::string clipboard_;
+    std::string recent_, clipboard_;
+    std::size_t start_ = 0, end_ = 0;  // of the selection
     std::size_t tab_ = 4;
-    int actions_ = 0;
-    int rests_ = 0;
+    int actions_ = 0, rests_ = 0;
     seen::Holdings warm_;
 };
 
 TEST_F(MonkeyTest, NoUserLosesAnything) {
     const auto seed = static_cast<unsigned>(EnvironmentNumber("QUILLON_MONKEY_SEED", 1));
     const auto seconds = static_cast<DWORD>(EnvironmentNumber("QUILLON_MONKEY_SECONDS", 20));
-    std::printf("seed %u\n", seed);
     random_.seed(seed);
     pages_.push_back({quillon_->page(), document::kPageOutline, ""});
     run(mnuEditAll);

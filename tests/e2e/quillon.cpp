@@ -1,38 +1,17 @@
 #include "e2e/quillon.h"
 
-#include <algorithm>
 #include <cstdlib>
-
-#include <shellapi.h>
 
 #include "shell/menu_table.h"
 
 namespace {
 
-std::string Environment(const char* name) {
-    const char* value = std::getenv(name);
-    return value ? value : "";
-}
-
-std::vector<std::string> Split(const std::string& path) {
-    std::vector<std::string> parts{""};
-    for (const char c : path) {
-        if (c == '/') {
-            parts.emplace_back();
-        } else {
-            parts.back() += c;
-        }
-    }
-    return parts;
-}
-
 Command CommandOf(const std::string& path) {
-    const std::vector<std::string> wanted = Split(path);
-    std::vector<std::string> open;
+    std::vector<std::string> open;  // the paths of the menus down to the row
     for (const win::MenuRow& row : shell::kMenu) {
         open.resize(row.level);
-        open.emplace_back(row.caption);
-        if (open == wanted) return row.id;
+        open.push_back((open.empty() ? "" : open.back() + "/") + row.caption);
+        if (open.back() == path) return row.id;
     }
     ADD_FAILURE() << "no menu item " << path;
     return 0;
@@ -45,15 +24,6 @@ void Press(WORD virtualKey, WORD unicode, bool up) {
     input.ki.wScan = unicode;
     input.ki.dwFlags = (unicode ? KEYEVENTF_UNICODE : 0U) | (up ? KEYEVENTF_KEYUP : 0U);
     ::SendInput(1, &input, sizeof input);
-}
-
-void DeleteKeyTree(const std::string& path) {
-    HKEY key = nullptr;
-    if (::RegOpenKeyExA(HKEY_CURRENT_USER, path.c_str(), 0, KEY_ALL_ACCESS, &key) != ERROR_SUCCESS) return;
-    char child[256];
-    while (::RegEnumKeyA(key, 0, child, sizeof child) == ERROR_SUCCESS) DeleteKeyTree(path + "\\" + child);
-    ::RegCloseKey(key);
-    ::RegDeleteKeyA(HKEY_CURRENT_USER, path.c_str());
 }
 
 }  // namespace
@@ -73,9 +43,7 @@ Quillon::Quillon(const std::string& file, bool wait) {
     id_ = process.dwProcessId;
     if (!wait) return;
     const bool came = seen::Until([this] {
-        for (const HWND window : seen::TopLevel(id_)) {
-            if (seen::ClassOf(window) == "frmNotePad") window_ = window;
-        }
+        window_ = anyOfClass("frmNotePad");
         return window_ && pad() && ::IsWindowEnabled(window_);
     });
     if (!came) ADD_FAILURE() << "no page came: " << command;
@@ -114,8 +82,12 @@ bool Quillon::shows(const std::string& label) const {
     return seen::Until([&] { return seen::Child(window_, label, "Static") != nullptr; });
 }
 
+void Quillon::choose(int command) const {
+    ::PostMessageA(window_, WM_COMMAND, static_cast<WPARAM>(command), 0);
+}
+
 void Quillon::choose(const std::string& path) const {
-    ::PostMessageA(window_, WM_COMMAND, CommandOf(path), 0);
+    choose(static_cast<int>(CommandOf(path)));
 }
 
 void Quillon::bringToFront() const {
@@ -146,27 +118,20 @@ void Quillon::pressKey(WORD virtualKey, bool control) const {
     if (control) Press(VK_CONTROL, 0, true);
 }
 
-HWND Quillon::waitForDialog(const std::string& title) const {
-    HWND dialog = nullptr;
-    if (!seen::Until([&] {
-            dialog = seen::Titled(id_, title);
-            return dialog && dialog != window_ && ::IsWindowEnabled(dialog);
-        })) {
-        ADD_FAILURE() << "no window came with the title \"" << title << '"';
+HWND Quillon::anyOfClass(const std::string& cls, HWND but) const {
+    for (const HWND window : seen::TopLevel(id_)) {
+        if (window != but && seen::ClassOf(window) == cls) return window;
     }
-    return dialog;
+    return nullptr;
 }
 
-HWND Quillon::waitForBox(const std::string& title) const {
+HWND Quillon::waitFor(const std::string& title, HWND (*find)(DWORD, const std::string&)) const {
     HWND dialog = nullptr;
-    // The main window has the same title as many boxes.
     const bool came = seen::Until([&] {
-        for (const HWND window : seen::TopLevel(id_)) {
-            if (seen::ClassOf(window) == "#32770" && seen::TextOf(window) == title) dialog = window;
-        }
-        return dialog != nullptr;
+        dialog = find(id_, title);
+        return dialog && dialog != window_ && ::IsWindowEnabled(dialog);
     });
-    if (!came) ADD_FAILURE() << "no box came with the title \"" << title << '"';
+    if (!came) ADD_FAILURE() << "no window came with the title \"" << title << '"';
     return dialog;
 }
 
@@ -182,15 +147,9 @@ std::string Quillon::answer(const std::string& title, WORD button) const {
 void Quillon::chooseFile(const std::string& title, const std::string& path, bool exists) const {
     const HWND dialog = waitForDialog(title);
     seen::ChooseFile(dialog, path);
-    HWND question = nullptr;
     // The question has the dialog's own title.
-    const auto asked = [&] {
-        for (const HWND window : seen::TopLevel(id_)) {
-            if (window != dialog && seen::ClassOf(window) == "#32770") question = window;
-        }
-        return question != nullptr;
-    };
-    if (exists && seen::Until(asked)) ::PostMessageA(question, WM_COMMAND, IDYES, 0);
+    if (exists && seen::Until([&] { return anyOfClass("#32770", dialog) != nullptr; }))
+        ::PostMessageA(anyOfClass("#32770", dialog), WM_COMMAND, IDYES, 0);
     seen::Until([dialog] { return !::IsWindow(dialog); });
 }
 
@@ -211,43 +170,11 @@ int EnvironmentNumber(const char* name, int otherwise) {
 }
 
 void QuillonTest::SetUp() {
+    FilesTest::SetUp();
     DeleteKeyTree("Software\\VB and VBA Program Settings\\Quillon");
     DeleteKeyTree("Software\\Corvale\\Quillon");
     HKEY key = nullptr;
     ::RegCreateKeyA(HKEY_CURRENT_USER, "Software\\VB and VBA Program Settings\\Quillon\\File Count", &key);
     ::RegSetValueExA(key, "Count", 0, REG_SZ, reinterpret_cast<const BYTE*>("0"), 2);
     ::RegCloseKey(key);
-    std::string folder = scratch("");
-    folder.back() = '\0';
-    SHFILEOPSTRUCTA operation{};
-    operation.wFunc = FO_DELETE;
-    operation.pFrom = folder.append(1, '\0').c_str();
-    operation.fFlags = FOF_NOCONFIRMATION | FOF_SILENT | FOF_NOERRORUI;
-    ::SHFileOperationA(&operation);
-    ::CreateDirectoryA(folder.c_str(), nullptr);
-}
-
-std::string QuillonTest::scratch(const std::string& name) {
-    return Environment("QUILLON_SCRATCH") + "\\e2e\\" + name;
-}
-
-void QuillonTest::writeFile(const std::string& path, const std::string& bytes) {
-    const HANDLE file = ::CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-    DWORD written = 0;
-    ::WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
-    ::CloseHandle(file);
-    ASSERT_EQ(written, bytes.size()) << path;
-}
-
-std::string QuillonTest::readFile(const std::string& path) {
-    const HANDLE file =
-        ::CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                      nullptr, OPEN_EXISTING, 0, nullptr);
-    if (file == INVALID_HANDLE_VALUE) return "(no file)";
-    std::string bytes(::GetFileSize(file, nullptr), '\0');
-    DWORD read = 0;
-    ::ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr);
-    ::CloseHandle(file);
-    bytes.resize(read);
-    return bytes;
 }

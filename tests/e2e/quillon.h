@@ -4,8 +4,7 @@
 #include <string>
 #include <vector>
 
-#include <gtest/gtest.h>
-
+#include "support/files_test.h"
 #include "support/windows_seen.h"
 
 // One running Quillon.exe. Ends with the object, without questions.
@@ -32,15 +31,17 @@ class Quillon {
     bool shows(const std::string& label) const;
     std::vector<HWND> pages() const;
 
+    // Chooses a menu item or a button of the toolbar, without waiting until it is done.
+    void choose(int command) const;
     // Chooses a menu item by the captions on the way to it, as "File/Save As".
     void choose(const std::string& path) const;
     // Brings the program to the front and sends keys to whatever has the focus there.
     void typeText(const std::string& text) const;
     void pressKey(WORD virtualKey, bool control = false) const;
 
-    HWND waitForDialog(const std::string& title) const;
-    // A dialog that may have the main window's title.
-    HWND waitForBox(const std::string& title) const;
+    HWND waitForDialog(const std::string& title) const { return waitFor(title, seen::Titled); }
+    // A dialog of the system's, which may have the main window's title.
+    HWND waitForBox(const std::string& title) const { return waitFor(title, seen::Dialog); }
     // Waits for such a dialog, presses the button and waits until it is gone. Gives what it said.
     std::string answer(const std::string& title, WORD button) const;
     // `exists` when the dialog will ask whether to write over the file.
@@ -48,6 +49,8 @@ class Quillon {
 
  private:
     void bringToFront() const;
+    HWND waitFor(const std::string& title, HWND (*find)(DWORD, const std::string&)) const;
+    HWND anyOfClass(const std::string& cls, HWND but = nullptr) const;
 
     HANDLE handle_ = nullptr;
     DWORD id_ = 0;
@@ -62,11 +65,8 @@ void RemoveTemplate(const std::string& name);
 // A number from the environment of the test run.
 int EnvironmentNumber(const char* name, int otherwise);
 
-// Each test starts with no settings but a welcome already given, and an empty folder of its own.
-class QuillonTest : public ::testing::Test {
+// Each test starts with no settings but a welcome already given.
+class QuillonTest : public FilesTest {
  protected:
     void SetUp() override;
-    static std::string scratch(const std::string& name);
-    static void writeFile(const std::string& path, const std::string& bytes);
-    static std::string readFile(const std::string& path);
 };

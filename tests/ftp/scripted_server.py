@@ -12,7 +12,7 @@ one or more of these words, separated by blanks:
   list-NAME     listings are those of NAME: "odd", "long", "endless"
   stay          a directory that has been entered is never left again
 
-Every password is right. LOG gets the commands, a line each, passwords included, and what was uploaded.
+Every password is right. LOG gets the commands, a line each, passwords included.
 """
 import os
 import socket
@@ -34,12 +34,11 @@ def ordinary():
 
 
 def odd():
-    for name in (b"..\\up.htm", b"/etc/passwd", b"C:\\boot.ini", b"CON", b"a\x01b\x7f.htm", b"%TEMP%.htm", b"caf\xe9.htm"):
+    for name in (b"..\\up.htm", b"/etc/passwd", b"C:\\boot.ini", b"CON", b"a\x01b\x7f.htm", b"%TEMP%.htm",
+                 b"caf\xe9.htm"):
         yield line(name)
     yield b"what is this line\r\n"  # an empty one would end Wine's own wininet
-    yield line(b".", True)
-    yield line(b"..", True)
-    yield line(b"last.htm")
+    yield line(b".", True) + line(b"..", True) + line(b"last.htm")
 
 
 def long():
@@ -55,14 +54,17 @@ def endless():
         yield b"".join(line(b"page%d.htm" % (number * 1000 + i)) for i in range(1000))
 
 
-LISTINGS = {"odd": odd, "long": long, "endless": endless}
+ANSWERS = {"USER": "331 password", "PASS": "230 in", "SYST": "215 UNIX Type: L8", "TYPE": "200 ok",
+           "NOOP": "200 ok", "ALLO": "200 ok", "DELE": "250 ok", "RMD": "250 ok", "RNFR": "350 to what",
+           "RNTO": "250 ok", "MKD": "257 made"}
+LISTINGS = {"ordinary": ordinary, "odd": odd, "long": long, "endless": endless}
 
 
 class Session(threading.Thread):
     def __init__(self, control, log):
         super().__init__(daemon=True)
         self.control, self.log = control, log
-        self.words, self.directory, self.data_address, self.listener = [], b"/", None, None
+        self.words, self.directory, self.data_address = [], b"/", None
 
     def reply(self, text):
         self.control.sendall(text.encode("latin-1") + b"\r\n")
@@ -95,24 +97,10 @@ class Session(threading.Thread):
             self.reply("530 no" if command == "PASS" else "550 no")
             return True
         handler = getattr(self, "on_" + command, None)
-        if not handler:
-            self.reply("502 unknown")
-            return True
-        return handler(argument) is not False
-
-    def on_USER(self, _):
-        self.reply("331 password")
-
-    def on_PASS(self, _):
-        self.reply("230 in")
-
-    def on_SYST(self, _):
-        self.reply("215 UNIX Type: L8")
-
-    def on_TYPE(self, _):
-        self.reply("200 ok")
-
-    on_NOOP = on_ALLO = on_TYPE
+        if handler:
+            return handler(argument) is not False
+        self.reply(ANSWERS.get(command, "502 unknown"))
+        return True
 
     def on_QUIT(self, _):
         self.reply("221 bye")
@@ -137,42 +125,30 @@ class Session(threading.Thread):
         self.data_address = ("127.0.0.1", numbers[4] * 256 + numbers[5])
         self.reply("200 ok")
 
-    def on_PASV(self, _):
-        self.listener = socket.create_server(("127.0.0.1", 0))
-        port = self.listener.getsockname()[1]
-        self.reply("227 ok (127,0,0,1,%d,%d)" % (port // 256, port % 256))
-
     def open_data(self):
         self.reply("150 coming")
-        if self.listener:
-            data, _ = self.listener.accept()
-            self.listener.close()
-            self.listener = None
-            return data
         return socket.create_connection(self.data_address)
+
+    def is_whole(self, command):
+        return f"cut-{command}" not in self.words and f"break-{command}" not in self.words
 
     def finish(self, command):
         if f"break-{command}" in self.words:
             return False
-        self.reply("426 broken off" if f"cut-{command}" in self.words else "226 done")
+        self.reply("226 done" if self.is_whole(command) else "426 broken off")
         return True
-
-    def halved(self, command, chunks):
-        whole = f"cut-{command}" not in self.words and f"break-{command}" not in self.words
-        for chunk in chunks:
-            yield chunk if whole else chunk[: len(chunk) // 2]
-            if not whole:
-                return
 
     def send(self, command, chunks):
         with self.open_data() as data:
-            for chunk in self.halved(command, chunks):
-                data.sendall(chunk)
+            for chunk in chunks:
+                data.sendall(chunk if self.is_whole(command) else chunk[: len(chunk) // 2])
+                if not self.is_whole(command):
+                    break
         return self.finish(command)
 
-    def on_LIST(self, argument):
-        names = [word[5:] for word in self.words if word.startswith("list-")]
-        return self.send("LIST", LISTINGS[names[0]]() if names else ordinary())
+    def on_LIST(self, _):
+        names = [word[5:] for word in self.words if word.startswith("list-")] or ["ordinary"]
+        return self.send("LIST", LISTINGS[names[0]]())
 
     def on_RETR(self, argument):
         name = argument.split(b"/")[-1]
@@ -180,23 +156,12 @@ class Session(threading.Thread):
 
     def on_STOR(self, _):
         with self.open_data() as data:
-            if "cut-STOR" in self.words or "break-STOR" in self.words:
-                data.recv(1000)
+            if self.is_whole("STOR"):
+                while data.recv(65536):
+                    pass
             else:
-                with data.makefile("rb") as stream:
-                    self.note(b"DATA " + stream.read()[:1000])
+                data.recv(1000)
         return self.finish("STOR")
-
-    def on_RNFR(self, _):
-        self.reply("350 to what")
-
-    def on_DELE(self, _):
-        self.reply("250 ok")
-
-    on_RMD = on_RNTO = on_DELE
-
-    def on_MKD(self, _):
-        self.reply("257 made")
 
 
 def main():

@@ -11,7 +11,6 @@
 #include "ftp/core/remote_path.h"
 #include "ftp/core/scramble.h"
 #include "ftp/core/site_url.h"
-#include "ftp/core/transfer_type.h"
 
 namespace {
 
@@ -56,7 +55,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         CheckMoveUp(ftp::JoinRemote("/" + previous, name), "/" + previous);
         Check(ftp::ScramblePassword(ftp::ScramblePassword(name)) == name);
         Check(ftp::SplitSiteUrl(name).host.find('/') == std::string::npos);
-        ftp::ChooseTransferType(ftp::TransferMode::automatic, name);
         Check(listing.add(name, data[0]));
         previous = name;
     }

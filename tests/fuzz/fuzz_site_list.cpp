@@ -105,16 +105,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     store.names().erase("99");  // a name of no site; the mark comes from the changes
     for (++at; at + 1 < size; at += 2) {
         const unsigned value = data[at + 1];
-        switch (data[at] % 3) {
-            case 0:
-                AddSite(store, "new" + std::to_string(value));
-                break;
-            case 1:
-                RemoveSite(store, static_cast<int>(value % 100));
-                break;
-            default:
-                store.names()["99"] = value < 240 ? std::to_string(value % 16) : std::string("x", value % 2);
-        }
+        const unsigned action = data[at] % 3;
+        if (action == 0) AddSite(store, "new" + std::to_string(value));
+        if (action == 1) RemoveSite(store, static_cast<int>(value % 100));
+        if (action == 2)
+            store.names()["99"] = value < 240 ? std::to_string(value % 16) : std::string("x", value % 2);
     }
     return 0;
 }

@@ -14,6 +14,11 @@ BOOL CALLBACK Collect(HWND window, LPARAM list) {
     return TRUE;
 }
 
+HWND FirstOf(const std::vector<HWND>& windows, const std::function<bool(HWND)>& wanted) {
+    const auto found = std::find_if(windows.begin(), windows.end(), wanted);
+    return found == windows.end() ? nullptr : *found;
+}
+
 bool BelongsTo(HWND window, DWORD process) {
     DWORD owner = 0;
     ::GetWindowThreadProcessId(window, &owner);
@@ -93,43 +98,31 @@ std::vector<HWND> Below(HWND parent) {
 }
 
 HWND Titled(DWORD process, const std::string& title) {
-    for (const HWND window : TopLevel(process)) {
-        if (TextOf(window) == title) return window;
-    }
-    return nullptr;
+    return FirstOf(TopLevel(process), [&](HWND window) { return TextOf(window) == title; });
 }
 
 HWND Dialog(DWORD process, const std::string& title) {
-    for (const HWND window : TopLevel(process)) {
-        if (ClassOf(window) == "#32770" && TextOf(window) == title) return window;
-    }
-    return nullptr;
+    return FirstOf(TopLevel(process),
+                   [&](HWND window) { return ClassOf(window) == "#32770" && TextOf(window) == title; });
 }
 
 HWND Child(HWND parent, const std::string& text, const std::string& cls) {
-    for (const HWND window : Below(parent)) {
-        if (::IsWindowVisible(window) && TextOf(window) == text && (cls.empty() || ClassOf(window) == cls)) {
-            return window;
-        }
-    }
-    return nullptr;
+    return FirstOf(Below(parent), [&](HWND window) {
+        return ::IsWindowVisible(window) && TextOf(window) == text && (cls.empty() || ClassOf(window) == cls);
+    });
 }
 
 HWND ChildOfClass(HWND parent, const std::string& cls) {
-    for (const HWND window : Below(parent)) {
-        if (::IsWindowVisible(window) && ::lstrcmpiA(ClassOf(window).c_str(), cls.c_str()) == 0)
-            return window;
-    }
-    return nullptr;
+    return FirstOf(Below(parent), [&](HWND window) {
+        return ::IsWindowVisible(window) && ::lstrcmpiA(ClassOf(window).c_str(), cls.c_str()) == 0;
+    });
 }
 
 std::string LabelsOf(HWND dialog) {
     std::string labels;
     for (const HWND window : Below(dialog)) {
-        if (ClassOf(window) != "Static" || !::IsWindowVisible(window)) continue;
-        const std::string text = TextOf(window);
-        if (text.empty()) continue;
-        labels.append(labels.empty() ? "" : "\n").append(text);
+        if (ClassOf(window) != "Static" || !::IsWindowVisible(window) || TextOf(window).empty()) continue;
+        labels.append(labels.empty() ? "" : "\n").append(TextOf(window));
     }
     return labels;
 }
@@ -143,10 +136,21 @@ bool Until(const std::function<bool()>& condition, DWORD milliseconds) {
     return true;
 }
 
+void FillIn(HWND dialog, const std::string& first, const std::string& second, const std::string& button) {
+    const HWND edit = ChildOfClass(dialog, "Edit");
+    ::SendMessageA(edit, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(first.c_str()));
+    ::SendMessageA(::GetNextDlgTabItem(dialog, edit, FALSE), WM_SETTEXT, 0,
+                   reinterpret_cast<LPARAM>(second.c_str()));
+    ::PostMessageA(Child(dialog, button, "Button"), BM_CLICK, 0, 0);
+}
+
+HWND FileNameBox(HWND dialog) {
+    const HWND combo = ::GetDlgItem(dialog, 0x47c);      // cmb13
+    return combo ? combo : ::GetDlgItem(dialog, 0x480);  // edt1
+}
+
 void ChooseFile(HWND dialog, const std::string& path) {
-    HWND name = ::GetDlgItem(dialog, 0x47c);        // cmb13
-    if (!name) name = ::GetDlgItem(dialog, 0x480);  // edt1
-    ::SendMessageA(name, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(path.c_str()));
+    ::SendMessageA(FileNameBox(dialog), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(path.c_str()));
     ::PostMessageA(dialog, WM_COMMAND, IDOK, 0);
 }
 

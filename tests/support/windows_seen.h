@@ -26,8 +26,7 @@ HWND Dialog(DWORD process, const std::string& title);
 HWND Child(HWND parent, const std::string& text, const std::string& cls = "");
 HWND ChildOfClass(HWND parent, const std::string& cls);
 
-// What a dialog says: the texts of the labels that are in sight, in order, without the
-// empty ones.
+// What a dialog says: the texts of the labels that are in sight, in order, without the empty ones.
 std::string LabelsOf(HWND dialog);
 
 // How many things of the system's a process holds.
@@ -41,6 +40,11 @@ Holdings HeldBy(DWORD process);
 // Polls until the condition holds; false when it has not come true within ten seconds.
 bool Until(const std::function<bool()>& condition, DWORD milliseconds = 10000);
 
+// Puts texts into the first two edit fields of a dialog, then has one of its buttons pressed.
+void FillIn(HWND dialog, const std::string& first, const std::string& second, const std::string& button);
+
+// The box of a file dialog of the system for the name of the file.
+HWND FileNameBox(HWND dialog);
 // Puts a path into a file dialog of the system and presses its default button.
 void ChooseFile(HWND dialog, const std::string& path);
 

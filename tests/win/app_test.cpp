@@ -11,38 +11,11 @@ namespace {
 
 constexpr char kScratchKey[] = "Software\\Quillon tests";
 
-void DeleteKeyTree(HKEY parent, const std::string& name) {
-    HKEY opened = nullptr;
-    if (::RegOpenKeyExA(parent, name.c_str(), 0, KEY_ALL_ACCESS, &opened) != ERROR_SUCCESS) return;
-    {
-        const win::UniqueKey key(opened);
-        char child[256];
-        while (::RegEnumKeyA(opened, 0, child, sizeof child) == ERROR_SUCCESS) DeleteKeyTree(opened, child);
-    }
-    ::RegDeleteKeyA(parent, name.c_str());
-}
-
-std::string ScratchFolder() {
-    char folder[MAX_PATH];
-    if (::GetEnvironmentVariableA("QUILLON_SCRATCH", folder, sizeof folder) == 0)
-        ::lstrcpyA(folder, "C:\\scratch");
-    return std::string(folder) + "\\win";
-}
-
 }  // namespace
-
-void DeleteTree(const std::string& folder) {
-    std::string from = folder + '\0';
-    SHFILEOPSTRUCTA operation{};
-    operation.wFunc = FO_DELETE;
-    operation.pFrom = from.c_str();
-    operation.fFlags = FOF_NOCONFIRMATION | FOF_SILENT | FOF_NOERRORUI;
-    ::SHFileOperationA(&operation);
-}
 
 ScratchRegistry::ScratchRegistry() {
     HKEY key = nullptr;
-    DeleteKeyTree(HKEY_CURRENT_USER, kScratchKey);
+    DeleteKeyTree(kScratchKey);
     ::RegCreateKeyA(HKEY_CURRENT_USER, kScratchKey, &key);
     const win::UniqueKey scratch(key);
     ::RegOverridePredefKey(HKEY_CURRENT_USER, key);
@@ -50,7 +23,7 @@ ScratchRegistry::ScratchRegistry() {
 
 ScratchRegistry::~ScratchRegistry() {
     ::RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
-    DeleteKeyTree(HKEY_CURRENT_USER, kScratchKey);
+    DeleteKeyTree(kScratchKey);
 }
 
 User::User(std::vector<Act> acts)
@@ -95,11 +68,8 @@ User::Act User::chooseFile(const std::string& title, const std::string& path) {
 }
 
 void AppTest::SetUp() {
+    FilesTest::SetUp();
     registry_.emplace();
-    folder_ = ScratchFolder();
-    DeleteTree(folder_);
-    ::CreateDirectoryA(folder_.substr(0, folder_.rfind('\\')).c_str(), nullptr);
-    ::CreateDirectoryA(folder_.c_str(), nullptr);
     settings::Save("File Count", "Count", "0");
     frmNotePad& window = frmNotePad::open();
     ::ShowWindow(window.hwnd(), SW_SHOW);
@@ -111,7 +81,6 @@ void AppTest::TearDown() {
     closeMain();
     MSG message{};
     while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageA(&message);
-    DeleteTree(folder_);
     registry_.reset();
 }
 
@@ -131,22 +100,4 @@ void AppTest::type(const std::string& text) {
     for (const char c : text) {
         ::SendMessageA(active().txtPad().hwnd(), WM_CHAR, static_cast<unsigned char>(c), 0);
     }
-}
-
-void AppTest::writeFile(const std::string& path, const std::string& bytes) {
-    const win::UniqueFile file(
-        ::CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
-    DWORD written = 0;
-    ::WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
-    ASSERT_EQ(written, bytes.size()) << path;
-}
-
-std::string AppTest::readFile(const std::string& path) {
-    const win::UniqueFile file(
-        ::CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
-    if (!file) return "(no file)";
-    std::string bytes(::GetFileSize(file.get(), nullptr), '\0');
-    DWORD read = 0;
-    ::ReadFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr);
-    return bytes;
 }

@@ -7,14 +7,10 @@
 #include <thread>
 #include <vector>
 
-#include <gtest/gtest.h>
-
 #include "document/frmChild.h"
 #include "main_window.h"
+#include "support/files_test.h"
 #include "support/windows_seen.h"
-
-// Deletes a folder with all that is in it.
-void DeleteTree(const std::string& folder);
 
 // Points HKEY_CURRENT_USER at an empty key for the test's life.
 class ScratchRegistry {
@@ -53,7 +49,7 @@ class User {
     std::thread thread_;
 };
 
-class AppTest : public ::testing::Test {
+class AppTest : public FilesTest {
  protected:
     void SetUp() override;
     void TearDown() override;
@@ -72,13 +68,7 @@ class AppTest : public ::testing::Test {
     void type(const std::string& text);
     HWND label(const std::string& text) { return seen::Child(main().mainHwnd(), text, "Static"); }
 
-    // A path in a folder of this test's own, which is empty at the start.
-    std::string scratch(const std::string& name) const { return folder_ + "\\" + name; }
-    static void writeFile(const std::string& path, const std::string& bytes);
-    static std::string readFile(const std::string& path);
-
  private:
     std::optional<ScratchRegistry> registry_;
     MainWindow* main_ = nullptr;
-    std::string folder_;
 };

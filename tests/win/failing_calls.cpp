@@ -52,9 +52,8 @@ void** ImportSlot(const char* name) {
 
 template <typename Result>
 Result Refusal() {
-    if constexpr (std::is_same_v<Result, LONG>)
-        return static_cast<LONG>(State::now->error);  // the registry's
-    if constexpr (std::is_same_v<Result, HANDLE>) return INVALID_HANDLE_VALUE;
+    // The registry's functions give the error itself.
+    if constexpr (std::is_same_v<Result, LONG>) return static_cast<LONG>(State::now->error);
     return Result{};
 }
 
@@ -139,20 +138,23 @@ class Hooked {
         Plain::restore();
         All<Create, Write, Close, Box>::restore();
     }
-    Hooked(const Hooked&) = delete;
-    Hooked& operator=(const Hooked&) = delete;
 };
 
 // Whether there was a call to fail.
-bool FailOne(const FaultyWork& test, State& now) {
-    const std::string what = "call " + std::to_string(now.left) + (now.forGood ? " and all after it" : "") +
-                             ", error " + std::to_string(now.error);
+bool FailOne(const FaultyWork& test, int call, bool forGood, DWORD error) {
+    State now;
+    now.left = call;
+    now.error = error;
+    now.forGood = forGood;
+    now.newFilesRefused = test.newFilesRefused;
     test.prepare();
     {
         const Hooked hooked(now);
         test.work();
     }
-    test.check({what + " " + now.failed, now.said});
+    test.check({"call " + std::to_string(call) + (forGood ? " and all after it" : "") + ", error " +
+                    std::to_string(error) + " " + now.failed,
+                now.said});
     return !now.failed.empty();
 }
 
@@ -162,14 +164,7 @@ int FailEachCall(const FaultyWork& test) {
     int faults = 0;
     for (const DWORD error : test.errors) {
         for (const bool forGood : {false, true}) {
-            for (int n = 1; n < 500; ++n, ++faults) {
-                State now;
-                now.left = n;
-                now.error = error;
-                now.forGood = forGood;
-                now.newFilesRefused = test.newFilesRefused;
-                if (!FailOne(test, now)) break;
-            }
+            for (int call = 1; call < 500 && FailOne(test, call, forGood, error); ++call) ++faults;
         }
     }
     return faults;

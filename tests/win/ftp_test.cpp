@@ -10,11 +10,6 @@
 
 namespace {
 
-std::string Environment(const char* name) {
-    const char* value = std::getenv(name);
-    return value ? value : "";
-}
-
 std::unique_ptr<ftp::FtpSession> SessionOn(const char* variable) {
     return ftp::MakeSession(static_cast<unsigned short>(std::atoi(Environment(variable).c_str())));
 }
@@ -68,6 +63,32 @@ HWND FtpTest::openScripted(const std::string& behaviour) {
     addSite("127.0.0.1", behaviour, "pw");
     frmUpload::open(main(), 0, ScriptedSession);
     return ftpWindow();
+}
+
+std::string FtpTest::saidToClick(int id, const std::string& title) {
+    User user({User::press(title, IDOK)});
+    click(id);
+    return user.heard().front();
+}
+
+std::string FtpTest::say(const std::string& line, int item, std::vector<User::Act> acts) {
+    User user(std::move(acts));
+    choose(line, item);
+    return user.heard().back();
+}
+
+User::Act FtpTest::enter(const std::string& title, const std::string& text) {
+    return {title, [text](HWND box) {
+                ::SendMessageA(seen::ChildOfClass(box, "Edit"), WM_SETTEXT, 0,
+                               reinterpret_cast<LPARAM>(text.c_str()));
+                ::PostMessageA(box, WM_COMMAND, IDOK, 0);
+            }};
+}
+
+void FtpTest::savePage(const std::string& name, const std::string& text) {
+    newPage(text);
+    writeFile(scratch(name), text);
+    active().setTag(scratch(name));
 }
 
 HWND FtpTest::ftpWindow() {

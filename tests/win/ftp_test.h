@@ -35,6 +35,14 @@ class FtpTest : public AppTest {
     static HWND control(int id) { return ::GetDlgItem(ftpWindow(), id); }
     static std::string textOf(int id) { return seen::TextOf(control(id)); }
     static void click(int id) { ::SendMessageA(control(id), BM_CLICK, 0, 0); }
+    // Clicks, and gives what the message box with this title then says.
+    static std::string saidToClick(int id, const std::string& title);
+    // Chooses a command of the list's menus for a line, and gives what the last dialog then says.
+    static std::string say(const std::string& line, int item, std::vector<User::Act> acts);
+    // Types into the input box with this title and presses OK.
+    static User::Act enter(const std::string& title, const std::string& text);
+    // A page in front that is saved under this name.
+    void savePage(const std::string& name, const std::string& text);
     static std::string lines();  // of the list, separated by commas
     static bool select(const std::string& line);
     static void doubleClick(const std::string& line);

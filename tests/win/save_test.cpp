@@ -15,16 +15,6 @@ namespace {
 
 class SaveTest : public AppTest {
  protected:
-    int filesInFolder() {
-        WIN32_FIND_DATAA found{};
-        const HANDLE search = ::FindFirstFileA(scratch("*").c_str(), &found);
-        int count = 0;
-        do {
-            count += (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
-        } while (::FindNextFileA(search, &found));
-        ::FindClose(search);
-        return count;
-    }
     frmChild& openPage(const std::string& name, const std::string& bytes) {
         writeFile(scratch(name), bytes);
         return *files::OpenFile(main(), scratch(name));
@@ -136,7 +126,8 @@ TEST_F(SaveTest, AnUnwritableTargetLeavesThePageChangedAndTheFileAsItWas) {
     refuse();
     ::SetFileAttributesA(scratch("locked.htm").c_str(), FILE_ATTRIBUTE_NORMAL);
     EXPECT_EQ(readFile(scratch("locked.htm")), "old");
-    EXPECT_EQ(filesInFolder(), 1);
+    WIN32_FIND_DATAA found{};
+    EXPECT_EQ(::FindFirstFileA(scratch("*.tmp").c_str(), &found), INVALID_HANDLE_VALUE) << found.cFileName;
     run(mnuFileSave);
     EXPECT_EQ(readFile(scratch("locked.htm")), "new old\r\n");
     EXPECT_FALSE(active().txtPad().isChanged());
@@ -148,8 +139,7 @@ TEST_F(SaveTest, APageWithoutAFileIsSavedUnderAnotherName) {
     type("<!-- -->");
     std::string proposed;
     User user({{"Save File As...", [&](HWND dialog) {
-                    proposed = seen::TextOf(::GetDlgItem(dialog, 0x47c) ? ::GetDlgItem(dialog, 0x47c)
-                                                                        : ::GetDlgItem(dialog, 0x480));
+                    proposed = seen::TextOf(seen::FileNameBox(dialog));
                     seen::ChooseFile(dialog, scratch("named.htm"));
                 }}});
     run(mnuFileSave);
