@@ -16,6 +16,9 @@
 // Deletes a folder with all that is in it.
 void DeleteTree(const std::string& folder);
 
+// The controls of a class in a form, in their order.
+std::vector<HWND> ControlsOfClass(HWND form, const std::string& cls);
+
 // Points HKEY_CURRENT_USER at an empty key for the test's life.
 class ScratchRegistry {
  public:
@@ -70,6 +73,11 @@ class AppTest : public ::testing::Test {
     // A key as the page's control gets it.
     void pressKey(WPARAM key) { ::SendMessageA(active().txtPad().hwnd(), WM_KEYDOWN, key, 0); }
     void type(const std::string& text);
+    // "start-end" of what is selected in the active page.
+    std::string selected();
+    bool pageHasFocus() { return ::GetFocus() == active().txtPad().hwnd(); }
+    std::string clipboard();
+    static HWND window(const std::string& title) { return seen::Titled(::GetCurrentProcessId(), title); }
     HWND label(const std::string& text) { return seen::Child(main().mainHwnd(), text, "Static"); }
 
     // A path in a folder of this test's own, which is empty at the start.
