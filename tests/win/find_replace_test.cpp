@@ -154,19 +154,6 @@ TEST_F(FindTest, BothDialogsGoWithAnyPageAndWithTheMainWindow) {
     EXPECT_FALSE(::IsWindow(again));
 }
 
-TEST_F(FindTest, BothDialogsNoticeThatTheirPageHasGone) {
-    const frmChild& page = newPage("a");
-    const HWND find = open(tbrFind);
-    const HWND replace = open(tbrReplace);
-    const DWORD start = ::GetTickCount();
-    ::SendMessageA(main().mdiClient(), WM_MDIDESTROY, reinterpret_cast<WPARAM>(page.hwnd()), 0);
-    EXPECT_TRUE(seen::Until([&] {
-        win::RunPending();
-        return !::IsWindow(find) && !::IsWindow(replace);
-    }));
-    EXPECT_LT(::GetTickCount() - start, 1000U) << "their watch looks every 200 milliseconds";
-}
-
 TEST_F(FindTest, TheDialogStaysOnTheScreen) {
     newPage("a");
     ::SetWindowPos(main().mainHwnd(), nullptr, -3000, 2000, 800, 600, SWP_NOZORDER);
