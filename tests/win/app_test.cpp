@@ -4,6 +4,7 @@
 
 #include "settings/app_settings.h"
 #include "shell/frmNotePad.h"
+#include "win/clipboard.h"
 #include "win/message_loop.h"
 #include "win/unique.h"
 
@@ -12,6 +13,14 @@ namespace {
 constexpr char kScratchKey[] = "Software\\Quillon tests";
 
 }  // namespace
+
+std::vector<HWND> ControlsOfClass(HWND form, const std::string& cls) {
+    std::vector<HWND> controls = seen::Below(form);
+    std::erase_if(controls, [&](HWND control) {
+        return seen::ClassOf(control) != cls || ::GetParent(control) != form;
+    });
+    return controls;
+}
 
 ScratchRegistry::ScratchRegistry() {
     HKEY key = nullptr;
@@ -100,4 +109,13 @@ void AppTest::type(const std::string& text) {
     for (const char c : text) {
         ::SendMessageA(active().txtPad().hwnd(), WM_CHAR, static_cast<unsigned char>(c), 0);
     }
+}
+
+std::string AppTest::selected() {
+    const document::Selection selection = active().txtPad().selection();
+    return std::to_string(selection.start) + "-" + std::to_string(selection.end);
+}
+
+std::string AppTest::clipboard() {
+    return win::ClipboardText(main().mainHwnd());
 }

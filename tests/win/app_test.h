@@ -12,6 +12,9 @@
 #include "support/files_test.h"
 #include "support/windows_seen.h"
 
+// The controls of a class in a form, in their order.
+std::vector<HWND> ControlsOfClass(HWND form, const std::string& cls);
+
 // Points HKEY_CURRENT_USER at an empty key for the test's life.
 class ScratchRegistry {
  public:
@@ -66,6 +69,11 @@ class AppTest : public FilesTest {
     // A key as the page's control gets it.
     void pressKey(WPARAM key) { ::SendMessageA(active().txtPad().hwnd(), WM_KEYDOWN, key, 0); }
     void type(const std::string& text);
+    // "start-end" of what is selected in the active page.
+    std::string selected();
+    bool pageHasFocus() { return ::GetFocus() == active().txtPad().hwnd(); }
+    std::string clipboard();
+    static HWND window(const std::string& title) { return seen::Titled(::GetCurrentProcessId(), title); }
     HWND label(const std::string& text) { return seen::Child(main().mainHwnd(), text, "Static"); }
 
  private:

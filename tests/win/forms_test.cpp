@@ -94,10 +94,7 @@ void ExpectNothingCutOff(HWND dialog) {
     }
 }
 
-class FormsTest : public AppTest {
- protected:
-    static HWND window(const std::string& title) { return seen::Titled(::GetCurrentProcessId(), title); }
-};
+using FormsTest = AppTest;
 
 TEST_F(FormsTest, EveryControlOfEveryTemplateHasANameAndRoomForIt) {
     const std::vector<std::string> names = TemplateNames();

@@ -1,5 +1,6 @@
 #include "forms/frmAbout.h"
 #include "forms/frmHelp.h"
+#include "help/core/help_texts.h"
 #include "support/standin_browser.h"
 #include "win/app_test.h"
 
@@ -9,21 +10,9 @@ class HelpTest : public AppTest {
  protected:
     HWND open() {
         run(mnuHelpCont);
-        return seen::Titled(::GetCurrentProcessId(), "Quillon Help");
+        return window("Quillon Help");
     }
     static std::string text(HWND dialog, int id) { return seen::TextOf(::GetDlgItem(dialog, id)); }
-    // The window's menu as a person reads it, with what each item shows.
-    static std::string chooseAll(HWND dialog, HMENU features) {
-        std::string headings;
-        for (int i = 0; i < 14; ++i) {
-            char caption[64];
-            ::GetMenuStringA(features, static_cast<UINT>(i), caption, sizeof caption, MF_BYPOSITION);
-            ::SendMessageA(dialog, WM_COMMAND, ::GetMenuItemID(features, i), 0);
-            headings += std::string(caption) + ": " + text(dialog, lblHead) + "\n";
-            EXPECT_EQ(text(dialog, lblWords).substr(0, 3), "   ") << caption;
-        }
-        return headings;
-    }
 };
 
 TEST_F(HelpTest, EachTopicShowsItsHeadingAndWords) {
@@ -32,65 +21,53 @@ TEST_F(HelpTest, EachTopicShowsItsHeadingAndWords) {
     EXPECT_EQ(text(dialog, lblHead), "\"Quillon Help\"  ");
     EXPECT_EQ(text(dialog, lblWords).substr(0, 22), "   A lot for a little.");
     EXPECT_EQ(text(dialog, Label1), "Click Above for a description of each button.  ");
+    const HMENU features = ::GetSubMenu(::GetMenu(dialog), 0);
+    std::string headings;
+    for (UINT i = 0; i < 14; ++i) {
+        char caption[64];
+        ::GetMenuStringA(features, i, caption, sizeof caption, MF_BYPOSITION);
+        ::SendMessageA(dialog, WM_COMMAND, ::GetMenuItemID(features, static_cast<int>(i)), 0);
+        headings += std::string(caption) + ": " + text(dialog, lblHead) + "\n";
+        EXPECT_EQ(text(dialog, lblWords).substr(0, 3), "   ") << caption;
+    }
     EXPECT_EQ(
-        chooseAll(dialog, ::GetSubMenu(::GetMenu(dialog), 0)),
+        headings,
         "Image Drag: Image Tag via Drag/Drop\nDirect FTP: Direct FTP\nLine Count: Line Numbers\n"
         "Page Update: Page Updater\nPreview: Page Preview\nReset: Page Reset\nSpell Check: Spell Checker\n"
         "Change Spy: Change Spying\nCurrent: Current List\nMRU List: MRU List\n"
         "As Notepad: To Replace Notepad...\nWord Wrap: About word wrap\nColor Tags: Color Tags\n"
         "Print: About Printing\n");
-    run(mnuHelpCont);
-    EXPECT_EQ(seen::Titled(::GetCurrentProcessId(), "Quillon Help"), dialog) << "there is one only";
+    EXPECT_EQ(open(), dialog) << "there is one only";
     ::SendMessageA(dialog, WM_COMMAND, mnuFeatClose, 0);
     EXPECT_FALSE(::IsWindow(dialog));
 }
 
-TEST_F(HelpTest, EachButtonShowsItsDescription) {
+TEST_F(HelpTest, EachButtonShowsItsDescriptionByClickAndByKey) {
     const HWND dialog = open();
     ASSERT_TRUE(dialog);
-    std::vector<std::string> words;
     for (int i = 0; i < 17; ++i) {
         ::SendMessageA(::GetDlgItem(dialog, Picture1 + i), BM_CLICK, 0, 0);
         EXPECT_EQ(text(dialog, lblHead), " Toolbar Details");
         EXPECT_EQ(text(dialog, Label1), "Quillon");
-        words.push_back(text(dialog, lblWords));
+        EXPECT_EQ(text(dialog, lblWords), help::ButtonWords(static_cast<std::size_t>(i))) << i;
     }
-    for (const std::size_t index : {6U, 7U, 8U}) EXPECT_EQ(words[index], words[5]);
-    EXPECT_EQ(words[0].find("The new document button...\r\n"), 0U);
-    EXPECT_EQ(words[5].find("Editing Buttons (all)...\r\n"), 0U);
-    EXPECT_EQ(words[9].find("The Find Button...\r\n"), 0U);
-    EXPECT_NE(words[15].find("216"), std::string::npos);
-    EXPECT_EQ(words[16], "This file.\r\n\r\n   The ABOUT file is available through the HELP menu item only.");
     ::SetFocus(::GetDlgItem(dialog, Picture1));
     MSG enter{};
     enter.hwnd = ::GetFocus();
     enter.message = WM_KEYDOWN;
     enter.wParam = VK_RETURN;
     ::IsDialogMessageA(dialog, &enter);
-    EXPECT_EQ(text(dialog, lblWords), words[0]);
+    EXPECT_EQ(text(dialog, lblWords).find("The new document button...\r\n"), 0U);
     ::SendMessageA(::GetDlgItem(dialog, cmdClose), BM_CLICK, 0, 0);
     EXPECT_FALSE(::IsWindow(dialog));
 }
 
-TEST_F(HelpTest, TheAboutBoxTellsTheVersionOfTheProgram) {
-    std::string version;
-    std::string description;
-    User user({{"About Quillon", [&](HWND dialog) {
-                    version = text(dialog, lblVersion);
-                    description = text(dialog, lblDescription);
-                    ::PostMessageA(dialog, WM_COMMAND, cmdOK, 0);
-                }}});
-    run(mnuHelpAbout);
-    user.heard();
-    EXPECT_EQ(version, "Version 4.1.2");
-    EXPECT_EQ(description.find("Description: Small in file size yet robust in features, "), 0U);
-    EXPECT_NE(description.find("\r\n   What I"), std::string::npos);
-}
-
-TEST_F(HelpTest, TheLinksOfTheAboutBoxOpenByClickAndByKey) {
+TEST_F(HelpTest, TheAboutBoxTellsTheVersionAndItsLinksOpenByClickAndByKey) {
     const Browser browser(Browser::standIn(), scratch("seen"));
     std::vector<std::string> opened;
     User user({{"About Quillon", [&](HWND dialog) {
+                    EXPECT_EQ(text(dialog, lblVersion), "Version 4.1.2");
+                    EXPECT_EQ(text(dialog, lblDescription).find("Description: Small in file size yet"), 0U);
                     ::SendMessageA(::GetDlgItem(dialog, lblLinks), BM_CLICK, 0, 0);
                     opened.push_back(browser.shown());
                     const HWND mail = ::GetDlgItem(dialog, lblLinks + 1);

@@ -4,62 +4,49 @@
 
 namespace {
 
-// The commands that no feature answers to yet, each by its caption. The list only ever gets shorter.
-constexpr const char* kMissing = "";
-
 class MenuTest : public AppTest {
  protected:
-    std::string textOf(HMENU menu, int position) const {
+    HMENU menu(int position) { return ::GetSubMenu(::GetMenu(main().mainHwnd()), position); }
+    static std::string textOf(HMENU menu, int position) {
         char text[128];
         ::GetMenuStringA(menu, static_cast<UINT>(position), text, sizeof text, MF_BYPOSITION);
         return text;
     }
-    bool isGrey(HMENU menu, int position) const {
-        return (::GetMenuState(menu, static_cast<UINT>(position), MF_BYPOSITION) & MF_GRAYED) != 0;
+    static bool hasState(HMENU menu, int position, UINT state) {
+        return (::GetMenuState(menu, static_cast<UINT>(position), MF_BYPOSITION) & state) != 0;
+    }
+    // The menus of the bar, or only those in this state.
+    std::string captions(UINT state = 0) {
+        const HMENU bar = ::GetMenu(main().mainHwnd());
+        std::string all;
+        for (int i = 0; i < ::GetMenuItemCount(bar); ++i)
+            if (state == 0 || hasState(bar, i, state)) all += textOf(bar, i) + " ";
+        return all;
     }
 };
 
-TEST_F(MenuTest, OnlyTheKnownCommandsAreMissing) {
-    std::string missing;
-    for (const win::MenuRow& row : shell::kMenu) {
-        if (row.kind == win::MenuKind::item && !shell::IsAvailable(row.id))
-            missing.append(row.caption).append(",");
-    }
-    for (const ToolButton& button : kToolbar) {
-        if (!shell::IsAvailable(button.command)) missing.append(button.tip).append(",");
-    }
-    EXPECT_EQ(missing, kMissing);
-}
-
-TEST_F(MenuTest, TheBarReadsFromFileToHelp) {
-    const HMENU bar = ::GetMenu(main().mainHwnd());
-    std::string captions;
-    for (int i = 0; i < ::GetMenuItemCount(bar); ++i) captions += textOf(bar, i) + " ";
-    EXPECT_EQ(captions, "File Current Edit Window Tags Scripts Upload Options Help ");
-    const HMENU file = ::GetSubMenu(bar, 0);
-    EXPECT_EQ(textOf(file, 0), "New\tF2");
-    EXPECT_EQ(textOf(file, 9), "Exit\tF5");
+TEST_F(MenuTest, EveryItemAndEveryButtonIsAnswered) {
+    for (const win::MenuRow& row : shell::kMenu)
+        EXPECT_TRUE(row.kind != win::MenuKind::item || shell::IsAvailable(row.id)) << row.caption;
+    for (const ToolButton& button : kToolbar) EXPECT_TRUE(shell::IsAvailable(button.command)) << button.tip;
 }
 
 TEST_F(MenuTest, WhatNeedsADocumentIsGreyWithoutOne) {
-    const HMENU bar = ::GetMenu(main().mainHwnd());
-    const auto grey = [&] {
-        std::string captions;
-        for (int i = 0; i < ::GetMenuItemCount(bar); ++i)
-            captions += isGrey(bar, i) ? textOf(bar, i) + " " : "";
-        return captions;
-    };
-    EXPECT_EQ(grey(), "Current Edit Window Tags Scripts ");
-    EXPECT_TRUE(isGrey(::GetSubMenu(bar, 0), 4)) << "Save";
+    constexpr char kNeedPages[] = "Current Edit Window Tags Scripts ";
+    EXPECT_EQ(captions(), "File Current Edit Window Tags Scripts Upload Options Help ");
+    EXPECT_EQ(textOf(menu(0), 0), "New\tF2");
+    EXPECT_EQ(textOf(menu(0), 9), "Exit\tF5");
+    EXPECT_EQ(captions(MF_GRAYED), kNeedPages);
+    EXPECT_TRUE(hasState(menu(0), 4, MF_GRAYED)) << "Save";
     EXPECT_TRUE(label("No File Open") || label("Line numbers appear here."));
     newPage("");
     newPage("");
-    EXPECT_EQ(grey(), "");
-    EXPECT_FALSE(isGrey(::GetSubMenu(bar, 0), 4)) << "Save";
-    run(mnuFileClose);
-    EXPECT_EQ(grey(), "");
-    run(mnuFileClose);
-    EXPECT_EQ(grey(), "Current Edit Window Tags Scripts ");
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(captions(MF_GRAYED), "");
+        EXPECT_FALSE(hasState(menu(0), 4, MF_GRAYED)) << "Save";
+        run(mnuFileClose);
+    }
+    EXPECT_EQ(captions(MF_GRAYED), kNeedPages);
     EXPECT_TRUE(label("No File Open"));
 }
 
@@ -81,18 +68,16 @@ TEST_F(MenuTest, ToolbarButtonsHaveNamesAndFollowTheDocuments) {
 TEST_F(MenuTest, TheWindowListNamesThePagesAndFollowsThem) {
     frmChild& first = newPage("");
     newPage("");
-    const HMENU list = ::GetSubMenu(::GetMenu(main().mainHwnd()), 1);
-    EXPECT_EQ(textOf(list, 0), "Untitled1");
-    EXPECT_EQ(::GetMenuState(list, 1, MF_BYPOSITION) & MF_CHECKED, static_cast<UINT>(MF_CHECKED));
+    EXPECT_EQ(textOf(menu(1), 0), "Untitled1");
+    EXPECT_TRUE(hasState(menu(1), 1, MF_CHECKED));
     run(windowList);
     EXPECT_EQ(&active(), &first);
-    EXPECT_EQ(::GetMenuState(list, 0, MF_BYPOSITION) & MF_CHECKED, static_cast<UINT>(MF_CHECKED));
+    EXPECT_TRUE(hasState(menu(1), 0, MF_CHECKED));
     first.setCaption("a & b.htm");
-    EXPECT_EQ(textOf(list, 0), "a && b.htm");
+    EXPECT_EQ(textOf(menu(1), 0), "a && b.htm");
     run(mnuWind + 2);
     EXPECT_TRUE(::IsZoomed(first.hwnd()));
-    EXPECT_EQ(textOf(::GetSubMenu(::GetMenu(main().mainHwnd()), 2), 0), "a && b.htm")
-        << "a maximised page puts its system menu first";
+    EXPECT_EQ(textOf(menu(2), 0), "a && b.htm") << "a maximised page puts its system menu first";
 }
 
 }  // namespace

@@ -8,29 +8,22 @@ class OptionsTest : public AppTest {
     static std::string stored(const std::string& section, const std::string& key) {
         return CRegSettings().GetRegSetting(section, key, "(nothing)");
     }
+    bool isChecked(int command) {
+        return (::GetMenuState(::GetMenu(main().mainHwnd()), static_cast<UINT>(command), MF_BYCOMMAND) &
+                MF_CHECKED) != 0;
+    }
     // The captions of the checked items of a list.
     std::string checked(Command first, int count) {
         std::string captions;
-        for (int i = 0; i < count; ++i) {
-            const auto command = static_cast<UINT>(first + i);
-            const HMENU bar = ::GetMenu(main().mainHwnd());
-            if (!(::GetMenuState(bar, command, MF_BYCOMMAND) & MF_CHECKED)) continue;
-            char caption[32];
-            ::GetMenuStringA(bar, command, caption, sizeof caption, MF_BYCOMMAND);
-            captions.append(captions.empty() ? "" : " ").append(caption);
-        }
+        for (int command = first; command < first + count; ++command)
+            if (isChecked(command)) captions += main().menu().caption(static_cast<Command>(command));
         return captions;
-    }
-    bool wrapChecked() {
-        return (::GetMenuState(::GetMenu(main().mainHwnd()), mnuOptWW, MF_BYCOMMAND) & MF_CHECKED) != 0;
     }
     void activate(const frmChild& page) {
         ::SendMessageA(main().mdiClient(), WM_MDIACTIVATE, reinterpret_cast<WPARAM>(page.hwnd()), 0);
     }
-    static HWND combo(HWND dialog, int index) {
-        std::vector<HWND> boxes = seen::Below(dialog);
-        std::erase_if(boxes, [](HWND box) { return seen::ClassOf(box) != "ComboBox"; });
-        return boxes.at(static_cast<std::size_t>(index));
+    static HWND combo(HWND dialog, std::size_t index) {
+        return ControlsOfClass(dialog, "ComboBox").at(index);
     }
     static void choose(HWND box, const std::string& text) {
         ::SendMessageA(box, CB_SELECTSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text.c_str()));
@@ -44,17 +37,12 @@ class OptionsTest : public AppTest {
         ::SendMessageA(::GetParent(box), WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(box), code),
                        reinterpret_cast<LPARAM>(box));
     }
-    static std::vector<std::string> rows(HWND box) {
-        std::vector<std::string> texts;
-        for (LRESULT i = 0; i < ::SendMessageA(box, CB_GETCOUNT, 0, 0); ++i) {
-            char text[LF_FACESIZE + 1];
-            ::SendMessageA(box, CB_GETLBTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text));
-            texts.emplace_back(text);
-        }
-        return texts;
-    }
-    void withFontDialog(const std::function<void(HWND)>& act) {
-        User user({{"Fonts", act}});
+    // Does this in the dialog, then presses a button.
+    void withFontDialog(WORD button, const std::function<void(HWND)>& act) {
+        User user({{"Fonts", [&](HWND dialog) {
+                        act(dialog);
+                        ::PostMessageA(dialog, WM_COMMAND, button, 0);
+                    }}});
         run(mnuOptFont);
         user.heard();
     }
@@ -82,114 +70,96 @@ TEST_F(OptionsTest, DefaultTypesAreStoredAndChecked) {
 
 TEST_F(OptionsTest, TheTabLengthHoldsForTheActivePageAndForNewOnes) {
     EXPECT_EQ(checked(mnuOptTabsList, 6), "4");
+    run(mnuOptTabsList + 5);
     frmChild& other = newPage("");
-    frmChild& page = newPage("");
+    newPage("");
     run(mnuOptTabsList + 3);
     EXPECT_EQ(stored("Tabs", "Length"), "      ");
     EXPECT_EQ(checked(mnuOptTabsList, 6), "6");
     pressKey(VK_TAB);
-    EXPECT_EQ(page.txtPad().text(), "      ");
+    EXPECT_EQ(pageText(), "      ");
     activate(other);
     pressKey(VK_TAB);
-    EXPECT_EQ(other.txtPad().text(), "    ");
-}
-
-TEST_F(OptionsTest, TheTabLengthIsStoredWithoutAPage) {
-    run(mnuOptTabsList + 5);
-    newPage("");
-    pressKey(VK_TAB);
-    EXPECT_EQ(pageText(), "        ");
+    EXPECT_EQ(pageText(), "        ") << "chosen before there was a page";
 }
 
 TEST_F(OptionsTest, WordWrapBelongsToThePageAndItsMarkFollows) {
     const std::string line(4000, 'x');
     frmChild& first = newPage(line + " " + line);
-    EXPECT_FALSE(wrapChecked());
+    EXPECT_FALSE(isChecked(mnuOptWW));
     run(mnuOptWW);
-    EXPECT_TRUE(wrapChecked());
+    EXPECT_TRUE(isChecked(mnuOptWW));
     EXPECT_GT(first.txtPad().lineOf(8000), 0) << "the line is shown in several";
     frmChild& second = newPage("");
-    EXPECT_FALSE(wrapChecked()) << "a new page";
+    EXPECT_FALSE(isChecked(mnuOptWW)) << "a new page";
     activate(first);
-    EXPECT_TRUE(wrapChecked());
+    EXPECT_TRUE(isChecked(mnuOptWW));
     first.setPage(line + " " + line);
-    EXPECT_TRUE(wrapChecked());
+    EXPECT_TRUE(isChecked(mnuOptWW));
     activate(second);
-    EXPECT_FALSE(wrapChecked());
+    EXPECT_FALSE(isChecked(mnuOptWW));
     run(mnuFileClose);
-    EXPECT_TRUE(wrapChecked()) << "the other page has closed";
+    EXPECT_TRUE(isChecked(mnuOptWW)) << "the other page has closed";
     run(mnuOptWW);
-    EXPECT_FALSE(wrapChecked());
+    EXPECT_FALSE(isChecked(mnuOptWW));
     EXPECT_EQ(first.txtPad().lineOf(8000), 0);
     run(mnuOptWW);
     first.txtPad().setChanged(false);
     run(mnuFileClose);
-    EXPECT_FALSE(wrapChecked()) << "no page is left";
+    EXPECT_FALSE(isChecked(mnuOptWW)) << "no page is left";
 }
 
-TEST_F(OptionsTest, TheFontDialogListsFontsOnceAndProposesArial) {
-    withFontDialog([](HWND dialog) {
-        const std::vector<std::string> faces = rows(combo(dialog, 0));
-        EXPECT_GT(faces.size(), 3U);
-        for (std::size_t i = 1; i < faces.size(); ++i) {
-            EXPECT_LT(::lstrcmpiA(faces[i - 1].c_str(), faces[i].c_str()), 0) << faces[i];
-            EXPECT_NE(faces[i][0], '@');
-        }
-        EXPECT_EQ(seen::TextOf(combo(dialog, 0)), "Arial");
-        EXPECT_EQ(seen::TextOf(combo(dialog, 1)), "10");
-        ::PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
-    });
-    EXPECT_EQ(stored("font preferences", "font_Face"), "(nothing)");
-}
-
-TEST_F(OptionsTest, AFontIsShownAtOnceAndKeptByOk) {
-    frmChild& page = newPage("some text");
-    type("x");
-    withFontDialog([&](HWND dialog) {
-        choose(combo(dialog, 0), "Tahoma");
-        choose(combo(dialog, 1), "18");
-        EXPECT_EQ(page.txtPad().font(), (document::Font{"Tahoma", 18}));
-        typeInto(combo(dialog, 1), "10,5");
-        EXPECT_EQ(page.txtPad().font(), (document::Font{"Tahoma", 10.5F}));
-        ::PostMessageA(dialog, WM_COMMAND, IDOK, 0);
-    });
-    EXPECT_EQ(stored("font preferences", "font_Face"), "Tahoma");
-    EXPECT_EQ(stored("font preferences", "font_Size"), "10.5");
-    EXPECT_EQ(newPage("").txtPad().font(), (document::Font{"Tahoma", 10.5F}));
-    withFontDialog([](HWND dialog) {
-        EXPECT_EQ(seen::TextOf(combo(dialog, 0)), "Tahoma");
-        EXPECT_EQ(seen::TextOf(combo(dialog, 1)), "10.5");
-        ::PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
-    });
-    activate(page);
-    run(mnuEditUndo);
-    EXPECT_EQ(pageText(), "some text") << "Undo is about the text";
-}
-
-TEST_F(OptionsTest, CancelGivesThePageItsFontBack) {
-    frmChild& page = newPage("text");
+TEST_F(OptionsTest, TheFontDialogListsFontsOnceAndCancelGivesThePageItsFontBack) {
+    const frmChild& page = newPage("text");
     const document::Font before = page.txtPad().font();
-    withFontDialog([&](HWND dialog) {
-        choose(combo(dialog, 0), "Tahoma");
+    withFontDialog(IDCANCEL, [&](HWND dialog) {
+        const HWND faces = combo(dialog, 0);
+        EXPECT_EQ(seen::TextOf(faces), "Arial");
+        EXPECT_EQ(seen::TextOf(combo(dialog, 1)), "10");
+        char face[LF_FACESIZE + 1];
+        char last[LF_FACESIZE + 1] = "";
+        EXPECT_GT(::SendMessageA(faces, CB_GETCOUNT, 0, 0), 3);
+        for (WPARAM i = 0; ::SendMessageA(faces, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(face)) > 0; ++i) {
+            EXPECT_LT(::lstrcmpiA(last, face), 0) << face;
+            EXPECT_NE(face[0], '@');
+            ::lstrcpyA(last, face);
+        }
+        choose(faces, "Tahoma");
         EXPECT_EQ(page.txtPad().font().face, "Tahoma");
-        ::PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
     });
     EXPECT_EQ(page.txtPad().font(), before);
     EXPECT_EQ(stored("font preferences", "font_Face"), "(nothing)");
     EXPECT_FALSE(page.txtPad().isChanged());
 }
 
-TEST_F(OptionsTest, ASizeThatIsNoneIsRefused) {
+TEST_F(OptionsTest, AFontIsShownAtOnceAndKeptByOk) {
+    frmChild& page = newPage("some text");
+    type("x");
+    withFontDialog(IDOK, [&](HWND dialog) {
+        choose(combo(dialog, 0), "Tahoma");
+        choose(combo(dialog, 1), "18");
+        EXPECT_EQ(page.txtPad().font(), (document::Font{"Tahoma", 18}));
+        typeInto(combo(dialog, 1), "10,5");
+        EXPECT_EQ(page.txtPad().font(), (document::Font{"Tahoma", 10.5F}));
+    });
+    EXPECT_EQ(stored("font preferences", "font_Face"), "Tahoma");
+    EXPECT_EQ(stored("font preferences", "font_Size"), "10.5");
+    EXPECT_EQ(newPage("").txtPad().font(), (document::Font{"Tahoma", 10.5F}));
     User user({{"Fonts",
                 [](HWND dialog) {
+                    EXPECT_EQ(seen::TextOf(combo(dialog, 0)), "Tahoma");
+                    EXPECT_EQ(seen::TextOf(combo(dialog, 1)), "10.5");
                     typeInto(combo(dialog, 1), "big");
                     ::PostMessageA(dialog, WM_COMMAND, IDOK, 0);
                 }},
                User::press("Quillon", IDOK),
                User::press("Fonts", IDCANCEL)});
     run(mnuOptFont);
-    EXPECT_EQ(user.heard().at(1), "Please choose a size between 1 and 400.");
-    EXPECT_EQ(stored("font preferences", "font_Size"), "(nothing)");
+    EXPECT_EQ(user.heard()[1], "Please choose a size between 1 and 400.");
+    EXPECT_EQ(stored("font preferences", "font_Size"), "10.5");
+    activate(page);
+    run(mnuEditUndo);
+    EXPECT_EQ(pageText(), "some text") << "Undo is about the text";
 }
 
 }  // namespace

@@ -13,7 +13,15 @@ constexpr char kFailure[] =
 
 class PreviewTest : public AppTest {
  protected:
-    std::string seenFolder() const { return scratch("seen"); }
+    // Until it is another one that opens .htm files.
+    void use(const std::string& program) {
+        browser_.reset();
+        browser_.emplace(program, scratch("seen"));
+    }
+    void SetUp() override {
+        AppTest::SetUp();
+        use(Browser::standIn());
+    }
     // A page on its file, with these words typed in front.
     frmChild& openPage(const std::string& name, const std::string& bytes, const std::string& typed = "") {
         writeFile(scratch(name), bytes);
@@ -22,86 +30,86 @@ class PreviewTest : public AppTest {
         type(typed);
         return *page;
     }
-    bool copyIsThere() { return modPubFuncs::FileExists(scratch("$$index.htm")); }
-    // Lets messages through until the copy has gone.
-    bool copyGoes() {
-        return seen::Until([&] {
-            win::RunPending();
-            return !copyIsThere();
-        });
+    // Previews the active page; the browser must come up with this file.
+    void preview(const std::string& name) {
+        run(tbrPreview);
+        const std::string shown = browser_->shown();
+        EXPECT_NE(shown.find('\\' + name), std::string::npos) << shown;
     }
+    std::string shownPage() const { return browser_->page(); }
+    bool copyIsThere() { return modPubFuncs::FileExists(scratch("$$index.htm")); }
     // The wait is over before its time.
-    void passTime() {
+    static void passTime() {
         if (const HWND wait = ::FindWindowA("modPreview", nullptr)) ::SendMessageA(wait, WM_TIMER, 1, 0);
     }
+    win::UniqueFile hold(const std::string& name, DWORD share) {
+        return win::UniqueFile(
+            ::CreateFileA(scratch(name).c_str(), GENERIC_READ, share, nullptr, OPEN_EXISTING, 0, nullptr));
+    }
+
+ private:
+    std::optional<Browser> browser_;
 };
 
 TEST_F(PreviewTest, AnEditedPageIsShownFromACopyThatGoesAfterThreeSeconds) {
-    const Browser browser(Browser::standIn(), seenFolder());
     const frmChild& page = openPage("index.htm", "<P>saved", "new ");
     const DWORD start = ::GetTickCount();
     run(tbrPreview);
     EXPECT_LT(::GetTickCount() - start, 2500U) << "the window is not held up";
-    EXPECT_NE(browser.shown().find(scratch("$$index.htm")), std::string::npos);
-    EXPECT_EQ(browser.page(), "new <P>saved\r\n");
     EXPECT_TRUE(copyIsThere());
-    EXPECT_TRUE(copyGoes());
+    EXPECT_TRUE(seen::Until([&] {
+        win::RunPending();
+        return !copyIsThere();
+    }));
     EXPECT_GE(::GetTickCount() - start, 2900U);
+    EXPECT_EQ(shownPage(), "new <P>saved\r\n");
     EXPECT_EQ(readFile(scratch("index.htm")), "<P>saved");
     EXPECT_TRUE(page.txtPad().isChanged()) << "the edits are still unsaved";
 }
 
 TEST_F(PreviewTest, AnUnchangedPageIsShownFromItsOwnFile) {
-    const Browser browser(Browser::standIn(), seenFolder());
     openPage("index.htm", "<P>saved");
-    run(tbrPreview);
-    EXPECT_NE(browser.shown().find(scratch("index.htm")), std::string::npos);
+    preview("index.htm");
     passTime();
     EXPECT_EQ(readFile(scratch("index.htm")), "<P>saved");
     run(mnuFileSave);
-    run(tbrPreview);
-    EXPECT_NE(browser.shown().find(scratch("index.htm")), std::string::npos);
+    preview("index.htm");
     // Written by another program meanwhile: that is not for a preview to undo.
     writeFile(scratch("index.htm"), "<P>newer\r\n");
-    run(tbrPreview);
-    EXPECT_NE(browser.shown().find(scratch("$$index.htm")), std::string::npos);
-    EXPECT_EQ(browser.page(), "<P>saved\r\n");
+    preview("$$index.htm");
+    EXPECT_EQ(shownPage(), "<P>saved\r\n");
     EXPECT_EQ(readFile(scratch("index.htm")), "<P>newer\r\n");
     passTime();
     EXPECT_FALSE(copyIsThere());
 }
 
 TEST_F(PreviewTest, ANameWithoutExtensionAndOneWithBlanksReachTheBrowser) {
-    const Browser browser(Browser::standIn(), seenFolder());
     openPage("my page", "a", "b");
-    run(tbrPreview);
-    EXPECT_NE(browser.shown().find('"' + scratch("$$my page.htm") + '"'), std::string::npos);
+    preview("$$my page.htm\"");
     passTime();
     EXPECT_EQ(readFile(scratch("$$my page.htm")), "(no file)");
     EXPECT_EQ(readFile(scratch("my page")), "a");
 }
 
 TEST_F(PreviewTest, APreviewDuringAnotherShowsTheNewTextAndHasItsOwnTime) {
-    const Browser browser(Browser::standIn(), seenFolder());
     openPage("index.htm", "1", "2");
-    run(tbrPreview);
-    browser.shown();
+    preview("$$index.htm");
     type("3");
-    run(tbrPreview);
-    browser.shown();
-    EXPECT_EQ(browser.page(), "231\r\n");
-    EXPECT_TRUE(copyIsThere());
+    preview("$$index.htm");
+    EXPECT_EQ(shownPage(), "231\r\n");
+    {
+        const win::UniqueFile held = hold("$$index.htm", FILE_SHARE_READ);
+        passTime();
+        EXPECT_TRUE(copyIsThere()) << "somebody is still at it";
+    }
     passTime();
     EXPECT_FALSE(copyIsThere());
     EXPECT_FALSE(::FindWindowA("modPreview", nullptr));
 }
 
 TEST_F(PreviewTest, TheCopyGoesWithTheProgram) {
-    const Browser browser(Browser::standIn(), seenFolder());
     frmChild& page = openPage("index.htm", "1", "2");
-    run(tbrPreview);
-    browser.shown();
-    EXPECT_TRUE(copyIsThere());
+    preview("$$index.htm");
     page.txtPad().setChanged(false);
     ::SendMessageA(page.hwnd(), WM_CLOSE, 0, 0);
     EXPECT_TRUE(copyIsThere()) << "the page may go before";
@@ -109,38 +117,21 @@ TEST_F(PreviewTest, TheCopyGoesWithTheProgram) {
     EXPECT_FALSE(copyIsThere());
 }
 
-TEST_F(PreviewTest, ACopyThatIsHeldOpenIsRemovedLater) {
-    const Browser browser(Browser::standIn(), seenFolder());
-    openPage("index.htm", "1", "2");
-    run(tbrPreview);
-    browser.shown();
-    {
-        const win::UniqueFile held(::CreateFileA(scratch("$$index.htm").c_str(), GENERIC_READ,
-                                                 FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
-        passTime();
-        EXPECT_TRUE(copyIsThere());
-    }
-    passTime();
-    EXPECT_FALSE(copyIsThere());
-}
-
-TEST_F(PreviewTest, WithoutABrowserTwoMessagesCome) {
-    const Browser none("", seenFolder());
+TEST_F(PreviewTest, ABrowserThatIsMissingOrDoesNotStartIsTold) {
+    use("");
     openPage("index.htm", "1", "2");
     run(tbrPreview);
     EXPECT_TRUE(copyIsThere());
-    User user({User::press("Browser Not Found", IDOK), User::press("URL Failed", IDOK)});
-    passTime();
-    EXPECT_EQ(user.heard(), (std::vector<std::string>{"Could not find associated Browser",
-                                                      "Web Page Could Not Be Opened."}));
+    {
+        User user({User::press("Browser Not Found", IDOK), User::press("URL Failed", IDOK)});
+        passTime();
+        EXPECT_EQ(user.heard(), (std::vector<std::string>{"Could not find associated Browser",
+                                                          "Web Page Could Not Be Opened."}));
+    }
     EXPECT_FALSE(copyIsThere());
     EXPECT_FALSE(::FindWindowA("modPreview", nullptr));
-}
-
-TEST_F(PreviewTest, ABrowserThatDoesNotStartIsTold) {
     writeFile(scratch("broken.exe"), "no program");
-    const Browser broken(scratch("broken.exe"), seenFolder());
-    openPage("index.htm", "1", "2");
+    use(scratch("broken.exe"));
     User user({User::press("URL Failed", IDOK)});
     run(tbrPreview);
     EXPECT_EQ(user.heard()[0], "Web Page Could Not Be Opened.");
@@ -148,51 +139,45 @@ TEST_F(PreviewTest, ABrowserThatDoesNotStartIsTold) {
 }
 
 TEST_F(PreviewTest, WithNowhereToWriteThereIsOneMessage) {
-    const Browser browser(Browser::standIn(), seenFolder());
     newPage("untitled");
     {
         User user({User::press("Quillon", IDOK)});
         run(tbrPreview);
         EXPECT_EQ(user.heard()[0], kFailure);
     }
-    const std::string folder = scratch("gone");
-    ::CreateDirectoryA(folder.c_str(), nullptr);
-    frmChild& page = openPage("gone\\index.htm", "1", "2");
-    ::DeleteFileA((folder + "\\index.htm").c_str());
-    ::RemoveDirectoryA(folder.c_str());
+    ::CreateDirectoryA(scratch("gone").c_str(), nullptr);
+    const frmChild& page = openPage("gone\\index.htm", "1", "2");
+    DeleteTree(scratch("gone"));
     User user({User::press("Quillon", IDOK)});
     run(tbrPreview);
     EXPECT_EQ(user.heard()[0], kFailure);
-    EXPECT_EQ(page.txtPad().text(), "21");
+    EXPECT_EQ(pageText(), "21");
     EXPECT_TRUE(page.txtPad().isChanged());
 }
 
-class ResetTest : public AppTest {};
+using ResetTest = PreviewTest;
 
 TEST_F(ResetTest, ResetBringsBackTheSavedPageAndLeavesTheEditedOneOnTheClipboard) {
-    writeFile(scratch("index.htm"), "one\r\ntwo\r\n");
-    frmChild& page = *files::OpenFile(main(), scratch("index.htm"));
-    page.txtPad().setWordWrap(true);
+    const frmChild& page = openPage("index.htm", "one\r\ntwo\r\n");
+    run(mnuOptWW);
     page.txtPad().select(5, 8);
     type("2");
     run(tbrReset);
     EXPECT_EQ(pageText(), "one\r\ntwo\r\n");
-    EXPECT_EQ(win::ClipboardText(main().mainHwnd()), "one\r\n2\r\n");
+    EXPECT_EQ(clipboard(), "one\r\n2\r\n");
     EXPECT_TRUE(label("Current Line No: 1"));
     EXPECT_FALSE(page.txtPad().isChanged());
     EXPECT_TRUE(page.txtPad().wordWrap());
 }
 
 TEST_F(ResetTest, RefusalsAndFailuresLeaveThePageAlone) {
-    writeFile(scratch("index.htm"), "one\r\n");
-    frmChild& page = *files::OpenFile(main(), scratch("index.htm"));
+    const frmChild& page = openPage("index.htm", "one\r\n");
     win::SetClipboardText(main().mainHwnd(), "kept");
     User user({User::press("Quillon", IDOK), User::press("Quillon", IDOK), User::press("Quillon", IDOK)});
     run(tbrReset);
     type("x");
     {
-        const win::UniqueFile locked(
-            ::CreateFileA(scratch("index.htm").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+        const win::UniqueFile locked = hold("index.htm", 0);
         run(tbrReset);
     }
     ::DeleteFileA(scratch("index.htm").c_str());
@@ -204,7 +189,7 @@ TEST_F(ResetTest, RefusalsAndFailuresLeaveThePageAlone) {
                   "File was not previously saved, or was moved.\r\n\r\n      Reset is therefore aborted."}));
     EXPECT_EQ(pageText(), "xone\r\n");
     EXPECT_TRUE(page.txtPad().isChanged());
-    EXPECT_EQ(win::ClipboardText(main().mainHwnd()), "kept");
+    EXPECT_EQ(clipboard(), "kept");
 }
 
 }  // namespace

@@ -2,25 +2,10 @@
 // "Add  Current Page"); the FTP site that is listed first is "Upload" "". choose BUTTON: clicks the button
 // with this text in any of its windows. Ends with 1 when there is no such thing within ten seconds.
 // scripts/screenshots works with it.
-#include <string>
-
 #include "shell/menu_table.h"
+#include "support/windows_seen.h"
 
 namespace {
-
-std::string TextOf(HWND window) {
-    char text[256] = "";
-    ::GetWindowTextA(window, text, sizeof text);
-    return text;
-}
-
-HWND Editor() {
-    HWND window = nullptr;
-    while ((window = ::FindWindowExA(nullptr, window, "frmNotePad", nullptr)) != nullptr) {
-        if (::IsWindowVisible(window)) return window;
-    }
-    return nullptr;
-}
 
 // The captions come from the program's own table: a menu cannot be read from another process everywhere.
 int Find(int count, char** captions) {
@@ -34,42 +19,26 @@ int Find(int count, char** captions) {
     return 0;
 }
 
-struct Search {
-    std::string text;
-    HWND found = nullptr;
-};
-
-BOOL CALLBACK lookAtControl(HWND control, LPARAM param) {
-    auto& search = *reinterpret_cast<Search*>(param);
-    if (!::IsWindowVisible(control) || !::IsWindowEnabled(control) || TextOf(control) != search.text)
-        return TRUE;
-    search.found = control;
-    return FALSE;
-}
-
-BOOL CALLBACK lookAtWindow(HWND window, LPARAM param) {
-    if (!::IsWindowVisible(window) || !::IsWindowEnabled(window)) return TRUE;
-    ::EnumChildWindows(window, lookAtControl, param);
-    return !reinterpret_cast<Search*>(param)->found;
-}
-
-bool Click(HWND editor, const char* button) {
-    Search search{button};
-    ::EnumThreadWindows(::GetWindowThreadProcessId(editor, nullptr), lookAtWindow,
-                        reinterpret_cast<LPARAM>(&search));
-    return search.found && ::PostMessageA(search.found, BM_CLICK, 0, 0);
+bool Click(DWORD process, const char* text) {
+    for (const HWND window : seen::TopLevel(process)) {
+        const HWND button = ::IsWindowEnabled(window) ? seen::Child(window, text) : nullptr;
+        if (button && ::IsWindowEnabled(button)) return ::PostMessageA(button, BM_CLICK, 0, 0);
+    }
+    return false;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    for (int tries = 0; tries < 200; ++tries) {
-        const HWND editor = Editor();
-        if (editor && argc == 2 && Click(editor, argv[1])) return 0;
-        const int command = argc > 2 ? Find(argc - 1, argv + 1) : 0;
-        if (editor && command && ::PostMessageA(editor, WM_COMMAND, static_cast<WPARAM>(command), 0))
-            return 0;
-        ::Sleep(50);
-    }
-    return 1;
+    const bool done =
+        argc > 1 && seen::Until([&] {
+            const HWND editor = ::FindWindowA("frmNotePad", nullptr);
+            DWORD process = 0;
+            ::GetWindowThreadProcessId(editor, &process);
+            if (!::IsWindowVisible(editor)) return false;
+            if (argc == 2) return Click(process, argv[1]);
+            const int command = Find(argc - 1, argv + 1);
+            return command && ::PostMessageA(editor, WM_COMMAND, static_cast<WPARAM>(command), 0);
+        });
+    return done ? 0 : 1;
 }

@@ -1,24 +1,15 @@
 // Stands in for the word processor that is driven as "Word.Basic": a COM server with one document.
-//   standin_word /register LOG [FAIL]   makes it the server of that name. It writes each call as a line to
-//   LOG,
-//                                       and call number FAIL, from 1, fails. With "each" for FAIL it serves
-//                                       its callers one after the other, the n-th of whom sees the n-th call
-//                                       fail; with "ask" its spelling dialog waits for an answer.
-//   standin_word /unregister
-#include <windows.h>
+//   standin_word LOG [ORDERS]   serves its caller, and writes each call as a line to LOG. With the orders
+//                               "each" it serves callers one after the other, the n-th of whom sees the n-th
+//                               call fail; with "ask" its spelling dialog waits for an answer.
+#include "support/standin_word.h"
+#include "support/com_object.h"
 
-#include <ole2.h>
-
-#include <cstdlib>
+#include <iterator>
 #include <string>
 #include <vector>
 
 namespace {
-
-constexpr CLSID kClass = {0x5C5A5D0E, 0x2A53, 0x4B0A, {0x9C, 0x1B, 0x5B, 0x37, 0x2E, 0x64, 0x61, 0xD4}};
-constexpr char kClassText[] = "{5C5A5D0E-2A53-4B0A-9C1B-5B372E6461D4}";
-constexpr wchar_t kWrong[] = L"teh";
-constexpr wchar_t kRight[] = L"the";
 
 const wchar_t* const kMethods[] = {L"AppMinimize",    L"FileNew",        L"Insert",        L"StartOfDocument",
                                    L"EndOfDocument",  L"ToolsSpelling",  L"EditSelectAll", L"Selection",
@@ -26,9 +17,9 @@ const wchar_t* const kMethods[] = {L"AppMinimize",    L"FileNew",        L"Inser
 
 struct Orders {
     std::string log;
-    int failAt = 0;
     bool ask = false;
     bool each = false;
+    int failAt = 0;
 };
 
 std::string Bytes(const std::wstring& wide) {
@@ -46,64 +37,37 @@ std::string Quoted(const std::wstring& wide) {
     return text;
 }
 
-class Word final : public IDispatch {
+class Word final : public ComObject<IDispatch> {
  public:
     explicit Word(Orders orders) : orders_(std::move(orders)) {}
-    virtual ~Word() = default;
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-        *object = id == IID_IUnknown || id == IID_IDispatch ? this : nullptr;
-        if (!*object) return E_NOINTERFACE;
-        AddRef();
-        return S_OK;
+    ~Word() override {
+        log("released");
+        if (!orders_.each || orders_.failAt == static_cast<int>(std::size(kMethods))) ::PostQuitMessage(0);
     }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG left = --references_;
-        if (left == 0) {
-            const bool more = orders_.each && orders_.failAt < static_cast<int>(std::size(kMethods));
-            log("released");
-            delete this;
-            if (!more) ::PostQuitMessage(0);
-        }
-        return left;
-    }
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
-        *count = 0;
-        return S_OK;
-    }
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) override {
-        for (std::size_t i = 0; i < std::size(kMethods); ++i) {
-            if (::lstrcmpiW(names[0], kMethods[i]) == 0) {
-                ids[0] = static_cast<DISPID>(i);
-                return S_OK;
-            }
-        }
+        for (ids[0] = 0; ids[0] < static_cast<DISPID>(std::size(kMethods)); ++ids[0])
+            if (::lstrcmpiW(names[0], kMethods[ids[0]]) == 0) return S_OK;
         return DISP_E_UNKNOWNNAME;
     }
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT* result,
                                      EXCEPINFO* failure, UINT*) override {
-        std::vector<std::wstring> arguments;
+        std::string line = Bytes(kMethods[id]);
+        std::wstring last;
         for (UINT i = parameters->cArgs; i-- > 0;) {
-            VARIANT text;
-            ::VariantInit(&text);
+            VARIANT text{};
             ::VariantChangeType(&text, &parameters->rgvarg[i], 0, VT_BSTR);
-            arguments.emplace_back(text.bstrVal, ::SysStringLen(text.bstrVal));
+            last.assign(text.bstrVal, ::SysStringLen(text.bstrVal));
             ::VariantClear(&text);
+            line += " " + Quoted(last);
         }
-        const std::wstring method = kMethods[id];
-        std::string line = Bytes(method);
-        for (const std::wstring& argument : arguments) line += " " + Quoted(argument);
         log(line);
         if (++calls_ == orders_.failAt) {
-            failure->wCode = 1001;
-            failure->bstrSource = ::SysAllocString(L"Word.Basic");
             failure->bstrDescription = ::SysAllocString(L"The stand-in was told to fail.");
             return DISP_E_EXCEPTION;
         }
-        std::wstring value;
-        if (!run(method, arguments, value)) return DISP_E_BADPARAMCOUNT;
+        const std::wstring value = run(kMethods[id], last);
         if (result) {
             result->vt = VT_BSTR;
             result->bstrVal = ::SysAllocStringLen(value.data(), static_cast<UINT>(value.size()));
@@ -112,21 +76,14 @@ class Word final : public IDispatch {
     }
 
  private:
-    bool run(const std::wstring& method, const std::vector<std::wstring>& arguments, std::wstring& value) {
-        const std::size_t wanted = method == L"SetDocumentVar" ? 2
-                                   : method == L"Insert" || method == L"EndOfDocument" ||
-                                           method == L"GetDocumentVar" || method == L"FileCloseAll"
-                                       ? 1
-                                       : 0;
-        if (arguments.size() != wanted) return false;
+    std::wstring run(const std::wstring& method, const std::wstring& argument) {
         if (method == L"FileNew") document_ = L"\r";
-        if (method == L"Insert") insert(arguments[0]);
+        if (method == L"Insert") insert(argument);
         if (method == L"ToolsSpelling") correct();
         if (method == L"EditSelectAll") selection_ = document_;
-        if (method == L"Selection") value = selection_;
-        if (method == L"SetDocumentVar") variable_ = arguments[1];
-        if (method == L"GetDocumentVar") value = variable_;
-        return true;
+        if (method == L"SetDocumentVar") variable_ = argument;
+        if (method == L"Selection") return selection_;
+        return method == L"GetDocumentVar" ? variable_ : L"";
     }
 
     // Before the mark that ends the document; a paragraph ends with CR only.
@@ -140,10 +97,8 @@ class Word final : public IDispatch {
 
     void correct() {
         if (orders_.ask) ::MessageBoxA(nullptr, "Correct it?", "Stand-in spelling", MB_OK | MB_SETFOREGROUND);
-        for (std::size_t at = document_.find(kWrong); at != std::wstring::npos;
-             at = document_.find(kWrong, at + 1)) {
-            document_.replace(at, 3, kRight);
-        }
+        for (std::size_t at = 0; (at = document_.find(L"teh", at)) != std::wstring::npos;)
+            document_.replace(at, 3, L"the");
     }
 
     void log(const std::string& line) const {
@@ -156,88 +111,35 @@ class Word final : public IDispatch {
     }
 
     Orders orders_;
-    ULONG references_ = 0;
     int calls_ = 0;
     std::wstring document_;
     std::wstring selection_;
     std::wstring variable_;
 };
 
-class Factory final : public IClassFactory {
- public:
-    explicit Factory(Orders orders) : orders_(std::move(orders)) {}
-    virtual ~Factory() = default;
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-        *object = id == IID_IUnknown || id == IID_IClassFactory ? this : nullptr;
-        return *object ? S_OK : E_NOINTERFACE;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
-    ULONG STDMETHODCALLTYPE Release() override { return 1; }
-    HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown*, REFIID id, void** object) override {
-        if (orders_.each) ++orders_.failAt;
-        auto* word = new Word(orders_);
-        word->AddRef();
-        const HRESULT result = word->QueryInterface(id, object);
-        word->Release();
-        return result;
-    }
-    HRESULT STDMETHODCALLTYPE LockServer(BOOL) override { return S_OK; }
-
- private:
-    Orders orders_;
-};
-
-void CALLBACK EndUnused(HWND, UINT, UINT_PTR, DWORD) {
-    ::PostQuitMessage(1);
-}
-
-int Serve(const Orders& orders) {
-    ::CoInitialize(nullptr);
-    Factory factory(orders);
-    DWORD cookie = 0;
-    ::CoRegisterClassObject(kClass, &factory, CLSCTX_LOCAL_SERVER,
-                            orders.each ? REGCLS_MULTIPLEUSE : REGCLS_SINGLEUSE, &cookie);
-    ::SetTimer(nullptr, 0, 60000, EndUnused);
-    MSG message{};
-    while (::GetMessageA(&message, nullptr, 0, 0) > 0) ::DispatchMessageA(&message);
-    ::CoRevokeClassObject(cookie);
-    ::CoUninitialize();
-    return 0;
-}
-
-void SetDefault(const std::string& key, const std::string& value) {
-    ::RegSetValueA(HKEY_CLASSES_ROOT, key.c_str(), REG_SZ, value.c_str(), 0);
-}
-
-void Unregister() {
-    const std::string cls = std::string("CLSID\\") + kClassText;
-    for (const std::string& key :
-         {cls + "\\LocalServer32", cls, std::string("Word.Basic\\CLSID"), std::string("Word.Basic")}) {
-        ::RegDeleteKeyA(HKEY_CLASSES_ROOT, key.c_str());
-    }
-}
-
-void Register(const std::string& log, const std::string& fail) {
-    char exe[MAX_PATH];
-    ::GetModuleFileNameA(nullptr, exe, sizeof exe);
-    SetDefault("Word.Basic\\CLSID", kClassText);
-    SetDefault(std::string("CLSID\\") + kClassText + "\\LocalServer32",
-               "\"" + std::string(exe) + "\" \"" + log + "\" " + (fail.empty() ? "0" : fail));
-}
-
 }  // namespace
 
+// "-Embedding", with which the system starts a server, is no order.
 int main(int argc, char** argv) {
-    const std::string first = argc > 1 ? argv[1] : "";
-    if (first == "/register" && argc > 2) {
-        Register(argv[2], argc > 3 ? argv[3] : "");
-    } else if (first == "/unregister") {
-        Unregister();
-    } else if (argc > 2) {
-        return Serve(
-            {first, std::atoi(argv[2]), std::string(argv[2]) == "ask", std::string(argv[2]) == "each"});
-    } else {
-        return 1;
-    }
+    if (argc < 2) return 1;
+    const std::string order = argc > 2 ? argv[2] : "";
+    Orders orders{argv[1], order == "ask", order == "each"};
+    ::CoInitialize(nullptr);
+    CLSID cls{};
+    const std::string name = kStandinWordClass;
+    ::CLSIDFromString(std::wstring(name.begin(), name.end()).c_str(), &cls);
+    ComFactory factory([&orders] {
+        if (orders.each) ++orders.failAt;
+        return new Word(orders);
+    });
+    DWORD cookie = 0;
+    ::CoRegisterClassObject(cls, &factory, CLSCTX_LOCAL_SERVER,
+                            orders.each ? REGCLS_MULTIPLEUSE : REGCLS_SINGLEUSE, &cookie);
+    ::SetTimer(nullptr, 0, 60000, nullptr);  // ends it when nobody calls
+    MSG message{};
+    while (::GetMessageA(&message, nullptr, 0, 0) > 0 && message.message != WM_TIMER)
+        ::DispatchMessageA(&message);
+    ::CoRevokeClassObject(cookie);
+    ::CoUninitialize();
     return 0;
 }
