@@ -4,6 +4,7 @@
 #include "files/page_writer.h"
 #include "win/app_test.h"
 #include "win/clipboard.h"
+#include "win/message_loop.h"
 
 namespace {
 
