@@ -190,7 +190,8 @@ TEST_F(TemplateTest, ATemplateIsRenamedInTheMenuOnly) {
                     EXPECT_EQ(seen::TextOf(list), "Template List");
                     EXPECT_EQ(::SendMessageA(list, CB_GETCOUNT, 0, 0), 2);
                     EXPECT_FALSE(::IsWindowEnabled(box));
-                    Press(dialog, "Enter");  // with nothing chosen
+                    // With nothing chosen; sent, because what is posted would come after what is sent next.
+                    ::SendMessageA(seen::Child(dialog, "Enter", "Button"), BM_CLICK, 0, 0);
                     choose(dialog, 1, "ReName");
                     EXPECT_TRUE(seen::Until([&] { return ::IsWindowEnabled(box) != FALSE; }));
                     ::SetWindowTextA(box, "");
