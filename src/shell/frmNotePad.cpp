@@ -59,7 +59,6 @@ void frmNotePad::createParts() {
     for (const shell::MenuRow& row : shell::kMenu) {
         if (row.kind == shell::MenuKind::item) menu_.enable(row.id, shell::IsAvailable(row.id));
     }
-    menuPictures_.addTo(menu_);
     options::ShowStored(*this);
     ::SetMenu(hwnd(), menu_.handle());
     menu_.attach(hwnd());
@@ -254,6 +253,9 @@ LRESULT frmNotePad::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             if (LOWORD(wParam) >= mdiChildren) break;
             run(LOWORD(wParam));
             return 0;
+        case WM_INITMENU:
+            if (menuPictures_.empty()) menuPictures_.addTo(menu_);
+            break;
         case WM_INITMENUPOPUP:
             if (reinterpret_cast<HMENU>(wParam) == menu_.popup(mnuEdit)) document::UpdateEditMenu(*this);
             break;

@@ -32,21 +32,26 @@ void DrawGround(HDC dc, const RECT& area, bool hot, bool pressed) {
 }  // namespace
 
 PictureButton::PictureButton(HWND parent, int id, const char* name, const char* icon, const RECT& place)
-    : normal_(icon, PictureSize()), disabled_(icon, PictureSize(), Picture::Look::disabled) {
+    : icon_(icon) {
     attach(Check(::CreateWindowExA(0, "BUTTON", name, WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW,
                                    place.left, place.top, place.right - place.left, place.bottom - place.top,
                                    parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
                                    ::GetModuleHandleA(nullptr), nullptr)));
 }
 
-void PictureButton::draw(const DRAWITEMSTRUCT& item) const {
+const Picture& PictureButton::picture(bool disabled) {
+    std::optional<Picture>& kept = disabled ? disabled_ : normal_;
+    if (!kept) kept.emplace(icon_, PictureSize(), disabled ? Picture::Look::disabled : Picture::Look::normal);
+    return *kept;
+}
+
+void PictureButton::draw(const DRAWITEMSTRUCT& item) {
     const bool pressed = (item.itemState & ODS_SELECTED) != 0;
-    const Picture& picture = (item.itemState & ODS_DISABLED) != 0 ? disabled_ : normal_;
+    const Picture& shown = picture((item.itemState & ODS_DISABLED) != 0);
     RECT area = item.rcItem;
     DrawGround(item.hDC, area, hot_, pressed);
     const int shift = pressed ? Scaled(1) : 0;
-    picture.draw(item.hDC, (area.right - picture.size()) / 2 + shift,
-                 (area.bottom - picture.size()) / 2 + shift);
+    shown.draw(item.hDC, (area.right - shown.size()) / 2 + shift, (area.bottom - shown.size()) / 2 + shift);
     if ((item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0) {
         ::InflateRect(&area, -2, -2);
         ::DrawFocusRect(item.hDC, &area);

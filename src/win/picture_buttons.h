@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "win/control.h"
@@ -18,14 +19,18 @@ class PictureButton : public Control {
     PictureButton(HWND parent, int id, const char* name, const char* icon, const RECT& place);
 
     // For its parent's WM_DRAWITEM.
-    void draw(const DRAWITEMSTRUCT& item) const;
+    void draw(const DRAWITEMSTRUCT& item);
 
  private:
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void setHot(bool hot);
 
-    Picture normal_;
-    Picture disabled_;
+    const Picture& picture(bool disabled);
+
+    const char* icon_;
+    // Made when first drawn: a start of the program does not wait for them.
+    std::optional<Picture> normal_;
+    std::optional<Picture> disabled_;
     bool hot_ = false;
 };
 
