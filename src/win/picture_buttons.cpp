@@ -92,12 +92,15 @@ void PictureButtons::open(HWND parent, int left, int top) {
 
 void PictureButtons::add(int id, const char* name, const char* icon, bool beginsGroup) {
     if (beginsGroup) left_ += Scaled(kGap);
-    const HWND before = buttons_.empty() ? HWND_TOP : buttons_.back()->hwnd();
+    const HWND before = buttons_.empty() ? nullptr : buttons_.back()->hwnd();
     const RECT place{left_, top_, left_ + height(), top_ + height()};
     buttons_.push_back(std::make_unique<PictureButton>(parent_, id, name, icon, place));
     left_ = place.right;
     const HWND added = buttons_.back()->hwnd();
-    ::SetWindowPos(added, before, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    if (::GetWindow(added, GW_HWNDPREV) != before) {
+        ::SetWindowPos(added, before ? before : HWND_TOP, 0, 0, 0, 0,
+                       SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    }
     tips_.add(added, name);
 }
 
