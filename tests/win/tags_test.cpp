@@ -109,4 +109,19 @@ TEST_F(TagsTest, TheDateIsTodays) {
     expectReplacedBy(isOfBefore ? before : today());  // at midnight it may be either
 }
 
+TEST_F(TagsTest, AnInsertAnUndoAndASaveKeepEveryByteOfThePage) {
+    const std::string page = "<BODY>\r\n\tcaf\xE9 \x80\xFF\r\n\r\n</BODY>";
+    writeFile(scratch("page.htm"), "");
+    frmChild& document = newPage(page);
+    document.setTag(scratch("page.htm"));
+    document.txtPad().select(8, 8);
+    run(mnuTagsLsList);
+    const std::string list = "<UL type=disc>\r\n   <LI>\r\n   <LI>\r\n   <LI>\r\n   <LI>\r\n   <LI>\r\n</UL>";
+    EXPECT_EQ(pageText(), "<BODY>\r\n" + list + page.substr(8));
+    run(mnuEditUndo);
+    EXPECT_EQ(pageText(), page);
+    run(mnuFileSave);
+    EXPECT_EQ(readFile(scratch("page.htm")), page + "\r\n");
+}
+
 }  // namespace
