@@ -6,6 +6,8 @@
 #include "ftp/download.h"
 #include "ftp/frmUpload.h"
 #include "ftp/site_store.h"
+#include "win/drop_target.h"
+#include "win/error.h"
 #include "win/failing_calls.h"
 #include "win/ftp_test.h"
 #include "win/message_loop.h"
@@ -211,6 +213,38 @@ TEST_F(FtpFaultsTest, WithoutADialUpLinkTheAttemptGoesOnAndWithoutNetworkingItEn
                                         "Connect to Internet before attempting to use FTP.",
                                         "Cannot obtain internet handle..."}));
     EXPECT_EQ(ftpWindow(), nullptr);
+}
+
+// A session in which every change ends in an error that no server's answer explains.
+class Failing : public Unplugged {
+ public:
+    bool dial() override { return true; }
+    bool open() override { return true; }
+    bool connect(const std::string&, const std::string&, const std::string&) override { return true; }
+    bool isConnected() const override { return true; }
+    std::optional<ftp::RemoteEntry> findFirst(const std::string&) override {
+        return ftp::RemoteEntry{"old", FILE_ATTRIBUTE_DIRECTORY, 0};
+    }
+    bool tell(ftp::RemoteCommand, const std::string&, const std::string&, ftp::TransferType) override {
+        throw win::Failure("out of order");
+    }
+};
+
+TEST_F(FtpFaultsTest, AnErrorThatNoServerExplainsIsToldInTheWordsOfItsCommand) {
+    addSite("127.0.0.1", "plain", "pw");
+    frmUpload::open(main(), 0,
+                    []() -> std::unique_ptr<ftp::FtpSession> { return std::make_unique<Failing>(); });
+    EXPECT_EQ(say("old/", mnuDirDelete,
+                  {User::press("DELETION CONFIRMATION", IDYES), User::press("DELETE DIFFICULTY", IDOK)}),
+              "There was a problem deleting old/.");
+    savePage("page.htm", "page");
+    EXPECT_EQ(saidToClick(cmdUp, "ERROR"), "Error uploading");
+    User user({User::press("Quillon", IDOK)});
+    std::vector<std::string> files{scratch("page.htm")};
+    ::SendMessageA(control(lstRemoteFiles), win::kDropped, 0, reinterpret_cast<LPARAM>(&files));
+    win::RunPending();
+    EXPECT_EQ(user.heard()[0], "Could not upload files.");
+    EXPECT_EQ(textOf(txtCurDir), "/");
 }
 
 }  // namespace
