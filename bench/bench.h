@@ -33,6 +33,7 @@ void WriteFile(const std::string& path, const std::string& bytes);
 void Start();
 void OpenAndSave(MainWindow& main);
 void FindAndReplace(MainWindow& main);
+void Chart(MainWindow& main);
 void Ftp(MainWindow& main);
 
 }  // namespace bench

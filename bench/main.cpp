@@ -25,6 +25,7 @@ int main(int argc, char** argv) {
     ::ShowWindow(window.hwnd(), SW_SHOW);
     if (Wanted("pages", argc, argv)) bench::OpenAndSave(window);
     if (Wanted("find", argc, argv)) bench::FindAndReplace(window);
+    if (Wanted("chart", argc, argv)) bench::Chart(window);
     if (Wanted("ftp", argc, argv)) bench::Ftp(window);
     ::OleUninitialize();
     return 0;
