@@ -237,10 +237,11 @@ TEST_F(FtpFaultsTest, AnErrorThatNoServerExplainsIsToldInTheWordsOfItsCommand) {
     EXPECT_EQ(say("old/", mnuDirDelete,
                   {User::press("DELETION CONFIRMATION", IDYES), User::press("DELETE DIFFICULTY", IDOK)}),
               "There was a problem deleting old/.");
-    savePage("page.htm", "page");
+    // A given-up upload may hold the file of another test for a while.
+    savePage("other.htm", "page");
     EXPECT_EQ(saidToClick(cmdUp, "ERROR"), "Error uploading");
     User user({User::press("Quillon", IDOK)});
-    std::vector<std::string> files{scratch("page.htm")};
+    std::vector<std::string> files{scratch("other.htm")};
     ::SendMessageA(control(lstRemoteFiles), win::kDropped, 0, reinterpret_cast<LPARAM>(&files));
     win::RunPending();
     EXPECT_EQ(user.heard()[0], "Could not upload files.");
