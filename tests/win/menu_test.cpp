@@ -1,6 +1,5 @@
-#include "shell/commands.h"
-#include "shell/menu_table.h"
 #include "win/app_test.h"
+#include "win/message_loop.h"
 
 namespace {
 
@@ -24,12 +23,6 @@ class MenuTest : public AppTest {
         return all;
     }
 };
-
-TEST_F(MenuTest, EveryItemAndEveryButtonIsAnswered) {
-    for (const win::MenuRow& row : shell::kMenu)
-        EXPECT_TRUE(row.kind != win::MenuKind::item || shell::IsAvailable(row.id)) << row.caption;
-    for (const ToolButton& button : kToolbar) EXPECT_TRUE(shell::IsAvailable(button.command)) << button.tip;
-}
 
 TEST_F(MenuTest, WhatNeedsADocumentIsGreyWithoutOne) {
     constexpr char kNeedPages[] = "Current Edit Window Tags Scripts ";
@@ -63,6 +56,15 @@ TEST_F(MenuTest, ToolbarButtonsHaveNamesAndFollowTheDocuments) {
     EXPECT_EQ(buttons().find("Save"), std::string::npos);
     newPage("");
     EXPECT_NE(buttons().find("Close,Save,Save As,Cut,Copy,Paste,Undo Cut/Paste,"), std::string::npos);
+}
+
+TEST_F(MenuTest, TheMouseFindsTheNameOfAButtonThatWorksAndOfOneThatDoesNot) {
+    for (const char* name : {"New", "Save"}) {
+        RECT button{};
+        ::GetWindowRect(seen::Child(main().mainHwnd(), name, "Button"), &button);
+        ::SetCursorPos(button.left + 9, button.top + 9);
+        EXPECT_TRUE(seen::Until([name] { return win::RunPending() && window(name); })) << name;
+    }
 }
 
 TEST_F(MenuTest, TheWindowListNamesThePagesAndFollowsThem) {
