@@ -81,7 +81,8 @@ bool frmUpload::onInit() {
     showPictures();
     ::CheckRadioButton(hwnd(), upType, upType + 2, upType + 2);
     showIdle();
-    return true;
+    // Until it is shown the keyboard stays with the connecting window, where Esc gives up.
+    return false;
 }
 
 void frmUpload::showPictures() {
