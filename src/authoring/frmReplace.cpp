@@ -53,55 +53,50 @@ void frmReplace::tellNoMatch() const {
     if (hwnd()) focusItem(txtReplace);
 }
 
+std::optional<frmReplace::Texts> frmReplace::typed(const char* titleWithoutNewText) const {
+    Texts texts{itemText(txtReplace), itemText(txtReplaceWith)};
+    if (texts.find.empty()) {
+        note("Enter text to be replaced.");
+    } else if (texts.with.empty()) {
+        ask("Enter text to replace with...", titleWithoutNewText);
+    } else {
+        return texts;
+    }
+    return std::nullopt;
+}
+
 void frmReplace::clickReplace() {
     bringPageToTop();
-    const std::string find = itemText(txtReplace);
-    const std::string with = itemText(txtReplaceWith);
-    if (find.empty()) {
-        note("Enter text to be replaced.");
-        return;
-    }
-    if (with.empty()) {
-        ask("Enter text to replace with...", "Quillon");
-        return;
-    }
+    const std::optional<Texts> texts = typed("Quillon");
     const frmChild* target = page();
-    if (!target) return;
+    if (!texts || !target) return;
     document::RichEdit& pad = target->txtPad();
     std::string text = pad.text();
-    const std::size_t at = authoring::FindExact(text, find);
+    const std::size_t at = authoring::FindExact(text, texts->find);
     if (at == authoring::kNotFound) {
         tellNoMatch();
         return;
     }
     main().showResult("Last Replace changed 1 occurrence.");
     const auto start = static_cast<long>(at);
-    pad.select(start, start + static_cast<long>(find.size()));
-    pad.replaceSelection(with);
+    pad.select(start, start + static_cast<long>(texts->find.size()));
+    pad.replaceSelection(texts->with);
     pad.scrollToCaret();
     focusPage(*target);
-    text.replace(at, find.size(), with);
-    enableButtons(authoring::FindExact(text, find, at + 1) != authoring::kNotFound);
+    text.replace(at, texts->find.size(), texts->with);
+    enableButtons(authoring::FindExact(text, texts->find, at + 1) != authoring::kNotFound);
 }
 
 void frmReplace::clickReplaceAll() {
     bringPageToTop();
-    const std::string find = itemText(txtReplace);
-    const std::string with = itemText(txtReplaceWith);
-    if (find.empty()) {
-        note("Enter text to be replaced.");
-        return;
-    }
-    if (with.empty()) {
-        note("Enter text to replace with...");
-        return;
-    }
+    const std::optional<Texts> texts = typed(kNote);
+    if (!texts) return;
     bool matched = true;
     bool failed = false;
     busy_ = true;
     try {
         const win::WaitCursor wait;
-        const Outcome outcome = replaced(find, with);
+        const Outcome outcome = replaced(*texts);
         matched = outcome.count > 0;
         if (matched && page()) takeOver(outcome);
     } catch (const std::exception&) {
@@ -113,16 +108,16 @@ void frmReplace::clickReplaceAll() {
     if (!failed && !matched) tellNoMatch();
 }
 
-frmReplace::Outcome frmReplace::replaced(const std::string& find, const std::string& with) {
+frmReplace::Outcome frmReplace::replaced(const Texts& texts) {
     Outcome outcome;
     std::string text;
     // What the user types while messages run must not be lost with the old text: then it is done again.
     for (const frmChild* target = page(); target && target->txtPad().text() != text; target = page()) {
         text = target->txtPad().text();
-        const std::optional<int> count = authoring::CountMatches(text, find);
+        const std::optional<int> count = authoring::CountMatches(text, texts.find);
         if (!count) throw win::Failure("more than can be counted");
         if (*count == 0) return {};
-        outcome = {authoring::ReplaceText(text, find, with, win::RunPending), *count};
+        outcome = {authoring::ReplaceText(text, texts.find, texts.with, win::RunPending), *count};
     }
     return outcome;
 }

@@ -1,6 +1,7 @@
 // The Replace dialog.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "authoring/page_dialog.h"
@@ -16,20 +17,28 @@ class frmReplace : public authoring::PageDialog {
     bool onCommand(WORD id, WORD notification) override;
     HWND originalKid() const override { return mReplaceOriginalKid; }
 
+    struct Texts {
+        std::string find;
+        std::string with;
+    };
     struct Outcome {
         std::string text;
         int count = 0;  // overlapping occurrences included
     };
 
+    // What was typed. Nothing, and the user has been told, when one of them is empty.
+    std::optional<Texts> typed(const char* titleWithoutNewText) const;
     void clickReplace();
     void clickReplaceAll();
     // The page's text with all occurrences replaced; a count of 0 when there is none or the page has gone.
     // Throws when there are more than can be counted.
-    Outcome replaced(const std::string& find, const std::string& with);
+    Outcome replaced(const Texts& texts);
     void takeOver(const Outcome& outcome);
-    void note(const char* text) const { ask(text, "Oreval Note:"); }
+    void note(const char* text) const { ask(text, kNote); }
     void tellNoMatch() const;
     void enableButtons(bool enabled) const;
+
+    static constexpr char kNote[] = "Oreval Note:";
 
     HWND mReplaceOriginalKid;
     bool busy_ = false;
