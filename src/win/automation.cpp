@@ -3,10 +3,18 @@
 #include <new>
 
 #include "win/error.h"
+#include "win/late.h"
 #include "win/unicode.h"
 
 namespace win {
 namespace {
+
+constexpr char kDll[] = "oleaut32.dll";
+constexpr Late<decltype(&::SysAllocStringLen)> kSysAllocStringLen{kDll, "SysAllocStringLen"};
+constexpr Late<decltype(&::SysFreeString)> kSysFreeString{kDll, "SysFreeString"};
+constexpr Late<decltype(&::SysStringLen)> kSysStringLen{kDll, "SysStringLen"};
+constexpr Late<decltype(&::VariantChangeType)> kVariantChangeType{kDll, "VariantChangeType"};
+constexpr Late<decltype(&::VariantClear)> kVariantClear{kDll, "VariantClear"};
 
 void CheckResult(HRESULT result) {
     if (FAILED(result)) throw Error(static_cast<DWORD>(result));
@@ -21,16 +29,21 @@ Variant::Variant(long number) : Variant() {
 
 Variant::Variant(std::string_view text) : Variant() {
     const std::wstring wide = ToWide(text);
-    value_.bstrVal = ::SysAllocStringLen(wide.data(), static_cast<UINT>(wide.size()));
+    value_.bstrVal = kSysAllocStringLen(wide.data(), static_cast<UINT>(wide.size()));
     if (!value_.bstrVal) throw std::bad_alloc();
     value_.vt = VT_BSTR;
 }
 
+Variant::~Variant() {
+    if (value_.vt != VT_EMPTY) kVariantClear(&value_);
+}
+
 std::string Variant::text() const {
     Variant converted;
-    CheckResult(::VariantChangeType(converted.out(), const_cast<VARIANT*>(&value_), 0, VT_BSTR));
+    CheckResult(
+        kVariantChangeType(converted.out(), const_cast<VARIANT*>(&value_), USHORT{0}, VARTYPE{VT_BSTR}));
     const BSTR wide = converted.value_.bstrVal;
-    return ToAnsi({wide ? wide : L"", ::SysStringLen(wide)});
+    return ToAnsi({wide ? wide : L"", kSysStringLen(wide)});
 }
 
 std::optional<AutomationObject> AutomationObject::create(const wchar_t* progId) {
@@ -54,9 +67,9 @@ Variant AutomationObject::invoke(const wchar_t* method, VARIANT* reversedArgumen
     const HRESULT done =
         object_.get()->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD | DISPATCH_PROPERTYGET,
                               &parameters, result.out(), &failure, nullptr);
-    ::SysFreeString(failure.bstrSource);
-    ::SysFreeString(failure.bstrDescription);
-    ::SysFreeString(failure.bstrHelpFile);
+    kSysFreeString(failure.bstrSource);
+    kSysFreeString(failure.bstrDescription);
+    kSysFreeString(failure.bstrHelpFile);
     CheckResult(done);
     return result;
 }

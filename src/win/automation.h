@@ -15,12 +15,12 @@ namespace win {
 // A value that goes to an automation object or comes from one.
 class Variant {
  public:
-    Variant() { ::VariantInit(&value_); }
+    Variant() = default;
     explicit Variant(long number);
     explicit Variant(std::string_view text);  // in the ANSI code page, of any length and with any byte
-    Variant(Variant&& other) noexcept : value_(other.value_) { ::VariantInit(&other.value_); }
+    Variant(Variant&& other) noexcept : value_(std::exchange(other.value_, {})) {}
     Variant& operator=(Variant&&) = delete;
-    ~Variant() { ::VariantClear(&value_); }
+    ~Variant();
 
     // In the ANSI code page. Throws win::Error when the value has no text form.
     std::string text() const;
@@ -28,7 +28,7 @@ class Variant {
     VARIANT* out() { return &value_; }  // only while nothing is held
 
  private:
-    VARIANT value_;
+    VARIANT value_{};  // empty, as VariantInit would leave it
 };
 
 class AutomationObject {
