@@ -7,7 +7,7 @@ add_library(quillon_app OBJECT ${app_sources})
 # The numbers of each form's controls stand beside its dialog template.
 target_include_directories(quillon_app PUBLIC res)
 target_link_libraries(quillon_app PUBLIC
-    quillon_core comctl32 ole32 uuid shell32 gdi32 user32 advapi32)
+    quillon_core comctl32 ole32 uuid gdi32 user32 advapi32)
 
 file(GLOB resource_files CONFIGURE_DEPENDS res/*.ico res/*.manifest res/pictures/*.ico res/forms/*)
 add_library(quillon_resources OBJECT res/quillon.rc)

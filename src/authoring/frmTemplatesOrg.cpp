@@ -4,6 +4,7 @@
 #include "authoring/template_store.h"
 #include "files/modPubFuncs.h"
 #include "forms/frmTemplatesOrg.h"
+#include "win/late_shell.h"
 #include "win/message_box.h"
 
 using authoring::TemplateList;
@@ -21,7 +22,7 @@ Deletion DeleteToBin(HWND owner, const std::string& path) {
     operation.wFunc = FO_DELETE;
     operation.pFrom = list.c_str();
     operation.fFlags = FOF_ALLOWUNDO;
-    const int result = ::SHFileOperationA(&operation);
+    const int result = win::kFileOperation(&operation);
     if (operation.fAnyOperationsAborted || result == ERROR_CANCELLED) return Deletion::calledOff;
     return result == 0 ? Deletion::done : Deletion::failed;
 }

@@ -10,6 +10,7 @@
 #include "files/modPubFuncs.h"
 #include "files/page_writer.h"
 #include "win/error.h"
+#include "win/late_shell.h"
 #include "win/message_box.h"
 #include "win/message_loop.h"
 
@@ -46,22 +47,22 @@ authoring::ShownFile WriteFile(MainWindow& main, DocumentId id, const std::strin
 // The program that opens the file; empty when there is none.
 std::string FindBrowser(const authoring::ShownFile& file) {
     char program[MAX_PATH] = "";
-    const INT_PTR code = CodeOf(::FindExecutableA(file.path().c_str(), file.folder().c_str(), program));
+    const INT_PTR code = CodeOf(win::kFindExecutable(file.path().c_str(), file.folder().c_str(), program));
     return code > kLastFailure ? program : "";
 }
 
 bool Start(HWND owner, const std::string& browser, const authoring::ShownFile& file) {
     const HWND explorer = ::FindWindowA("IEFrame", nullptr);
     if (explorer && authoring::IsInternetExplorer(browser)) {
-        ::ShellExecuteA(explorer, "Open", file.path().c_str(), "", "", SW_SHOWNORMAL);
+        win::kShellExecute(explorer, "Open", file.path().c_str(), "", "", SW_SHOWNORMAL);
         ::SetForegroundWindow(explorer);
         return true;
     }
     // A browser would take a path with a blank in it for two.
     const bool blank = file.path().find(' ') != std::string::npos;
     const std::string argument = blank ? '"' + file.path() + '"' : file.path();
-    return CodeOf(::ShellExecuteA(owner, "open", browser.c_str(), argument.c_str(), file.folder().c_str(),
-                                  SW_SHOWNORMAL)) > kLastFailure;
+    return CodeOf(win::kShellExecute(owner, "open", browser.c_str(), argument.c_str(), file.folder().c_str(),
+                                     SW_SHOWNORMAL)) > kLastFailure;
 }
 
 }  // namespace

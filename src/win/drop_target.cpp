@@ -5,13 +5,14 @@
 #include <vector>
 
 #include "win/error.h"
+#include "win/late_shell.h"
 
 namespace win {
 namespace {
 
 std::string DroppedPath(HDROP files, UINT index) {
-    std::string path(::DragQueryFileA(files, index, nullptr, 0) + 1U, '\0');
-    path.resize(::DragQueryFileA(files, index, path.data(), static_cast<UINT>(path.size())));
+    std::string path(kDragQueryFile(files, index, nullptr, 0) + 1U, '\0');
+    path.resize(kDragQueryFile(files, index, path.data(), static_cast<UINT>(path.size())));
     return path;
 }
 
@@ -21,7 +22,7 @@ std::vector<std::string> DroppedFiles(IDataObject& data) {
     std::vector<std::string> paths;
     if (FAILED(data.GetData(&format, &medium))) return paths;
     const auto files = reinterpret_cast<HDROP>(medium.hGlobal);
-    const UINT count = ::DragQueryFileA(files, 0xFFFFFFFF, nullptr, 0);
+    const UINT count = kDragQueryFile(files, 0xFFFFFFFF, nullptr, 0);
     for (UINT i = 0; i < count; ++i) paths.push_back(DroppedPath(files, i));
     ::ReleaseStgMedium(&medium);
     return paths;

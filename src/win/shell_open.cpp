@@ -1,11 +1,11 @@
 #include "win/shell_open.h"
 
-#include "win/windows.h"
+#include "win/late_shell.h"
 
 namespace win {
 
 void OpenAddress(const std::string& address) {
-    ::ShellExecuteA(nullptr, nullptr, address.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+    kShellExecute(nullptr, nullptr, address.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
 }
 
 }  // namespace win
