@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "win/error.h"
+#include "win/late.h"
 
 namespace document {
 namespace {
@@ -44,7 +45,7 @@ constexpr LONG kTextLimit = 0x7FFFFFFE;
 
 void RichEdit::create(HWND parent, int id, const Font& font) {
     // The class registers itself when its library is loaded, which stays so for the process.
-    win::Check(::LoadLibraryA("riched32.dll"));
+    win::LoadSystemDll("riched32.dll");
     const DWORD style = WS_CHILD | WS_VISIBLE | WS_HSCROLL | WS_VSCROLL | WS_TABSTOP | ES_MULTILINE |
                         ES_AUTOHSCROLL | ES_AUTOVSCROLL | ES_NOHIDESEL | ES_DISABLENOSCROLL;
     attach(win::Check(::CreateWindowExA(WS_EX_CLIENTEDGE, "RICHEDIT", "", style, 0, 0, 0, 0, parent,

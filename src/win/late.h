@@ -5,6 +5,10 @@
 
 namespace win {
 
+// Loads a DLL of the system's, which then stays, and never one of that name beside the program: in a folder
+// of downloads it could be anybody's. Throws win::Error.
+HMODULE LoadSystemDll(const char* dll);
+
 // The function itself.
 void* LateFunction(const char* dll, const char* name);
 
