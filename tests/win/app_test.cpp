@@ -2,11 +2,13 @@
 
 #include <utility>
 
+#include "files/open_file.h"
 #include "settings/app_settings.h"
 #include "shell/frmNotePad.h"
 #include "win/clipboard.h"
 #include "win/message_loop.h"
-#include "win/unique.h"
+
+#include <shlwapi.h>
 
 namespace {
 
@@ -22,9 +24,14 @@ std::vector<HWND> ControlsOfClass(HWND form, const std::string& cls) {
     return controls;
 }
 
+void Notify(HWND control, WORD code) {
+    ::SendMessageA(::GetParent(control), WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(control), code),
+                   reinterpret_cast<LPARAM>(control));
+}
+
 ScratchRegistry::ScratchRegistry() {
     HKEY key = nullptr;
-    DeleteKeyTree(kScratchKey);
+    ::SHDeleteKeyA(HKEY_CURRENT_USER, kScratchKey);
     ::RegCreateKeyA(HKEY_CURRENT_USER, kScratchKey, &key);
     const win::UniqueKey scratch(key);
     ::RegOverridePredefKey(HKEY_CURRENT_USER, key);
@@ -32,7 +39,7 @@ ScratchRegistry::ScratchRegistry() {
 
 ScratchRegistry::~ScratchRegistry() {
     ::RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
-    DeleteKeyTree(kScratchKey);
+    ::SHDeleteKeyA(HKEY_CURRENT_USER, kScratchKey);
 }
 
 User::User(std::vector<Act> acts)
@@ -101,8 +108,25 @@ void AppTest::closeMain() {
     ::SendMessageA(std::exchange(main_, nullptr)->mainHwnd(), WM_CLOSE, 0, 0);
 }
 
+frmChild& AppTest::openPage(const std::string& name, const std::string& bytes, const std::string& typed) {
+    writeFile(scratch(name), bytes);
+    frmChild* page = files::OpenFile(main(), scratch(name));
+    EXPECT_TRUE(page);
+    type(typed);
+    return *page;
+}
+
+win::UniqueFile AppTest::hold(const std::string& path, DWORD share) {
+    return win::UniqueFile(
+        ::CreateFileA(path.c_str(), GENERIC_READ, share, nullptr, OPEN_EXISTING, 0, nullptr));
+}
+
 frmChild& AppTest::newPage(const std::string& text) {
     return frmChild::open(main(), "Untitled" + std::to_string(main().nextUntitled()), text);
+}
+
+void AppTest::activate(const frmChild& page) {
+    ::SendMessageA(main().mdiClient(), WM_MDIACTIVATE, reinterpret_cast<WPARAM>(page.hwnd()), 0);
 }
 
 void AppTest::type(const std::string& text) {
@@ -114,6 +138,20 @@ void AppTest::type(const std::string& text) {
 std::string AppTest::selected() {
     const document::Selection selection = active().txtPad().selection();
     return std::to_string(selection.start) + "-" + std::to_string(selection.end);
+}
+
+std::string AppTest::heard(const std::function<void()>& act, std::vector<User::Act> acts) {
+    User user(std::move(acts));
+    act();
+    return user.heard().back();
+}
+
+std::string AppTest::said(const std::function<void()>& act, const std::string& title) {
+    return heard(act, {User::press(title, IDOK)});
+}
+
+std::string AppTest::said(Command command, const std::string& title) {
+    return said([&] { run(command); }, title);
 }
 
 std::string AppTest::clipboard() {

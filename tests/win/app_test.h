@@ -11,9 +11,13 @@
 #include "main_window.h"
 #include "support/files_test.h"
 #include "support/windows_seen.h"
+#include "win/unique.h"
 
 // The controls of a class in a form, in their order.
 std::vector<HWND> ControlsOfClass(HWND form, const std::string& cls);
+
+// Has a control tell its form of what happened to it.
+void Notify(HWND control, WORD code);
 
 // Points HKEY_CURRENT_USER at an empty key for the test's life.
 class ScratchRegistry {
@@ -60,9 +64,14 @@ class AppTest : public FilesTest {
     MainWindow& main() { return *main_; }
     // Throws away what has not been saved; there is no main window afterwards.
     void closeMain();
+    // A page on a file of these bytes, with words typed in front.
+    frmChild& openPage(const std::string& name, const std::string& bytes, const std::string& typed = "");
+    // Keeps others from what they may not share.
+    static win::UniqueFile hold(const std::string& path, DWORD share);
     // A new page with this text instead of the outline, unchanged.
     frmChild& newPage(const std::string& text);
     frmChild& active() { return *main().activeDocument(); }
+    void activate(const frmChild& page);
     std::string pageText() { return active().txtPad().text(); }
     // Runs a command through the main window's own WM_COMMAND.
     void run(Command command) { ::SendMessageA(main().mainHwnd(), WM_COMMAND, command, 0); }
@@ -73,6 +82,11 @@ class AppTest : public FilesTest {
     std::string selected();
     bool pageHasFocus() { return ::GetFocus() == active().txtPad().hwnd(); }
     std::string clipboard();
+    // What the last window says that the act brings up, each with the user's doing in it.
+    static std::string heard(const std::function<void()>& act, std::vector<User::Act> acts);
+    // What the message box says that the act or the command brings up, until its OK is pressed.
+    static std::string said(const std::function<void()>& act, const std::string& title = "Quillon");
+    std::string said(Command command, const std::string& title = "Quillon");
     static HWND window(const std::string& title) { return seen::Titled(::GetCurrentProcessId(), title); }
     HWND label(const std::string& text) { return seen::Child(main().mainHwnd(), text, "Static"); }
 
