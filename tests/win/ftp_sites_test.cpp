@@ -16,9 +16,7 @@ class FtpSitesTest : public AppTest {
     void fill(int box, const char* text) { ::SetDlgItemTextA(dialog(), box, text); }
     void enter() { ::SendMessageA(::GetDlgItem(dialog(), cmdSetVal), BM_CLICK, 0, 0); }
     std::string complaint(const std::string& title) {
-        User user({User::press(title, IDOK)});
-        enter();
-        return user.heard().front();
+        return said([&] { enter(); }, title);
     }
 };
 

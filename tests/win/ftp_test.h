@@ -37,6 +37,8 @@ class FtpTest : public AppTest {
     static void click(int id) { ::SendMessageA(control(id), BM_CLICK, 0, 0); }
     // Clicks, and gives what the message box with this title then says.
     static std::string saidToClick(int id, const std::string& title);
+    // The same for files that are dropped on the list.
+    static std::string saidToDrop(std::vector<std::string> files, const std::string& title);
     // Chooses a command of the list's menus for a line, and gives what the last dialog then says.
     static std::string say(const std::string& line, int item, std::vector<User::Act> acts);
     // Types into the input box with this title and presses OK.
