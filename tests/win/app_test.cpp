@@ -1,5 +1,6 @@
 #include "win/app_test.h"
 
+#include <thread>
 #include <utility>
 
 #include "files/open_file.h"
@@ -29,54 +30,39 @@ void Notify(HWND control, WORD code) {
                    reinterpret_cast<LPARAM>(control));
 }
 
-ScratchRegistry::ScratchRegistry() {
-    HKEY key = nullptr;
-    ::SHDeleteKeyA(HKEY_CURRENT_USER, kScratchKey);
-    ::RegCreateKeyA(HKEY_CURRENT_USER, kScratchKey, &key);
-    const win::UniqueKey scratch(key);
-    ::RegOverridePredefKey(HKEY_CURRENT_USER, key);
-}
-
-ScratchRegistry::~ScratchRegistry() {
-    ::RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
-    ::SHDeleteKeyA(HKEY_CURRENT_USER, kScratchKey);
-}
-
-User::User(std::vector<Act> acts)
-    : thread_([this, acts = std::move(acts)] {
-          const DWORD process = ::GetCurrentProcessId();
-          HWND last = nullptr;
-          for (const Act& act : acts) {
-              HWND dialog = nullptr;
-              const bool came = seen::Until([&] {
-                  dialog = seen::Dialog(process, act.title);
-                  return dialog && dialog != last && ::IsWindowEnabled(dialog);
-              });
-              if (!came) {
-                  missing_ = act.title;
-                  heard_.resize(acts.size());  // what was not said is empty
-                  return;
-              }
-              heard_.push_back(seen::LabelsOf(dialog));
-              act.act(dialog);
-              last = dialog;
-          }
-      }) {}
-
-void User::finish() {
-    if (!thread_.joinable()) return;
-    thread_.join();
-    const std::string missing = std::exchange(missing_, {});
-    if (!missing.empty()) ADD_FAILURE() << "No window came with the title \"" << missing << '"';
-}
-
-const std::vector<std::string>& User::heard() {
-    finish();
-    return heard_;
+std::vector<std::string> User::hears(const std::function<void()>& busy, const std::vector<Act>& acts) {
+    std::vector<std::string> heard(acts.size());
+    std::jthread user([&] {
+        HWND last = nullptr;
+        for (std::size_t i = 0; i < acts.size(); ++i) {
+            HWND dialog = nullptr;
+            const bool came = seen::Until([&] {
+                dialog = seen::Dialog(::GetCurrentProcessId(), acts[i].title);
+                return dialog && dialog != last && ::IsWindowEnabled(dialog);
+            });
+            if (!came) {
+                ADD_FAILURE() << "No window came with the title \"" << acts[i].title << '"';
+                return;
+            }
+            heard[i] = seen::LabelsOf(dialog);
+            acts[i].act(dialog);
+            last = dialog;
+        }
+    });
+    busy();
+    user.join();
+    return heard;
 }
 
 User::Act User::press(const std::string& title, WORD button) {
     return {title, [button](HWND dialog) { ::PostMessageA(dialog, WM_COMMAND, button, 0); }};
+}
+
+User::Act User::enter(const std::string& title, const std::string& text, WORD button) {
+    return {title, [=](HWND box) {
+                ::SetWindowTextA(seen::ChildOfClass(box, "Edit"), text.c_str());
+                ::PostMessageA(box, WM_COMMAND, button, 0);
+            }};
 }
 
 User::Act User::chooseFile(const std::string& title, const std::string& path) {
@@ -85,7 +71,11 @@ User::Act User::chooseFile(const std::string& title, const std::string& path) {
 
 void AppTest::SetUp() {
     FilesTest::SetUp();
-    registry_.emplace();
+    HKEY key = nullptr;
+    ::SHDeleteKeyA(HKEY_CURRENT_USER, kScratchKey);
+    ::RegCreateKeyA(HKEY_CURRENT_USER, kScratchKey, &key);
+    ::RegOverridePredefKey(HKEY_CURRENT_USER, key);
+    ::RegCloseKey(key);
     settings::Save("File Count", "Count", "0");
     frmNotePad& window = frmNotePad::open();
     ::ShowWindow(window.hwnd(), SW_SHOW);
@@ -97,7 +87,7 @@ void AppTest::TearDown() {
     closeMain();
     MSG message{};
     while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageA(&message);
-    registry_.reset();
+    ::RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
 }
 
 void AppTest::closeMain() {
@@ -140,10 +130,8 @@ std::string AppTest::selected() {
     return std::to_string(selection.start) + "-" + std::to_string(selection.end);
 }
 
-std::string AppTest::heard(const std::function<void()>& act, std::vector<User::Act> acts) {
-    User user(std::move(acts));
-    act();
-    return user.heard().back();
+std::string AppTest::heard(const std::function<void()>& busy, const std::vector<User::Act>& acts) {
+    return User::hears(busy, acts).back();
 }
 
 std::string AppTest::said(const std::function<void()>& act, const std::string& title) {

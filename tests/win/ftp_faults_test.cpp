@@ -17,9 +17,9 @@ class FtpFaultsTest : public FtpTest {
  protected:
     // Gives what was said when the window has opened with this behaviour and the line's command has run.
     std::string sayWith(const char* behaviour, const std::string& line, int item,
-                        std::vector<User::Act> acts) {
+                        const std::vector<User::Act>& acts) {
         openScripted(behaviour);
-        return say(line, item, std::move(acts));
+        return say(line, item, acts);
     }
     static bool wasTold(const std::string& command) {
         return seen::Until([&] { return told().find(command) != std::string::npos; });
@@ -46,7 +46,7 @@ TEST_F(FtpFaultsTest, EveryRefusedCommandIsToldAndTheSessionGoesOn) {
                   .substr(0, 21),
               "Could not delete file");
     EXPECT_EQ(sayWith("refuse-RNTO", "good.htm", mnuRClist + 3,
-                      {enter("FILENAME CHANGE", "x"), User::press("NET GLITCH", IDOK)}),
+                      {User::enter("FILENAME CHANGE", "x"), User::press("NET GLITCH", IDOK)}),
               "Unable to rename file...");
     EXPECT_EQ(sayWith("refuse-RETR", "good.htm", mnuRClist + 2,
                       {saveAs("x.htm"), User::press("DOWNLOAD FAILURE", IDOK)}),
@@ -197,9 +197,8 @@ class Odd : public ftp::FtpSession {
 
 TEST_F(FtpFaultsTest, WithoutADialUpLinkTheAttemptGoesOnAndWithoutNetworkingItEnds) {
     addSite("127.0.0.1", "plain", "pw");
-    User user({User::press("NOT CONNECTED", IDOK), User::press("NOT CONNECTED", IDOK)});
-    frmUpload::open(main(), 0, Odd<false>::make);
-    EXPECT_EQ(user.heard(),
+    const User::Act understand = User::press("NOT CONNECTED", IDOK);
+    EXPECT_EQ(User::hears([&] { frmUpload::open(main(), 0, Odd<false>::make); }, {understand, understand}),
               (std::vector<std::string>{"Could not connect to the internet through AutoDial.\r\n"
                                         "Connect to Internet before attempting to use FTP.",
                                         "Cannot obtain internet handle..."}));

@@ -79,15 +79,8 @@ std::string FtpTest::saidToDrop(std::vector<std::string> files, const std::strin
     return said(drop, title);
 }
 
-std::string FtpTest::say(const std::string& line, int item, std::vector<User::Act> acts) {
-    return heard([&] { choose(line, item); }, std::move(acts));
-}
-
-User::Act FtpTest::enter(const std::string& title, const std::string& text) {
-    return {title, [text](HWND box) {
-                ::SetWindowTextA(seen::ChildOfClass(box, "Edit"), text.c_str());
-                ::PostMessageA(box, WM_COMMAND, IDOK, 0);
-            }};
+std::string FtpTest::say(const std::string& line, int item, const std::vector<User::Act>& acts) {
+    return heard([&] { choose(line, item); }, acts);
 }
 
 void FtpTest::savePage(const std::string& name, const std::string& text) {

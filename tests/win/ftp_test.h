@@ -40,9 +40,7 @@ class FtpTest : public AppTest {
     // The same for files that are dropped on the list.
     static std::string saidToDrop(std::vector<std::string> files, const std::string& title);
     // Chooses a command of the list's menus for a line, and gives what the last dialog then says.
-    static std::string say(const std::string& line, int item, std::vector<User::Act> acts);
-    // Types into the input box with this title and presses OK.
-    static User::Act enter(const std::string& title, const std::string& text);
+    static std::string say(const std::string& line, int item, const std::vector<User::Act>& acts);
     // A page in front that is saved under this name.
     void savePage(const std::string& name, const std::string& text);
     static std::string lines();  // of the list, separated by commas

@@ -52,13 +52,13 @@ TEST_F(FtpWindowTest, MakesRenamesAndDeletes) {
     ASSERT_TRUE(openHonest({"a.htm", "full/", "full/x"}));
     const User::Act yes = User::press("DELETION CONFIRMATION", IDYES);
     const auto make = [&](const std::string& name, const std::string& title) {
-        return heard([&] { click(cmdMakeDir); }, {enter("NEW FOLDER", name), User::press(title, IDOK)});
+        return heard([&] { click(cmdMakeDir); }, {User::enter("NEW FOLDER", name), User::press(title, IDOK)});
     };
     EXPECT_EQ(make("new", "CONFIRMATION"), "New Directory [ new ] successfully created.");
     EXPECT_EQ(make("full", "DIRECTORY NOT MADE"), "Could not create the Directory.");
-    EXPECT_EQ(
-        say("a.htm", mnuRClist + 3, {enter("FILENAME CHANGE", "c.htm"), User::press("CONFIRMATION", IDOK)}),
-        "File has been Renamed");
+    EXPECT_EQ(say("a.htm", mnuRClist + 3,
+                  {User::enter("FILENAME CHANGE", "c.htm"), User::press("CONFIRMATION", IDOK)}),
+              "File has been Renamed");
     EXPECT_EQ(readFile(onServer("c.htm")), "The file a.htm");
     EXPECT_EQ(say("c.htm", mnuRClist, {User::press("SIZE of c.htm is:", IDOK)}), "Approximately 14 Bytes");
     EXPECT_EQ(say("c.htm", mnuRClist + 5, {User::press("DELETION CONFIRMATION", IDNO)}),

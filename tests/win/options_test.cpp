@@ -138,9 +138,10 @@ TEST_F(OptionsTest, AFontIsShownAtOnceAndKeptByOk) {
         typeInto(combo(dialog, 1), "big");
         ::PostMessageA(dialog, WM_COMMAND, IDOK, 0);
     };
-    User user({{"Fonts", enterBig}, User::press("Quillon", IDOK), User::press("Fonts", IDCANCEL)});
-    run(mnuOptFont);
-    EXPECT_EQ(user.heard()[1], "Please choose a size between 1 and 400.");
+    EXPECT_EQ(
+        User::hears([&] { run(mnuOptFont); },
+                    {{"Fonts", enterBig}, User::press("Quillon", IDOK), User::press("Fonts", IDCANCEL)})[1],
+        "Please choose a size between 1 and 400.");
     EXPECT_EQ(stored("font preferences", "font_Size"), "10.5");
     activate(page);
     run(mnuEditUndo);

@@ -108,10 +108,9 @@ TEST_F(PreviewTest, ABrowserThatIsMissingOrDoesNotStartIsTold) {
     openPage("index.htm", "1", "2");
     run(tbrPreview);
     EXPECT_TRUE(copyIsThere());
-    User user({User::press("Browser Not Found", IDOK), User::press("URL Failed", IDOK)});
-    passTime();
-    EXPECT_EQ(user.heard(), (std::vector<std::string>{"Could not find associated Browser",
-                                                      "Web Page Could Not Be Opened."}));
+    EXPECT_EQ(
+        User::hears(passTime, {User::press("Browser Not Found", IDOK), User::press("URL Failed", IDOK)}),
+        (std::vector<std::string>{"Could not find associated Browser", "Web Page Could Not Be Opened."}));
     EXPECT_FALSE(copyIsThere());
     EXPECT_FALSE(::FindWindowA("modPreview", nullptr));
     writeFile(scratch("broken.exe"), "no program");

@@ -8,24 +8,11 @@ namespace {
 
 using authoring::TagMenu;
 
-// The first item of each menu, and what the menu inserts.
-constexpr std::pair<int, TagMenu> kMenus[] = {{mnuTagsBasicList, TagMenu::Basic},
-                                              {mnuTagsBodyInc, TagMenu::BodyInc},
-                                              {mnuTagsModList, TagMenu::Mod},
-                                              {mnuTagsFontList, TagMenu::Font},
-                                              {mnuTagsImg, TagMenu::Img},
-                                              {mnuTagsHref, TagMenu::Href},
-                                              {mnuTagsRuleList, TagMenu::Rule},
-                                              {mnuTagsAlignList, TagMenu::Align},
-                                              {mnutagsTableList, TagMenu::Table},
-                                              {mnuTagsFSetList, TagMenu::FSet},
-                                              {mnuTagsFrameList, TagMenu::Frame},
-                                              {mnuTagsFormList, TagMenu::Form},
-                                              {mnuTagsInputList, TagMenu::Input},
-                                              {mnuTagsLsList, TagMenu::Ls},
-                                              {mnuTagsOlList, TagMenu::Ol},
-                                              {mnutagsDLs, TagMenu::DLs},
-                                              {mnuTagsSpecialChar, TagMenu::Special}};
+// The first item of each menu, in the order of TagMenu.
+constexpr int kFirstItems[] = {
+    mnuTagsBasicList, mnuTagsBodyInc,   mnuTagsModList,   mnuTagsFontList, mnuTagsImg,        mnuTagsHref,
+    mnuTagsRuleList,  mnuTagsAlignList, mnutagsTableList, mnuTagsFSetList, mnuTagsFrameList,  mnuTagsFormList,
+    mnuTagsInputList, mnuTagsLsList,    mnuTagsOlList,    mnutagsDLs,      mnuTagsSpecialChar};
 
 class TagsTest : public AppTest {
  protected:
@@ -50,22 +37,18 @@ class TagsTest : public AppTest {
         if (!fragment.empty()) return expectReplacedBy(std::string(fragment));
         EXPECT_EQ(active().txtPad().selectedText(), "this");
     }
-    static User::Act answering(const std::string& reply, WORD button) {
-        return {"Font Size", [=](HWND form) {
-                    ::SetWindowTextA(seen::ChildOfClass(form, "Edit"), reply.c_str());
-                    ::PostMessageA(form, WM_COMMAND, button, 0);
-                }};
-    }
 };
 
 TEST_F(TagsTest, EveryItemReplacesTheSelectionWithItsFragmentInOneStepOrLeavesIt) {
-    for (const auto& [first, menu] : kMenus) {
+    auto menu = TagMenu::Basic;
+    for (const int first : kFirstItems) {
         int items = 9;
         while (authoring::TagFragment(menu, items - 1).empty()) --items;
         for (int i = 0; i < items; ++i) {
             if (first + i == mnuTagsFontList + 1) continue;  // it asks
             expectInserts(first + i, authoring::TagFragment(menu, i));
         }
+        menu = static_cast<TagMenu>(static_cast<int>(menu) + 1);
     }
     for (int i = 0; i < 6; ++i) expectInserts(mnuScriptTags + i, modScripts::ScriptBlock(i));
     const char* keywords[] = {"drop", "goBtn", "Wnd", "dCbo"};
@@ -77,10 +60,11 @@ TEST_F(TagsTest, AFontSizeGoesInAsItWasTypedAndNoneDeletesTheSelection) {
     const std::tuple<const char*, WORD, const char*> answers[] = {
         {"75", IDOK, "<FONT size=75></FONT>"}, {"", IDOK, ""}, {"5", IDCANCEL, ""}};
     for (const auto& [reply, button, fragment] : answers) {
-        EXPECT_EQ(heard(ask, {answering(reply, button)}), "Type in  number below between 1 and 7.");
+        EXPECT_EQ(heard(ask, {User::enter("Font Size", reply, button)}),
+                  "Type in  number below between 1 and 7.");
         expectReplacedBy(fragment);
     }
-    EXPECT_EQ(heard(ask, {answering("8", IDOK), User::press("Size out of range...", IDOK)}),
+    EXPECT_EQ(heard(ask, {User::enter("Font Size", "8"), User::press("Size out of range...", IDOK)}),
               "You will have to try again.\r\nRemember to enter a number between 1 and 7.");
     EXPECT_EQ(active().txtPad().selectedText(), "this");
 }

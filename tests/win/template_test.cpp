@@ -37,9 +37,8 @@ class TemplateTest : public AppTest {
             acts.push_back(User::press(messageTitle, IDOK));
             acts.push_back(User::press(kAdd, IDCANCEL));
         }
-        User user(acts);
-        run(mnuOptsTempAdd);
-        return messageTitle ? user.heard()[1] : "";
+        const auto heard = User::hears([&] { run(mnuOptsTempAdd); }, acts);
+        return messageTitle ? heard[1] : "";
     }
 
     // Picks an entry of the Organize dialog and one of its options.
@@ -48,6 +47,10 @@ class TemplateTest : public AppTest {
         ::SendMessageA(seen::Child(dialog, option, "Button"), BM_CLICK, 0, 0);
         ::SendMessageA(list, CB_SETCURSEL, static_cast<WPARAM>(entry), 0);
         Notify(list, CBN_SELCHANGE);
+    }
+    // What the first message over the Organize dialog says.
+    std::string organize(const std::vector<User::Act>& acts) {
+        return User::hears([&] { run(mnuOptsTempOrg); }, acts)[1];
     }
     static User::Act deleting(int entry) {
         return {kOrganize, [entry](HWND dialog) {
@@ -159,27 +162,25 @@ TEST_F(TemplateTest, RebuildingDropsWhatHasGoneAndClosesTheGaps) {
 TEST_F(TemplateTest, ATemplateIsRenamedInTheMenuOnly) {
     add("one.htm", "One");
     add("two.htm", "Two");
-    User user({{kOrganize,
-                [](HWND dialog) {
-                    const HWND list = ControlsOfClass(dialog, "ComboBox").at(0);
-                    const HWND box = ControlsOfClass(dialog, "Edit").at(0);
-                    EXPECT_EQ(seen::TextOf(list), "Template List");
-                    EXPECT_EQ(::SendMessageA(list, CB_GETCOUNT, 0, 0), 2);
-                    EXPECT_FALSE(::IsWindowEnabled(box));
-                    // With nothing chosen; sent, because what is posted would come after what is sent next.
-                    ::SendMessageA(seen::Child(dialog, "Enter", "Button"), BM_CLICK, 0, 0);
-                    choose(dialog, 1, "ReName");
-                    EXPECT_TRUE(seen::Until([&] { return ::IsWindowEnabled(box) != FALSE; }));
-                    ::SetWindowTextA(box, "");
-                    Press(dialog, "Enter");
-                }},
-               User::press(kNote, IDOK),
-               {kOrganize, [](HWND dialog) {
-                    ::SetWindowTextA(ControlsOfClass(dialog, "Edit").at(0), "Uno");
-                    Press(dialog, "Enter");
-                }}});
-    run(mnuOptsTempOrg);
-    EXPECT_EQ(user.heard()[1], "Please enter a name for the template.");
+    const auto enterNothing = [](HWND dialog) {
+        const HWND list = ControlsOfClass(dialog, "ComboBox").at(0);
+        const HWND box = ControlsOfClass(dialog, "Edit").at(0);
+        EXPECT_EQ(seen::TextOf(list), "Template List");
+        EXPECT_EQ(::SendMessageA(list, CB_GETCOUNT, 0, 0), 2);
+        EXPECT_FALSE(::IsWindowEnabled(box));
+        // With nothing chosen; sent, because what is posted would come after what is sent next.
+        ::SendMessageA(seen::Child(dialog, "Enter", "Button"), BM_CLICK, 0, 0);
+        choose(dialog, 1, "ReName");
+        EXPECT_TRUE(seen::Until([&] { return ::IsWindowEnabled(box) != FALSE; }));
+        ::SetWindowTextA(box, "");
+        Press(dialog, "Enter");
+    };
+    const auto enterUno = [](HWND dialog) {
+        ::SetWindowTextA(ControlsOfClass(dialog, "Edit").at(0), "Uno");
+        Press(dialog, "Enter");
+    };
+    EXPECT_EQ(organize({{kOrganize, enterNothing}, User::press(kNote, IDOK), {kOrganize, enterUno}}),
+              "Please enter a name for the template.");
     EXPECT_EQ(ids(), "Two,Uno,-------");
     run(mnuOptsTempList + 1);
     EXPECT_EQ(active().Caption(), "Uno");
@@ -189,16 +190,14 @@ TEST_F(TemplateTest, ATemplateIsRenamedInTheMenuOnly) {
 TEST_F(TemplateTest, DeletingTakesTheFileTooUnlessItIsCalledOff) {
     add("one.htm", "One");
     add("two.htm", "Two");
-    User user({deleting(0),
-               User::press("Confirm file deletion", IDNO),
-               {kOrganize,
-                [](HWND dialog) {
-                    EXPECT_EQ(attributes("two.htm"), kReadOnly);
-                    Press(dialog, "Enter");
-                }},
-               User::press("Confirm file deletion", IDYES)});
-    run(mnuOptsTempOrg);
-    user.heard();
+    const auto enterAgain = [](HWND dialog) {
+        EXPECT_EQ(attributes("two.htm"), kReadOnly);
+        Press(dialog, "Enter");
+    };
+    organize({deleting(0),
+              User::press("Confirm file deletion", IDNO),
+              {kOrganize, enterAgain},
+              User::press("Confirm file deletion", IDYES)});
     EXPECT_EQ(ids(), "One,--------");
     EXPECT_EQ(attributes("two.htm"), INVALID_FILE_ATTRIBUTES);
     EXPECT_EQ(attributes("one.htm"), kReadOnly);
@@ -208,9 +207,9 @@ TEST_F(TemplateTest, DeletingNeverReachesBeyondTheTemplatesFile) {
     add("one.htm", "One");
     for (const char* name : {"*.htm", "gone.htm", "..\\Templates"}) {
         store(0, name, "Odd");
-        User user({deleting(0), User::press(kNote, IDOK), User::press(kOrganize, IDCANCEL)});
-        run(mnuOptsTempOrg);
-        EXPECT_EQ(user.heard()[1].find("The file of that template is no longer there."), 0U) << name;
+        const std::string said =
+            organize({deleting(0), User::press(kNote, IDOK), User::press(kOrganize, IDCANCEL)});
+        EXPECT_EQ(said.find("The file of that template is no longer there."), 0U) << name;
         EXPECT_EQ(attributes("one.htm"), kReadOnly) << name;
     }
 }
