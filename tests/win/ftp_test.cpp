@@ -80,7 +80,11 @@ std::string FtpTest::saidToDrop(std::vector<std::string> files, const std::strin
 }
 
 std::string FtpTest::say(const std::string& line, int item, const std::vector<User::Act>& acts) {
-    return heard([&] { choose(line, item); }, acts);
+    const auto choose = [&] {
+        ASSERT_TRUE(select(line)) << line << " in " << lines();
+        ::SendMessageA(ftpWindow(), WM_COMMAND, static_cast<WPARAM>(item), 0);
+    };
+    return heard(choose, acts);
 }
 
 void FtpTest::savePage(const std::string& name, const std::string& text) {
@@ -122,9 +126,4 @@ bool FtpTest::select(const std::string& line) {
 void FtpTest::doubleClick(const std::string& line) {
     ASSERT_TRUE(select(line)) << line << " in " << lines();
     Notify(control(lstRemoteFiles), LBN_DBLCLK);
-}
-
-void FtpTest::choose(const std::string& line, int item) {
-    ASSERT_TRUE(select(line)) << line << " in " << lines();
-    ::SendMessageA(ftpWindow(), WM_COMMAND, static_cast<WPARAM>(item), 0);
 }

@@ -46,6 +46,4 @@ class FtpTest : public AppTest {
     static std::string lines();  // of the list, separated by commas
     static bool select(const std::string& line);
     static void doubleClick(const std::string& line);
-    // Chooses a command of the list's menus for a line.
-    static void choose(const std::string& line, int item);
 };
