@@ -32,24 +32,29 @@ std::string TemplatePath(const std::string& name) {
 }
 
 TemplateList ReadTemplates() {
-    const CRegSettings settings;
     TemplateList list;
-    for (std::size_t i = 0; i < list.size(); ++i) {
-        const std::string key = std::to_string(i);
-        list[i] = {settings.GetRegSetting(kNames, key), settings.GetRegSetting(kIds, key)};
-    }
+    const auto read = [&list](const char* section, std::string Template::*part) {
+        for (auto& [key, value] : CRegSettings().GetAllRegSettings(section)) {
+            const std::size_t slot = key.size() == 1 ? static_cast<std::size_t>(key[0] - '0') : list.size();
+            if (slot < list.size()) list[slot].*part = std::move(value);
+        }
+    };
+    read(kNames, &Template::name);
+    read(kIds, &Template::id);
     return list;
 }
 
 bool WriteTemplates(const TemplateList& list, Moved moved) {
     const CRegSettings settings;
+    const TemplateList stored = ReadTemplates();
     bool done = true;
     for (std::size_t i = 0; i < list.size(); ++i) {
         const std::size_t slot = moved == Moved::up ? i : list.size() - 1 - i;
         const Template& wanted = list[slot];
+        if (wanted == stored[slot]) continue;
         const std::string key = std::to_string(slot);
         // A slot without an ID is empty: no name is ever beside the ID of another.
-        const bool renamed = settings.GetRegSetting(kNames, key) != wanted.name;
+        const bool renamed = stored[slot].name != wanted.name;
         done = done && (!renamed || settings.SaveRegSetting(kIds, key, "")) &&
                settings.SaveRegSetting(kNames, key, wanted.name) &&
                settings.SaveRegSetting(kIds, key, wanted.id);

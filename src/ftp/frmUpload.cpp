@@ -37,13 +37,6 @@ struct ButtonPicture {
 constexpr ButtonPicture kPictures[] = {
     {cmdUp, "ftp"}, {cmdRefresh, "refresh"}, {cmdUpDir, "up"}, {cmdMakeDir, "new_folder"}};
 
-// Not a shared one: those keep the size at which they were asked for first.
-HICON SmallIcon(const char* name) {
-    return static_cast<HICON>(::LoadImageA(::GetModuleHandleA(nullptr), name, IMAGE_ICON,
-                                           ::GetSystemMetrics(SM_CXSMICON), ::GetSystemMetrics(SM_CYSMICON),
-                                           0));
-}
-
 }  // namespace
 
 frmUpload::Busy::Busy(frmUpload& form, const char* status) : form_(form), focus_(::GetFocus()) {
@@ -88,11 +81,12 @@ bool frmUpload::onInit() {
     showPictures();
     ::CheckRadioButton(hwnd(), upType, upType + 2, upType + 2);
     showIdle();
-    return true;
+    // Until it is shown the keyboard stays with the connecting window, where Esc gives up.
+    return false;
 }
 
 void frmUpload::showPictures() {
-    icon_.reset(SmallIcon("ftp"));
+    icon_ = win::SmallIcon("ftp");
     ::SendMessageA(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon_.get()));
     for (std::size_t i = 0; i < pictures_.size(); ++i) {
         pictures_[i] = win::IconBeforeText(kPictures[i].icon);
@@ -359,54 +353,6 @@ bool frmUpload::comeForward(int siteIndex) {
     return true;
 }
 
-bool frmUpload::runCommand(WORD id) {
-    const std::string line = lstRemoteFiles_.selected();
-    switch (id) {
-        case cmdUp:
-            ftp::UploadCurrentDocument(*this);
-            return true;
-        case cmdRefresh:
-            ListRemote();
-            return true;
-        case cmdUpDir:
-            ftp::MoveUp(*this);
-            return true;
-        case cmdMakeDir:
-            ftp::MakeDirectory(*this);
-            return true;
-        case cmdPassword:
-            cmdPassword_Click();
-            return true;
-        case cmdShut:
-            CloseSession();
-            return true;
-        default:
-            return !line.empty() && runMenu(id, line);
-    }
-}
-
-bool frmUpload::runMenu(WORD id, const std::string& line) {
-    switch (id) {
-        case mnuRClist:
-            ftp::CheckFileSize(*this, line);
-            return true;
-        case mnuRClist + 2:
-            ftp::DownloadFile(*this, line);
-            return true;
-        case mnuRClist + 3:
-            ftp::RenameFile(*this, line);
-            return true;
-        case mnuRClist + 5:
-            ftp::DeleteRemoteFile(*this, line);
-            return true;
-        case mnuDirDelete:
-            ftp::DeleteDirectory(*this, line);
-            return true;
-        default:
-            return false;
-    }
-}
-
 bool frmUpload::onCommand(WORD id, WORD notification) {
     if (id == txtPassword) {
         txtPassword_.onNotification(notification);
@@ -428,7 +374,15 @@ bool frmUpload::onCommand(WORD id, WORD notification) {
         if (::GetFocus() == item(txtPassword)) cmdPassword_Click();
         return true;
     }
-    return notification == BN_CLICKED && runCommand(id);
+    if (id == cmdPassword) {
+        cmdPassword_Click();
+        return true;
+    }
+    if (id == cmdShut) {
+        CloseSession();
+        return true;
+    }
+    return notification == BN_CLICKED && ftp::RunCommand(*this, id, lstRemoteFiles_.selected());
 }
 
 INT_PTR frmUpload::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {

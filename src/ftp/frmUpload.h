@@ -71,8 +71,6 @@ class frmUpload : public win::Dialog {
     INT_PTR onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void onClosing() override;
     void showPictures();
-    bool runCommand(WORD id);
-    bool runMenu(WORD id, const std::string& line);
 
     void load();
     void openSite();

@@ -3,10 +3,12 @@
 #include <exception>
 
 #include "files/modOpen.h"
+#include "forms/frmUpload.h"
 #include "ftp/core/local_name.h"
 #include "ftp/core/remote_path.h"
 #include "ftp/download.h"
 #include "ftp/frmUpload.h"
+#include "ftp/uploads.h"
 #include "win/input_box.h"
 
 namespace ftp {
@@ -29,15 +31,6 @@ void AskAndDeleteDirectory(frmUpload& form, const std::string& line) {
             "Are you sure this folder is empty?",
             "FAILED TO DELETE");
     }
-}
-
-}  // namespace
-
-void EnterDirectory(frmUpload& form, const std::string& line) {
-    if (line.empty() || !OpensOnDoubleClick(line)) return;
-    const std::string name(NameOfLine(line));
-    const bool entered = form.change(kWorking, RemoteCommand::changeDirectory, name);
-    if (form.isThere() && !entered) form.say("Cannot access Directory!", "Quillon Note:");
 }
 
 void MoveUp(frmUpload& form) {
@@ -119,6 +112,57 @@ void DeleteDirectory(frmUpload& form, const std::string& line) {
         AskAndDeleteDirectory(form, line);
     } catch (const std::exception&) {
         if (form.isThere()) form.say("There was a problem deleting " + line + ".", "DELETE DIFFICULTY");
+    }
+}
+
+// The menu of a line.
+bool RunMenu(frmUpload& form, int id, const std::string& line) {
+    switch (id) {
+        case mnuRClist:
+            CheckFileSize(form, line);
+            return true;
+        case mnuRClist + 2:
+            DownloadFile(form, line);
+            return true;
+        case mnuRClist + 3:
+            RenameFile(form, line);
+            return true;
+        case mnuRClist + 5:
+            DeleteRemoteFile(form, line);
+            return true;
+        case mnuDirDelete:
+            DeleteDirectory(form, line);
+            return true;
+        default:
+            return false;
+    }
+}
+
+}  // namespace
+
+void EnterDirectory(frmUpload& form, const std::string& line) {
+    if (line.empty() || !OpensOnDoubleClick(line)) return;
+    const std::string name(NameOfLine(line));
+    const bool entered = form.change(kWorking, RemoteCommand::changeDirectory, name);
+    if (form.isThere() && !entered) form.say("Cannot access Directory!", "Quillon Note:");
+}
+
+bool RunCommand(frmUpload& form, int id, const std::string& line) {
+    switch (id) {
+        case cmdUp:
+            UploadCurrentDocument(form);
+            return true;
+        case cmdRefresh:
+            form.ListRemote();
+            return true;
+        case cmdUpDir:
+            MoveUp(form);
+            return true;
+        case cmdMakeDir:
+            MakeDirectory(form);
+            return true;
+        default:
+            return !line.empty() && RunMenu(form, id, line);
     }
 }
 

@@ -8,14 +8,11 @@ class frmUpload;
 
 namespace ftp {
 
+// `line` is a line of the list, that of a directory with its "/". An empty one opens nothing.
 void EnterDirectory(frmUpload& form, const std::string& line);
-void MoveUp(frmUpload& form);
-void MakeDirectory(frmUpload& form);
-// `line` is the selected line of the list, that of a directory with its "/".
-void CheckFileSize(frmUpload& form, const std::string& line);
-void DownloadFile(frmUpload& form, const std::string& line);
-void RenameFile(frmUpload& form, const std::string& line);
-void DeleteRemoteFile(frmUpload& form, const std::string& line);
-void DeleteDirectory(frmUpload& form, const std::string& line);
+
+// Runs a button or a menu item of the window. `line` is the selected line, empty when there is none. False
+// when the window has no such command, or it needs a line.
+bool RunCommand(frmUpload& form, int id, const std::string& line);
 
 }  // namespace ftp

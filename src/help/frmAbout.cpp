@@ -96,14 +96,16 @@ void frmAbout::fitLink(HWND link) const {
     ::DrawTextA(dc, win::WindowText(link).c_str(), -1, &area, kLinkFormat | DT_CALCRECT);
     ::SelectObject(dc, old);
     ::ReleaseDC(link, dc);
-    ::SetWindowPos(link, nullptr, 0, 0, area.right + 2 * kFrame, area.bottom + 2 * kFrame,
+    ::SetWindowPos(link, nullptr, 0, 0, area.right + kFrame, area.bottom + 2 * kFrame,
                    SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void frmAbout::drawLink(const DRAWITEMSTRUCT& link) {
     ::FillRect(link.hDC, &link.rcItem, ::GetSysColorBrush(COLOR_BTNFACE));
     RECT area = link.rcItem;
-    ::InflateRect(&area, -kFrame, -kFrame);
+    // The letters begin where those of the labels do.
+    area.right -= kFrame;
+    ::InflateRect(&area, 0, -kFrame);
     ::SetBkMode(link.hDC, TRANSPARENT);
     ::SetTextColor(link.hDC, LinkColour());
     DrawMeasured(link.hDC, area, win::WindowText(link.hwndItem));

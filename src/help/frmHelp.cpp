@@ -61,6 +61,7 @@ bool frmHelp::onInit() {
     int id = Picture1;
     for (const ToolButton& button : kToolbar)
         Picture1_.add(id++, button.tip, button.picture, button.beginsGroup);
+    Picture1_.useTips();
     lblWords_.attach(item(lblWords));
     useFonts();
     show(heading_, text_);

@@ -40,6 +40,11 @@ std::string CRegSettings::GetRegSetting(const std::string& section, const std::s
     return value && !value->empty() ? *value : fallback;
 }
 
+std::vector<std::pair<std::string, std::string>> CRegSettings::GetAllRegSettings(
+    const std::string& section) const {
+    return win::RegistryKey::open(path(section)).values();
+}
+
 bool CRegSettings::SaveRegSetting(const std::string& section, const std::string& key,
                                   const std::string& setting) const {
     const auto store = win::RegistryKey::create(path(section));

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <string>
+#include <utility>
+#include <vector>
 
 // Made anew for each use; nothing is cached. In every method the key "*" stands for the section's unnamed
 // value. No method throws or shows a message.
@@ -16,6 +18,8 @@ class CRegSettings {
     // The stored string, or `fallback` when there is none or it is empty.
     std::string GetRegSetting(const std::string& section, const std::string& key,
                               const std::string& fallback = "") const;
+    // All keys of a section with their values, in no order.
+    std::vector<std::pair<std::string, std::string>> GetAllRegSettings(const std::string& section) const;
     // False when the value could not be written. The section is created as needed.
     bool SaveRegSetting(const std::string& section, const std::string& key, const std::string& setting) const;
     // Deletes the value, or with an empty key the whole section. False when there was none.

@@ -40,10 +40,6 @@ constexpr Handler One(Command command, void (*run)(MainWindow&, int)) {
 constexpr Handler Array(Command first, int count, void (*run)(MainWindow&, int)) {
     return {first, first + count - 1, run};
 }
-// Shown disabled until its feature is there.
-constexpr Handler NotYet(Command first, int count = 1) {
-    return {first, first + count - 1, nullptr};
-}
 
 constexpr auto kHandlers = std::to_array<Handler>({
     One(mnuFileNew, OnFileNew),
@@ -124,12 +120,7 @@ static_assert(std::ranges::all_of(kToolbar, [](const ToolButton& button) { retur
 
 void Run(MainWindow& main, Command command) {
     const Handler* handler = Find(command);
-    if (handler && handler->run) handler->run(main, command - handler->first);
-}
-
-bool IsAvailable(Command command) {
-    const Handler* handler = Find(command);
-    return handler && handler->run;
+    if (handler) handler->run(main, command - handler->first);
 }
 
 }  // namespace shell

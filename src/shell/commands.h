@@ -5,10 +5,7 @@
 
 namespace shell {
 
-// Runs the command; one whose feature is missing does nothing.
+// Runs the command of a menu item or a button.
 void Run(MainWindow& main, Command command);
-
-// False for a command that no feature answers to yet.
-bool IsAvailable(Command command);
 
 }  // namespace shell

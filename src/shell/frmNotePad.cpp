@@ -56,9 +56,6 @@ frmNotePad& frmNotePad::open() {
 }
 
 void frmNotePad::createParts() {
-    for (const shell::MenuRow& row : shell::kMenu) {
-        if (row.kind == shell::MenuKind::item) menu_.enable(row.id, shell::IsAvailable(row.id));
-    }
     options::ShowStored(*this);
     ::SetMenu(hwnd(), menu_.handle());
     menu_.attach(hwnd());
@@ -67,10 +64,10 @@ void frmNotePad::createParts() {
         win::Check(::CreateWindowExA(WS_EX_CLIENTEDGE, "MDICLIENT", nullptr,
                                      WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_HSCROLL | WS_VSCROLL, 0, 0,
                                      0, 0, hwnd(), nullptr, ::GetModuleHandleA(nullptr), &client));
+    // Its scroll bars come when a page lies outside; until it has looked it would show empty ones.
+    ::ShowScrollBar(mdiClient_, SB_BOTH, FALSE);
     Picture2_ = &shell::Toolbar::open(hwnd(), [this](int index) { clickTool(index); });
     Picture3_ = &shell::StatusStrip::open(hwnd());
-    enableNew(false);
-    Picture3_->setLineNo("Line numbers appear here.");
     // The first page opens before the window is shown, and takes its size from the client's.
     layOut();
 }
@@ -109,12 +106,7 @@ void frmNotePad::showLine(long line) {
 
 void frmNotePad::enableNew(bool state) {
     menu_.setDocumentOpen(state);
-    for (int index = 0; index < static_cast<int>(kToolbar.size()); ++index) {
-        const bool needsDocument =
-            index >= shell::kFirstDocumentButton && index <= shell::kLastDocumentButton;
-        const Command command = kToolbar[static_cast<std::size_t>(index)].command;
-        Picture2_->enableButton(index, shell::IsAvailable(command) && (state || !needsDocument));
-    }
+    Picture2_->setDocumentOpen(state);
     if (!state) Picture3_->setLineNo("No File Open");
 }
 

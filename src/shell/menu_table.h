@@ -176,8 +176,4 @@ inline constexpr auto kExtraKeys = std::to_array<MenuRow>({
     Item(tbrReplace, 0, "Replace", "Ctrl+H"),
 });
 
-// The toolbar buttons of these indices work only while a document is open.
-inline constexpr int kFirstDocumentButton = 2;
-inline constexpr int kLastDocumentButton = 15;
-
 }  // namespace shell

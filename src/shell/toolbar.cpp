@@ -8,6 +8,10 @@ namespace {
 
 constexpr int kMargin = 2;  // pixels of a 96-dpi screen
 
+bool NeedsDocument(int index) {
+    return index >= 2 && index <= 15;  // Close to Color
+}
+
 }  // namespace
 
 Toolbar& Toolbar::open(HWND parent, std::function<void(int)> onClick) {
@@ -27,8 +31,16 @@ int Toolbar::height() {
 void Toolbar::makeButtons() {
     Picture1_.open(hwnd(), win::Scaled(kMargin), win::Scaled(kMargin));
     int index = 0;
-    for (const ToolButton& button : kToolbar)
-        Picture1_.add(index++, button.tip, button.picture, button.beginsGroup);
+    for (const ToolButton& button : kToolbar) {
+        Picture1_.add(index, button.tip, button.picture, button.beginsGroup, !NeedsDocument(index));
+        ++index;
+    }
+}
+
+void Toolbar::setDocumentOpen(bool open) const {
+    for (int index = 0; index < static_cast<int>(kToolbar.size()); ++index) {
+        if (NeedsDocument(index)) ::EnableWindow(button(index), open);
+    }
 }
 
 LRESULT Toolbar::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -41,11 +53,16 @@ LRESULT Toolbar::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             ::UpdateWindow(reinterpret_cast<HWND>(lParam));
             onClick_(LOWORD(wParam));
             return 0;
+        case WM_SETCURSOR:
+            // The buttons pass it on, and disabled ones leave the mouse to this window.
+            Picture1_.useTips();
+            break;
         case WM_DRAWITEM:
             return Picture1_.draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
         default:
-            return defaultHandling(message, wParam, lParam);
+            break;
     }
+    return defaultHandling(message, wParam, lParam);
 }
 
 }  // namespace shell

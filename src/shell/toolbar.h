@@ -14,7 +14,8 @@ class Toolbar : public win::Window {
     static Toolbar& open(HWND parent, std::function<void(int index)> onClick);
 
     static int height();  // pixels
-    void enableButton(int index, bool enabled) const { ::EnableWindow(button(index), enabled); }
+    // The buttons that need a document are disabled until one opens.
+    void setDocumentOpen(bool open) const;
     bool isEnabled(int index) const { return ::IsWindowEnabled(button(index)) != FALSE; }
     bool owns(HWND window) const { return ::GetParent(window) == hwnd(); }
 

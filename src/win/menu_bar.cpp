@@ -108,7 +108,10 @@ void MenuBar::insert(const Entry& entry) {
     const std::string text = MenuText(entry.caption, entry.row->shortcut);
     MENUITEMINFOA info{};
     info.cbSize = sizeof info;
-    info.fMask = MIIM_ID | MIIM_FTYPE | MIIM_STRING;
+    info.fMask = MIIM_ID | MIIM_FTYPE | MIIM_STRING | MIIM_STATE | MIIM_CHECKMARKS;
+    info.fState = (isEnabled(entry) ? MFS_ENABLED : MFS_GRAYED) | (entry.checked ? MFS_CHECKED : 0U);
+    info.hbmpChecked = entry.picture;
+    info.hbmpUnchecked = entry.picture;
     info.wID = entry.row->id;
     info.dwTypeData = const_cast<char*>(text.c_str());
     if (IsSeparator(*entry.row)) {
@@ -120,14 +123,17 @@ void MenuBar::insert(const Entry& entry) {
         info.hSubMenu = entry.popup;
     }
     ::InsertMenuItemA(entry.parent, static_cast<UINT>(position(entry)), TRUE, &info);
-    applyState(entry);
+}
+
+bool MenuBar::isEnabled(const Entry& entry) const {
+    return entry.enabled && (documentOpen_ || !entry.needsDocument);
 }
 
 void MenuBar::applyState(const Entry& entry) {
     if (!entry.shown || IsSeparator(*entry.row)) return;
     const auto at = static_cast<UINT>(position(entry));
-    const bool enabled = entry.enabled && (documentOpen_ || !entry.needsDocument);
-    ::EnableMenuItem(entry.parent, at, static_cast<UINT>(MF_BYPOSITION) | (enabled ? MF_ENABLED : MF_GRAYED));
+    ::EnableMenuItem(entry.parent, at,
+                     static_cast<UINT>(MF_BYPOSITION) | (isEnabled(entry) ? MF_ENABLED : MF_GRAYED));
     if (entry.popup) return;
     ::CheckMenuItem(entry.parent, at,
                     static_cast<UINT>(MF_BYPOSITION) | (entry.checked ? MF_CHECKED : MF_UNCHECKED));
@@ -166,11 +172,11 @@ void MenuBar::enable(std::uint16_t id, bool enabled) {
 }
 
 bool MenuBar::isEnabled(std::uint16_t id) const {
-    const Entry& item = entry(id);
-    return item.enabled && (documentOpen_ || !item.needsDocument);
+    return isEnabled(entry(id));
 }
 
 void MenuBar::setDocumentOpen(bool open) {
+    if (open == documentOpen_) return;
     documentOpen_ = open;
     for (const Entry& entry : entries_) {
         if (entry.needsDocument) applyState(entry);

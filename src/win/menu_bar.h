@@ -68,6 +68,7 @@ class MenuBar {
 
     const Entry& entry(std::uint16_t id) const;
     Entry& entry(std::uint16_t id);
+    bool isEnabled(const Entry& entry) const;
     int position(const Entry& entry) const;  // within its popup
     void insert(const Entry& entry);
     void applyState(const Entry& entry);

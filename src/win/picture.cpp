@@ -48,16 +48,19 @@ void Disable(RGBQUAD& pixel) {
     pixel.rgbReserved = static_cast<BYTE>(pixel.rgbReserved / 2);
 }
 
-UniqueIcon Load(const char* name, int size) {
+UniqueIcon Load(const char* name, int width, int height) {
     return UniqueIcon(static_cast<HICON>(
-        ::LoadImageA(::GetModuleHandleA(nullptr), name, IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
+        ::LoadImageA(::GetModuleHandleA(nullptr), name, IMAGE_ICON, width, height, LR_DEFAULTCOLOR)));
 }
 
 // An icon of the resources, its colours multiplied by their alpha; in a smaller `size` where the system
 // cannot read this one, and empty where it cannot read any.
 Pixels Blended(const char* name, int& size) {
-    UniqueIcon icon = Load(name, size);
-    if (!icon) icon = Load(name, size = kSmall);
+    UniqueIcon icon = Load(name, size, size);
+    if (!icon) {
+        size = kSmall;
+        icon = Load(name, size, size);
+    }
     if (!icon) return {0, 0};
     // On black an icon shows its colours times their alpha, and how much lighter it gets on white is what
     // its alpha lacks. So any icon will do, whatever the depth of the screen has made of it.
@@ -97,6 +100,10 @@ void Picture::draw(HDC dc, int left, int top) const {
     const BLENDFUNCTION blend{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
     ::GdiAlphaBlend(dc, left, top, size_, size_, memory.get(), 0, 0, size_, size_, blend);
     ::SelectObject(memory.get(), old);
+}
+
+UniqueIcon SmallIcon(const char* name) {
+    return Load(name, ::GetSystemMetrics(SM_CXSMICON), ::GetSystemMetrics(SM_CYSMICON));
 }
 
 UniqueIcon IconBeforeText(const char* name) {

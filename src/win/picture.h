@@ -27,6 +27,10 @@ class Picture {
     UniqueBitmap bitmap_;
 };
 
+// An icon of the resources for the caption of a window. Not a shared one: those keep the size at which they
+// were asked for first. Null where it cannot be had.
+UniqueIcon SmallIcon(const char* name);
+
 // An icon of the resources with a gap at its right, for a button that draws its text right behind it. Null
 // where it cannot be had.
 UniqueIcon IconBeforeText(const char* name);

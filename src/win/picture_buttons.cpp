@@ -31,12 +31,13 @@ void DrawGround(HDC dc, const RECT& area, bool hot, bool pressed) {
 
 }  // namespace
 
-PictureButton::PictureButton(HWND parent, int id, const char* name, const char* icon, const RECT& place)
-    : icon_(icon) {
-    attach(Check(::CreateWindowExA(0, "BUTTON", name, WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW,
-                                   place.left, place.top, place.right - place.left, place.bottom - place.top,
-                                   parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                                   ::GetModuleHandleA(nullptr), nullptr)));
+PictureButton::PictureButton(HWND parent, int id, const char* name, const char* icon, const RECT& place,
+                             bool enabled)
+    : name_(name), icon_(icon) {
+    const DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW | (enabled ? 0U : WS_DISABLED);
+    attach(Check(::CreateWindowExA(
+        0, "BUTTON", name, style, place.left, place.top, place.right - place.left, place.bottom - place.top,
+        parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), ::GetModuleHandleA(nullptr), nullptr)));
 }
 
 const Picture& PictureButton::picture(bool disabled) {
@@ -65,6 +66,7 @@ void PictureButton::setHot(bool hot) {
 }
 
 LRESULT PictureButton::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_NCPAINT) return 0;  // there is no frame
     // A dialog would take Enter for its default button.
     if (message == WM_GETDLGCODE && wParam == VK_RETURN) return DLGC_BUTTON | DLGC_WANTMESSAGE;
     if (message == WM_KEYDOWN && wParam == VK_RETURN) {
@@ -87,21 +89,25 @@ void PictureButtons::open(HWND parent, int left, int top) {
     parent_ = parent;
     left_ = left;
     top_ = top;
-    tips_.create(parent);
 }
 
-void PictureButtons::add(int id, const char* name, const char* icon, bool beginsGroup) {
+void PictureButtons::add(int id, const char* name, const char* icon, bool beginsGroup, bool enabled) {
     if (beginsGroup) left_ += Scaled(kGap);
     const HWND before = buttons_.empty() ? nullptr : buttons_.back()->hwnd();
     const RECT place{left_, top_, left_ + height(), top_ + height()};
-    buttons_.push_back(std::make_unique<PictureButton>(parent_, id, name, icon, place));
+    buttons_.push_back(std::make_unique<PictureButton>(parent_, id, name, icon, place, enabled));
     left_ = place.right;
     const HWND added = buttons_.back()->hwnd();
     if (::GetWindow(added, GW_HWNDPREV) != before) {
         ::SetWindowPos(added, before ? before : HWND_TOP, 0, 0, 0, 0,
                        SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     }
-    tips_.add(added, name);
+}
+
+void PictureButtons::useTips() {
+    if (tips_.exist()) return;
+    tips_.create(parent_);
+    for (const auto& button : buttons_) tips_.add(button->hwnd(), button->name());
 }
 
 bool PictureButtons::draw(const DRAWITEMSTRUCT& item) const {

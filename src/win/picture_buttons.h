@@ -15,8 +15,10 @@ namespace win {
 // over it.
 class PictureButton : public Control {
  public:
-    // `name` is the window text, `icon` an icon of the resources.
-    PictureButton(HWND parent, int id, const char* name, const char* icon, const RECT& place);
+    // `name` is the window text and the tool tip, `icon` an icon of the resources.
+    PictureButton(HWND parent, int id, const char* name, const char* icon, const RECT& place, bool enabled);
+
+    const char* name() const { return name_; }
 
     // For its parent's WM_DRAWITEM.
     void draw(const DRAWITEMSTRUCT& item);
@@ -27,6 +29,7 @@ class PictureButton : public Control {
 
     const Picture& picture(bool disabled);
 
+    const char* name_;
     const char* icon_;
     // Made when first drawn: a start of the program does not wait for them.
     std::optional<Picture> normal_;
@@ -39,8 +42,11 @@ class PictureButtons {
     // The row begins at this place of the client area of `parent`, in pixels.
     void open(HWND parent, int left, int top);
     // At the right end of the row; the row's buttons come before all others in the parent's tab order.
-    // `name` is the tool tip too and must outlive the row.
-    void add(int id, const char* name, const char* icon, bool beginsGroup);
+    // The texts must outlive the row.
+    void add(int id, const char* name, const char* icon, bool beginsGroup, bool enabled = true);
+    // From the first call on the buttons that there are have tool tips. They make every message to a button
+    // slower, so a parent that is in a hurry waits until the mouse comes.
+    void useTips();
     HWND button(std::size_t index) const { return buttons_[index]->hwnd(); }
     // For the parent's WM_DRAWITEM; false when the item is none of the row's.
     bool draw(const DRAWITEMSTRUCT& item) const;

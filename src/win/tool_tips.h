@@ -9,6 +9,7 @@ class ToolTips {
  public:
     // `form` owns the tips' window, which goes with it.
     void create(HWND form);
+    bool exist() const { return tips_ != nullptr; }
     // Shown over the control, also while it is disabled.
     void add(HWND control, const char* text) const;
 

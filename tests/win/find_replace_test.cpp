@@ -206,6 +206,7 @@ TEST_F(ReplaceTest, ReplaceAllRebuildsThePageAndClosesTheDialog) {
     EXPECT_EQ(page.txtPad().font().face, "Arial");
     EXPECT_EQ(page.tabText(), "      ");
     EXPECT_TRUE(pageHasFocus());
+    win::RunPending();
     EXPECT_EQ(::RevokeDragDrop(page.txtPad().hwnd()), S_OK) << "drops go on";
     EXPECT_GT(::SendMessageA(page.txtPad().hwnd(), EM_GETLIMITTEXT, 0, 0), 0x100000);
 }

@@ -1,4 +1,5 @@
 #include "win/app_test.h"
+#include "win/message_loop.h"
 
 namespace {
 
@@ -51,6 +52,15 @@ TEST_F(MenuTest, ToolbarButtonsHaveNamesAndFollowTheDocuments) {
         EXPECT_TRUE(isEnabled("New") && isEnabled("Open"));
         for (const char* name : {"Close", "Save", "Save As", "Cut", "Copy", "Paste", "Undo Cut/Paste"})
             EXPECT_EQ(isEnabled(name), hasPage) << name;
+    }
+}
+
+TEST_F(MenuTest, TheMouseFindsTheNameOfAButtonThatWorksAndOfOneThatDoesNot) {
+    for (const char* name : {"New", "Save"}) {
+        RECT button{};
+        ::GetWindowRect(seen::Child(main().mainHwnd(), name, "Button"), &button);
+        ::SetCursorPos(button.left + 9, button.top + 9);
+        EXPECT_TRUE(seen::Until([name] { return win::RunPending() && window(name); })) << name;
     }
 }
 

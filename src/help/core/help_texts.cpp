@@ -215,28 +215,32 @@ constexpr auto kButtonWords = std::to_array<const char*>({
     "   Looks for text from the caret onwards, whatever the case of its letters, selects the first place where it "
     "stands and counts those from there to the end of the page. Find Next goes on to the next one, and at the end "
     "you can start again from the top.\r\n\r\n"
-    "   The window stays open while you edit, belongs to the page that it was opened for, and closes with it.",
+    "   The window stays open while you edit, belongs to the page that it was opened for, and closes with it. Ctrl+F "
+    "does the same as this button.",
 
     "The Replace Button...\r\n\r\n"
     "   Replace changes the first place in the page, counted from the top, where the text stands; Replace All "
     "changes every one and tells the number at the bottom of the main window. Capital and small letters must match "
     "exactly, so <BR> is not <br>.\r\n\r\n"
     "   The new text cannot be empty: to remove text, select it and press Delete. After Replace All the new page is "
-    "on the clipboard too. Look before you leap: a short text such as \"a\" stands in more places than one thinks.",
+    "on the clipboard too. Look before you leap: a short text such as \"a\" stands in more places than one thinks. "
+    "Ctrl+H does the same as this button.",
 
     "The Reset Button...\r\n\r\n"
     "   Takes the page back to how it was last saved. Everything that you changed since then goes, but is left on "
-    "the clipboard in case you think better of it. See \"Reset\" in the \"Features\" menu.",
+    "the clipboard in case you think better of it. On the keyboard, Ctrl+T lists all the buttons. See "
+    "\"Reset\" in the \"Features\" menu.",
 
     "The Preview Button...\r\n\r\n"
     "   Shows the page in your web browser as it stands, without saving it. A changed page is shown from a copy that "
-    "is removed again after some seconds, so press Preview, not the browser's Reload, to see later changes. See "
-    "\"Preview\" in the \"Features\" menu.",
+    "is removed again after some seconds, so press Preview, not the browser's Reload, to see later changes. "
+    "On the keyboard, Ctrl+T lists all the buttons. See \"Preview\" in the \"Features\" menu.",
 
     "The Spelling-Check Button...\r\n\r\n"
     "   Has Microsoft Word or your system's spell checker go through the selected text, or through the whole page "
     "when nothing is selected. Take care that your tags are not \"corrected\". The unchecked page is left on the "
-    "clipboard. See \"Spell Check\" in the \"Features\" menu.",
+    "clipboard. On the keyboard, Ctrl+T lists all the buttons. See \"Spell Check\" in the \"Features\" "
+    "menu.",
 
     "The Printer Button...\r\n\r\n"
     "   Prints the text of the current page, tags and all, on your default printer, at once and without a dialog. "

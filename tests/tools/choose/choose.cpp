@@ -1,6 +1,7 @@
 // choose MENU ITEM...: chooses an item of the running editor's menu by its captions ("Options" "Templates"
-// "Add  Current Page"); the FTP site that is listed first is "Upload" "". choose BUTTON: clicks the button
-// with this text in any of its windows. Ends with 1 when there is no such thing within ten seconds.
+// "Add  Current Page"). "" is the first item that the program shows only at times: the latest FTP site
+// ("Upload" ""), "Organize Templates" ("Options" "Templates" ""). choose BUTTON: clicks the button with this
+// text in any of its windows. Ends with 1 when there is no such thing within ten seconds.
 // scripts/screenshots works with it.
 #include "shell/menu_table.h"
 #include "support/windows_seen.h"
