@@ -57,8 +57,7 @@ TEST_F(MenuTest, ToolbarButtonsHaveNamesAndFollowTheDocuments) {
 
 TEST_F(MenuTest, TheMouseFindsTheNameOfAButtonThatWorksAndOfOneThatDoesNot) {
     for (const char* name : {"New", "Save"}) {
-        RECT button{};
-        ::GetWindowRect(seen::Child(main().mainHwnd(), name, "Button"), &button);
+        const RECT button = seen::PlaceOf(seen::Child(main().mainHwnd(), name, "Button"));
         ::SetCursorPos(button.left + 9, button.top + 9);
         EXPECT_TRUE(seen::Until([name] { return win::RunPending() && window(name); })) << name;
     }
