@@ -1,5 +1,6 @@
 #include "win/app_test.h"
 
+#include <atomic>
 #include <thread>
 #include <utility>
 
@@ -32,7 +33,8 @@ void Notify(HWND control, WORD code) {
 
 std::vector<std::string> User::hears(const std::function<void()>& busy, const std::vector<Act>& acts) {
     std::vector<std::string> heard(acts.size());
-    std::jthread user([&] {
+    std::atomic<bool> done = false;
+    const std::jthread user([&] {
         HWND last = nullptr;
         for (std::size_t i = 0; i < acts.size(); ++i) {
             HWND dialog = nullptr;
@@ -42,15 +44,18 @@ std::vector<std::string> User::hears(const std::function<void()>& busy, const st
             });
             if (!came) {
                 ADD_FAILURE() << "No window came with the title \"" << acts[i].title << '"';
-                return;
+                break;
             }
             heard[i] = seen::LabelsOf(dialog);
             acts[i].act(dialog);
             last = dialog;
         }
+        done = true;
     });
     busy();
-    user.join();
+    // Whoever looks for a dialog asks the windows of this thread for their texts.
+    for (MSG message; !done; ::Sleep(1))
+        ::PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
     return heard;
 }
 
