@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <array>
 #include <set>
 
 #include "authoring/core/preview_path.h"
@@ -20,17 +21,15 @@ TEST(WebColors, EachColorOnceInItsBox) {
 }
 
 TEST(Preview, AnEditedPageIsShownFromACopyBesideItWhoseNameABrowserKnows) {
-    const struct {
-        const char* path;
-        const char* edited;
-        const char* unchanged;
-    } kPages[] = {{"C:\\site\\index.htm", "C:\\site\\$$index.htm", "C:\\site\\index.htm"},
-                  {"C:\\index.htm\\index.htm", "C:\\index.htm\\$$index.htm", "C:\\index.htm\\index.htm"},
-                  {"C:/site/a.html", "C:/site/$$a.html", "C:/site/a.html"},
-                  {"C:index.htm", "C:$$index.htm", "C:index.htm"},
-                  {"C:\\my.site\\ab", "C:\\my.site\\$$ab.htm", "C:\\my.site\\ab.htm"},
-                  {"C:\\a.xhtml", "C:\\$$a.xhtml.htm", "C:\\a.xhtml.htm"},
-                  {"", "", ""}};
+    // The page's own file, and what is shown of it when it is edited and when it is not.
+    const std::array<const char*, 3> kPages[] = {
+        {"C:\\site\\index.htm", "C:\\site\\$$index.htm", "C:\\site\\index.htm"},
+        {"C:\\index.htm\\index.htm", "C:\\index.htm\\$$index.htm", "C:\\index.htm\\index.htm"},
+        {"C:/site/a.html", "C:/site/$$a.html", "C:/site/a.html"},
+        {"C:index.htm", "C:$$index.htm", "C:index.htm"},
+        {"C:\\my.site\\ab", "C:\\my.site\\$$ab.htm", "C:\\my.site\\ab.htm"},
+        {"C:\\a.xhtml", "C:\\$$a.xhtml.htm", "C:\\a.xhtml.htm"},
+        {"", "", ""}};
     const auto nothing = [](const std::string&) { return false; };
     for (const auto& [path, edited, unchanged] : kPages) {
         EXPECT_EQ(authoring::PreviewFile(path, true, nothing), edited);

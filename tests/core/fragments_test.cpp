@@ -8,24 +8,26 @@ namespace {
 
 using authoring::TagMenu;
 
-const std::map<std::string, TagMenu> kMenus = {
-    {"Basic", TagMenu::Basic}, {"BodyInc", TagMenu::BodyInc}, {"Mod", TagMenu::Mod},
-    {"Font", TagMenu::Font},   {"Img", TagMenu::Img},         {"Href", TagMenu::Href},
-    {"Rule", TagMenu::Rule},   {"Align", TagMenu::Align},     {"Table", TagMenu::Table},
-    {"FSet", TagMenu::FSet},   {"Frame", TagMenu::Frame},     {"Form", TagMenu::Form},
-    {"Input", TagMenu::Input}, {"Ls", TagMenu::Ls},           {"Ol", TagMenu::Ol},
-    {"DLs", TagMenu::DLs},     {"Special", TagMenu::Special},
-};
+// In the order of TagMenu.
+const char* const kMenus[] = {"Basic", "BodyInc", "Mod",  "Font",  "Img", "Href", "Rule", "Align",  "Table",
+                              "FSet",  "Frame",   "Form", "Input", "Ls",  "Ol",   "DLs",  "Special"};
+
+// A text below its name, with an arrow for each CR; nothing for an empty text.
+std::string Listed(const std::string& name, std::string_view text) {
+    std::string shown = "== " + name + "\n";
+    for (const char c : text) shown += c == '\r' ? "\xE2\x86\xB5" : std::string(1, c);
+    return text.empty() ? "" : shown + "\n";
+}
 
 TEST(TagFragments, EveryOneIsAsListedAndNothingElseIsThere) {
-    std::map<std::string, std::string> made;
-    for (const auto& [name, menu] : kMenus) {
+    std::string made;
+    for (int menu = 0; menu <= static_cast<int>(TagMenu::Special); ++menu) {
         for (int index = -2; index < 20; ++index) {
-            const std::string_view fragment = authoring::TagFragment(menu, index);
-            if (!fragment.empty()) made[name + " " + std::to_string(index)] = fragment;
+            made += Listed(kMenus[menu] + (" " + std::to_string(index)),
+                           authoring::TagFragment(static_cast<TagMenu>(menu), index));
         }
     }
-    EXPECT_EQ(made, kept::Listing("core/data/tag_fragments.txt"));
+    EXPECT_EQ(made, kept::Read("core/data/tag_fragments.txt"));
 }
 
 TEST(TagFragments, FontSizeIsJudgedByItsFirstCharacterAndTakenWhole) {
@@ -40,17 +42,14 @@ TEST(TagFragments, TheDayOfADateHasTwoDigits) {
 }
 
 TEST(Scripts, BlocksAndMenusAreAsListedAndNothingElseIsThere) {
-    std::map<std::string, std::string> made;
-    std::string keywords;
+    std::string made;
+    std::string menus;
     for (int index = -2; index < 10; ++index) {
-        const std::string_view block = modScripts::ScriptBlock(index);
-        if (!block.empty()) made["script " + std::to_string(index)] = block;
         const std::string keyword(modScripts::DropMenuKeyword(index));
-        if (!keyword.empty()) made[keyword] = modScripts::MakeDropMenu(keyword);
-        keywords += keyword + " ";
+        made += Listed("script " + std::to_string(index), modScripts::ScriptBlock(index));
+        menus += Listed(keyword, modScripts::MakeDropMenu(keyword));
     }
-    EXPECT_EQ(made, kept::Listing("core/data/scripts.txt"));
-    EXPECT_EQ(keywords, "  drop goBtn Wnd dCbo       ");
+    EXPECT_EQ(made + menus, kept::Read("core/data/scripts.txt"));
     for (const char* keyword : {"", "Drop", "drop ", "dcbo", "wnd"}) {
         EXPECT_EQ(modScripts::MakeDropMenu(keyword), "");
     }

@@ -102,13 +102,4 @@ TEST(ProposedLocalName, StaysInTheDialogsFolderAndHoldsNothingThatWindowsForbids
               std::string(ftp::kMaxLocalName - 5, 'x') + ".html");
 }
 
-TEST(FillNameBuffer, PadsTheNameAndNeverRunsOver) {
-    std::array<char, 1024> dialog{};
-    ftp::FillNameBuffer(dialog, "index.htm");
-    EXPECT_EQ(std::string(dialog.data()), "index.htm" + std::string(1014, ' '));
-    std::array<char, 4> tiny{'?', '?', '?', '?'};
-    ftp::FillNameBuffer(tiny, "index.htm");
-    EXPECT_EQ(std::string(tiny.data()), "ind");
-}
-
 }  // namespace

@@ -9,10 +9,7 @@
 namespace {
 
 using namespace std::string_literals;
-using authoring::DetectImageType;
-using authoring::ImageHeight;
-using authoring::ImageType;
-using authoring::ImageWidth;
+using namespace authoring;
 
 using Size = std::pair<float, float>;
 
@@ -36,8 +33,8 @@ const std::tuple<const char*, ImageType, Size> kEncoded[] = {
 TEST(ImageInfo, FilesOfRealEncodersFromTheBytesThatAreAskedFor) {
     for (const auto& [file, type, size] : kEncoded) {
         const std::string bytes = kept::Read("fuzz/corpus/image_info/"s + file);
-        EXPECT_EQ(DetectImageType(bytes.substr(0, authoring::kImageTypeBytes)), type) << file;
-        EXPECT_EQ(SizeOf(type, bytes.substr(0, authoring::ImageSizeBytes(type))), size) << file;
+        EXPECT_EQ(DetectImageType(bytes.substr(0, kImageTypeBytes)), type) << file;
+        EXPECT_EQ(SizeOf(type, bytes.substr(0, ImageSizeBytes(type))), size) << file;
     }
 }
 

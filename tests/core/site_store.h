@@ -17,19 +17,11 @@ struct SiteStore {
     Section& names() { return sections["FTP Names"]; }
     Section& passes() { return sections["FTP Passes"]; }
 
-    void put(const std::string& key, const std::string& url, const std::string& name,
-             const std::string& password) {
-        sites()[key] = url;
-        names()[key] = name;
-        passes()[key] = password;
-    }
-
-    std::vector<settings::Row> rows(const char* section) const {
-        std::vector<settings::Row> result;
-        const auto found = sections.find(section);
-        if (found == sections.end()) return result;
-        for (const auto& [key, value] : found->second) result.push_back({key, value});
-        return result;
+    std::vector<settings::Row> rows(const char* name) const {
+        std::vector<settings::Row> rows;
+        if (!sections.contains(name)) return rows;
+        for (const auto& [key, value] : sections.at(name)) rows.push_back({key, value});
+        return rows;
     }
     // In the order of the keys as texts, "10" before "2", as some registries have it.
     ftp::SiteSections read() const { return {rows("FTP Sites"), rows("FTP Names"), rows("FTP Passes")}; }

@@ -8,15 +8,11 @@
 
 namespace {
 
-using authoring::FindWords;
-using authoring::kAsciiLetters;
-using authoring::LetterTable;
-using authoring::SpellDictionary;
-using authoring::SpellingPass;
+using namespace authoring;
 
 std::string WordsOf(std::string_view page, const LetterTable& letters = kAsciiLetters) {
     std::string words;
-    for (const authoring::Word& word : FindWords(page, letters)) {
+    for (const Word& word : FindWords(page, letters)) {
         words.append(page.substr(word.start, word.length)).append("|");
     }
     return words;

@@ -4,11 +4,7 @@
 
 namespace {
 
-using authoring::kTemplateSlots;
-using authoring::NewTemplateProblem;
-using authoring::RebuiltTemplates;
-using authoring::Template;
-using authoring::TemplateList;
+using namespace authoring;
 
 TemplateList FullList() {
     TemplateList list;
@@ -18,26 +14,14 @@ TemplateList FullList() {
     return list;
 }
 
-TEST(Templates, RebuildingClosesGapsAndKeepsTheOrder) {
-    TemplateList list = FullList();
-    list[1].id.clear();
-    list[4].name.clear();
+TEST(Templates, RebuildingClosesGapsAndDropsANameOnlyRightBehindItself) {
+    const auto isThere = [](const std::string& name) { return name != "gone"; };
     // An empty name would be the folder itself, which exists.
-    const TemplateList expected = {list[0], list[3], list[5], list[6], list[7], list[8]};
-    EXPECT_EQ(RebuiltTemplates(list, [](const std::string& name) { return name != "t2.htm"; }), expected);
-}
-
-TEST(Templates, RebuildingDropsANameOnlyRightBehindItself) {
-    const TemplateList list = {Template{"a", "1"}, {"gone", "2"}, {"a", "3"}, {"b", "4"}, {"a", "5"}};
-    const TemplateList expected = {list[0], list[3], list[4]};
-    EXPECT_EQ(RebuiltTemplates(list, [](const std::string& name) { return name != "gone"; }), expected);
-}
-
-TEST(Templates, TheOrganizeDialogStopsAtTheFirstEmptyId) {
-    TemplateList list = FullList();
-    EXPECT_EQ(authoring::OfferedTemplates(list), 9U);
-    list[3].id.clear();
-    EXPECT_EQ(authoring::OfferedTemplates(list), 3U);
+    const TemplateList list = {Template{"a", "1"}, {"gone", "2"}, {"a", "3"}, {"no ID", ""},
+                               {"b", "4"},         {"", "5"},     {"a", "6"}, {"c", "7"}};
+    EXPECT_EQ(RebuiltTemplates(list, isThere), (TemplateList{list[0], list[4], list[6], list[7]}));
+    EXPECT_EQ(OfferedTemplates(list), 3U) << "up to the first empty ID";
+    EXPECT_EQ(OfferedTemplates(FullList()), 9U);
 }
 
 TEST(Templates, WhatIsMissingOrInUseIsSaid) {
@@ -57,22 +41,22 @@ TEST(Templates, WhatIsMissingOrInUseIsSaid) {
 
 TEST(Templates, ANameInOtherCaseIsTheSameFile) {
     const TemplateList list = FullList();
-    EXPECT_EQ(authoring::TemplateInOtherCase(list, "T8.HTM", authoring::kAsciiFold), &list[8]);
+    EXPECT_EQ(TemplateInOtherCase(list, "T8.HTM", kAsciiFold), &list[8]);
     for (const char* name : {"t8.htm", "t8.html", "T9.HTM"}) {
-        EXPECT_EQ(authoring::TemplateInOtherCase(list, name, authoring::kAsciiFold), nullptr) << name;
+        EXPECT_EQ(TemplateInOtherCase(list, name, kAsciiFold), nullptr) << name;
     }
 }
 
 TEST(Templates, OnlyPlainFileNamesPass) {
     for (const char* name : {"template1.htm", "My Page", " leading.htm", "a..b", ".htaccess", "CONSOLE.htm",
                              "COM0", "COM10.htm", "NULL", "Gr\xFC\xDF.htm"}) {
-        EXPECT_EQ(authoring::FileNameProblem(name), "") << name;
+        EXPECT_EQ(FileNameProblem(name), "") << name;
     }
     for (const char* name :
          {"..\\x.htm", "x/y.htm",  "C:x.htm", "x.htm:stream", "*.*",     "a?.htm", "a\"b", "<a>",
           "a|b",       "a\tb",     ".",       "..",           "a.htm.",  "a.htm ", " ",    "CON",
           "nul.htm",   "Aux .txt", "com1",    "LPT9.a.b",     "lpt\xB2", "conout$"}) {
-        EXPECT_NE(authoring::FileNameProblem(name), "") << name;
+        EXPECT_NE(FileNameProblem(name), "") << name;
     }
 }
 

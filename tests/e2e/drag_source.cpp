@@ -4,19 +4,12 @@
 #include <cstring>
 #include <thread>
 
-#include <ole2.h>
 #include <shlobj.h>
 
+#include "support/com_object.h"
 #include "support/windows_seen.h"
 
 namespace {
-
-HGLOBAL Memory(const std::string& bytes) {
-    const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, bytes.size());
-    std::memcpy(::GlobalLock(memory), bytes.data(), bytes.size());
-    ::GlobalUnlock(memory);
-    return memory;
-}
 
 // The CF_HDROP format: a DROPFILES and the paths, each with a NUL, and one NUL more.
 std::string FileList(const std::vector<std::string>& paths) {
@@ -27,21 +20,7 @@ std::string FileList(const std::vector<std::string>& paths) {
     return bytes.append(1, '\0');
 }
 
-// On the stack of Drag, which outlives every use of it.
-template <typename Interface>
-class OnStack : public Interface {
- public:
-    virtual ~OnStack() = default;
-    STDMETHOD(QueryInterface)(REFIID iid, void** object) override {
-        const bool known = iid == IID_IUnknown || iid == __uuidof(Interface);
-        *object = known ? this : nullptr;
-        return known ? S_OK : E_NOINTERFACE;
-    }
-    STDMETHOD_(ULONG, AddRef)() override { return 1; }
-    STDMETHOD_(ULONG, Release)() override { return 1; }
-};
-
-class Data : public OnStack<IDataObject> {
+class Data : public ComObject<IDataObject> {
  public:
     Data(CLIPFORMAT format, std::string bytes) : format_(format), bytes_(std::move(bytes)) {}
 
@@ -49,7 +28,8 @@ class Data : public OnStack<IDataObject> {
         if (QueryGetData(format) != S_OK) return DV_E_FORMATETC;
         *medium = {};
         medium->tymed = TYMED_HGLOBAL;
-        medium->hGlobal = Memory(bytes_);
+        medium->hGlobal = ::GlobalAlloc(GMEM_FIXED, bytes_.size());
+        std::memcpy(medium->hGlobal, bytes_.data(), bytes_.size());
         return S_OK;
     }
     STDMETHOD(QueryGetData)(FORMATETC* format) override {
@@ -71,7 +51,7 @@ class Data : public OnStack<IDataObject> {
     std::string bytes_;
 };
 
-class Source : public OnStack<IDropSource> {
+class Source : public ComObject<IDropSource> {
  public:
     STDMETHOD(QueryContinueDrag)(BOOL, DWORD) override {
         if (taken_) return DRAGDROP_S_DROP;
@@ -96,24 +76,19 @@ void MoveMouse(POINT to) {
     ::SendInput(1, &input, sizeof input);
 }
 
-POINT MiddleOf(HWND window) {
-    RECT rect{};
-    ::GetWindowRect(window, &rect);
-    return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
-}
-
-// Whether the button is down is for the Source to say, which leaves the real one alone.
+// Data and source live on the stack, which outlives every use of them. Whether the button is down is for the
+// Source to say, which leaves the real one alone.
 DWORD Drag(IDataObject& data, HWND target, DWORD offered) {
     const HWND owner = ::CreateWindowExA(WS_EX_TOPMOST, "STATIC", "Drag", WS_POPUP | WS_VISIBLE, 0, 0, 8, 8,
                                          nullptr, nullptr, nullptr, nullptr);
     std::atomic<bool> done = false;
     std::thread hand([&] {
-        const POINT end = MiddleOf(target);
+        const RECT at = seen::PlaceOf(target);
         for (int step = 0; !done; ++step) {
             // Only the program in front is told of the mouse, and one that is just starting comes to the
             // front.
             if (::GetForegroundWindow() != owner) ::SetForegroundWindow(owner);
-            MoveMouse({end.x + step % 2, end.y});
+            MoveMouse({(at.left + at.right) / 2 + step % 2, (at.top + at.bottom) / 2});
             ::Sleep(20);
         }
     });

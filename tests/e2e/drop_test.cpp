@@ -1,5 +1,3 @@
-#include <ole2.h>
-
 #include "e2e/drag_source.h"
 #include "e2e/quillon.h"
 
@@ -12,9 +10,6 @@ const std::string kJpeg = "\xFF\xD8\xFF\xE0\x00\x10JFIF\x00\xFF\xC0\x00\x11\x08\
 
 class DropTest : public QuillonTest {
  protected:
-    DropTest() { ::OleInitialize(nullptr); }
-    ~DropTest() override { ::OleUninitialize(); }
-
     std::string file(const std::string& name, const std::string& bytes) const {
         writeFile(scratch(name), bytes);
         return scratch(name);
@@ -93,7 +88,7 @@ TEST_F(DropTest, ABusyClipboardCostsOneTagAndNothingElse) {
     Quillon quillon(file("page.htm", "page"));
     ASSERT_TRUE(::OpenClipboard(nullptr));
     EXPECT_TRUE(copies({file("a.gif", kGif), file("b.gif", kGif)}, quillon.pad()));
-    const HWND box = quillon.waitForBox("Quillon");
+    const HWND box = quillon.waitForDialog("Quillon");
     ::CloseClipboard();
     EXPECT_EQ(seen::LabelsOf(box), "File Processing Error");
     ::PostMessageA(box, WM_COMMAND, IDOK, 0);

@@ -1,6 +1,7 @@
 #include <random>
 
 #include "e2e/quillon.h"
+#include "menu_ids.h"
 
 namespace {
 
@@ -99,7 +100,7 @@ TEST_F(EditingTest, KilledInMidSaveItLeavesTheOldFileOrTheNewOne) {
         writeFile(path, page);
         Quillon quillon(path);
         ::PostMessageA(quillon.pad(), WM_CHAR, 'x', 0);
-        quillon.choose("File/Save");
+        quillon.choose(mnuFileSave);
         for (unsigned spin = random() % 8000; spin > 0; --spin) ::SwitchToThread();
         quillon.kill();
         const std::string left = readFile(path);

@@ -1,6 +1,8 @@
 #include "e2e/quillon.h"
 #include "menu_ids.h"
 
+#include <shlwapi.h>
+
 namespace {
 
 class PageToolsTest : public QuillonTest {
@@ -11,10 +13,8 @@ class PageToolsTest : public QuillonTest {
     static std::string storedId() {
         char text[128] = "";
         DWORD size = sizeof text - 1;
-        HKEY key = nullptr;
-        ::RegOpenKeyA(HKEY_CURRENT_USER, "Software\\Corvale\\Quillon\\templateIDs", &key);
-        ::RegQueryValueExA(key, "0", nullptr, nullptr, reinterpret_cast<BYTE*>(text), &size);
-        ::RegCloseKey(key);
+        ::SHGetValueA(HKEY_CURRENT_USER, "Software\\Corvale\\Quillon\\templateIDs", "0", nullptr, text,
+                      &size);
         return text;
     }
 };
@@ -50,7 +50,7 @@ TEST_F(PageToolsTest, ATemplateIsThereAgainAtTheNextStartIfItsFileIs) {
     writeFile(scratch("page.htm"), page);
     {
         const Quillon quillon(scratch("page.htm"));
-        quillon.choose("Options/Templates/Add  Current Page");
+        quillon.choose(mnuOptsTempAdd);
         const HWND dialog = quillon.waitForDialog("Add a Template");
         seen::FillIn(dialog, "mine.htm", "My Cool Template", "Enter");
         EXPECT_TRUE(seen::Until([&] { return !::IsWindow(dialog); }));

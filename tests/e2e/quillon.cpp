@@ -2,20 +2,9 @@
 
 #include <cstdlib>
 
-#include "shell/menu_table.h"
+#include <shlwapi.h>
 
 namespace {
-
-Command CommandOf(const std::string& path) {
-    std::vector<std::string> open;  // the paths of the menus down to the row
-    for (const win::MenuRow& row : shell::kMenu) {
-        open.resize(row.level);
-        open.push_back((open.empty() ? "" : open.back() + "/") + row.caption);
-        if (open.back() == path) return row.id;
-    }
-    ADD_FAILURE() << "no menu item " << path;
-    return 0;
-}
 
 void Press(WORD virtualKey, WORD unicode, bool up) {
     INPUT input{};
@@ -33,24 +22,22 @@ Quillon::Quillon(const std::string& file, bool wait) {
     STARTUPINFOA startup{};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process{};
-    if (!::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                          &process)) {
-        ADD_FAILURE() << "cannot start " << command;
-        return;
-    }
+    EXPECT_TRUE(::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                                 &startup, &process))
+        << command;
     ::CloseHandle(process.hThread);
     handle_ = process.hProcess;
     id_ = process.dwProcessId;
     if (!wait) return;
-    const bool came = seen::Until([this] {
+    EXPECT_TRUE(seen::Until([this] {
         window_ = anyOfClass("frmNotePad");
         return window_ && pad() && ::IsWindowEnabled(window_);
-    });
-    if (!came) ADD_FAILURE() << "no page came: " << command;
+    })) << "no page came: "
+        << command;
 }
 
 Quillon::~Quillon() {
-    if (handle_) kill();
+    kill();
     ::CloseHandle(handle_);
 }
 
@@ -84,10 +71,6 @@ bool Quillon::shows(const std::string& label) const {
 
 void Quillon::choose(int command) const {
     ::PostMessageA(window_, WM_COMMAND, static_cast<WPARAM>(command), 0);
-}
-
-void Quillon::choose(const std::string& path) const {
-    choose(static_cast<int>(CommandOf(path)));
 }
 
 void Quillon::bringToFront() const {
@@ -125,18 +108,15 @@ HWND Quillon::anyOfClass(const std::string& cls, HWND but) const {
     return nullptr;
 }
 
-HWND Quillon::waitFor(const std::string& title, HWND (*find)(DWORD, const std::string&)) const {
+HWND Quillon::waitForDialog(const std::string& title) const {
     HWND dialog = nullptr;
-    const bool came = seen::Until([&] {
-        dialog = find(id_, title);
-        return dialog && dialog != window_ && ::IsWindowEnabled(dialog);
-    });
-    if (!came) ADD_FAILURE() << "no window came with the title \"" << title << '"';
+    if (!seen::Until([&] { return (dialog = seen::Dialog(id_, title)) && ::IsWindowEnabled(dialog); }))
+        ADD_FAILURE() << "no window came with the title \"" << title << '"';
     return dialog;
 }
 
 std::string Quillon::answer(const std::string& title, WORD button) const {
-    const HWND dialog = waitForBox(title);
+    const HWND dialog = waitForDialog(title);
     if (!dialog) return {};
     const std::string said = seen::LabelsOf(dialog);
     ::PostMessageA(dialog, WM_COMMAND, button, 0);
@@ -171,10 +151,8 @@ int EnvironmentNumber(const char* name, int otherwise) {
 
 void QuillonTest::SetUp() {
     FilesTest::SetUp();
-    DeleteKeyTree("Software\\VB and VBA Program Settings\\Quillon");
-    DeleteKeyTree("Software\\Corvale\\Quillon");
-    HKEY key = nullptr;
-    ::RegCreateKeyA(HKEY_CURRENT_USER, "Software\\VB and VBA Program Settings\\Quillon\\File Count", &key);
-    ::RegSetValueExA(key, "Count", 0, REG_SZ, reinterpret_cast<const BYTE*>("0"), 2);
-    ::RegCloseKey(key);
+    ::SHDeleteKeyA(HKEY_CURRENT_USER, "Software\\VB and VBA Program Settings\\Quillon");
+    ::SHDeleteKeyA(HKEY_CURRENT_USER, "Software\\Corvale\\Quillon");
+    ::SHSetValueA(HKEY_CURRENT_USER, "Software\\VB and VBA Program Settings\\Quillon\\File Count", "Count",
+                  REG_SZ, "0", 2);
 }

@@ -33,15 +33,12 @@ class Quillon {
 
     // Chooses a menu item or a button of the toolbar, without waiting until it is done.
     void choose(int command) const;
-    // Chooses a menu item by the captions on the way to it, as "File/Save As".
-    void choose(const std::string& path) const;
     // Brings the program to the front and sends keys to whatever has the focus there.
     void typeText(const std::string& text) const;
     void pressKey(WORD virtualKey, bool control = false) const;
 
-    HWND waitForDialog(const std::string& title) const { return waitFor(title, seen::Titled); }
-    // A dialog of the system's, which may have the main window's title.
-    HWND waitForBox(const std::string& title) const { return waitFor(title, seen::Dialog); }
+    // A form, a message box or a dialog of the system's.
+    HWND waitForDialog(const std::string& title) const;
     // Waits for such a dialog, presses the button and waits until it is gone. Gives what it said.
     std::string answer(const std::string& title, WORD button) const;
     // `exists` when the dialog will ask whether to write over the file.
@@ -49,7 +46,6 @@ class Quillon {
 
  private:
     void bringToFront() const;
-    HWND waitFor(const std::string& title, HWND (*find)(DWORD, const std::string&)) const;
     HWND anyOfClass(const std::string& cls, HWND but = nullptr) const;
 
     HANDLE handle_ = nullptr;

@@ -81,6 +81,7 @@ void AddSite(SiteStore& store, const std::string& url) {
 }
 
 void RemoveSite(SiteStore& store, int index) {
+    const std::vector<ftp::Site> before = ftp::ReadSites(store.read());
     const std::string marked = MarkedUrl(store);
     const auto site = ftp::FindSite(store.read(), index);
     const ftp::SiteChanges changes = ftp::RemoveSite(store.read(), index);
@@ -88,8 +89,12 @@ void RemoveSite(SiteStore& store, int index) {
     ApplyInSteps(store, changes, "");
     if (!site) return;
     CheckOrder(store);
-    const std::string now = MarkedUrl(store);
-    Check(now.empty() || now == marked || marked == site->url);
+    // The mark stays with its site, or where that was with the next one; with the last site it goes.
+    const auto next =
+        std::find_if(before.begin(), before.end(), [&](auto& other) { return other.index > index; });
+    if (next == before.end()) return Check(ftp::LastUsedIndex(store.read()) == std::nullopt);
+    const std::string expected = marked == site->url ? next->url : marked;
+    Check(MarkedUrl(store) == (CheckedUrls(store).contains(expected) ? expected : ""));
 }
 
 }  // namespace

@@ -1,23 +1,26 @@
-// A COM object of one interface, for stand-ins.
+// COM objects of this process's own, for stand-ins.
 #pragma once
+
+#include <functional>
+#include <utility>
 
 #include <windows.h>
 
 #include <ole2.h>
 
-// Counts its references and goes with the last one.
+// Has one interface, counts its references and goes with the last one.
 template <typename Interface>
 class ComObject : public Interface {
  public:
     virtual ~ComObject() = default;
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
+    STDMETHOD(QueryInterface)(REFIID id, void** object) override {
         *object = id == IID_IUnknown || id == __uuidof(Interface) ? this : nullptr;
         if (!*object) return E_NOINTERFACE;
         this->AddRef();
         return S_OK;
     }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override {
+    STDMETHOD_(ULONG, AddRef)() override { return ++references_; }
+    STDMETHOD_(ULONG, Release)() override {
         const ULONG left = --references_;
         if (left == 0) delete this;
         return left;
@@ -27,19 +30,22 @@ class ComObject : public Interface {
     ULONG references_ = 1;
 };
 
-// Makes objects of one kind, each as `create` gives it.
-template <typename Create>
-class ComFactory : public ComObject<IClassFactory> {
+// Serves a class for its own life: each object is as `create` gives it.
+class ClassServer : public ComObject<IClassFactory> {
  public:
-    explicit ComFactory(Create create) : create_(create) {}
-    HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown*, REFIID id, void** object) override {
-        auto* made = create_();
+    ClassServer(const CLSID& cls, std::function<IUnknown*()> create) : create_(std::move(create)) {
+        ::CoRegisterClassObject(cls, this, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &cookie_);
+    }
+    ~ClassServer() override { ::CoRevokeClassObject(cookie_); }
+    STDMETHOD(CreateInstance)(IUnknown*, REFIID id, void** object) override {
+        IUnknown* made = create_();
         const HRESULT result = made->QueryInterface(id, object);
         made->Release();
         return result;
     }
-    HRESULT STDMETHODCALLTYPE LockServer(BOOL) override { return S_OK; }
+    STDMETHOD(LockServer)(BOOL) override { return S_OK; }
 
  private:
-    Create create_;
+    std::function<IUnknown*()> create_;
+    DWORD cookie_ = 0;
 };

@@ -1,8 +1,11 @@
 #include "support/files_test.h"
 
 #include <cstdlib>
+#include <fstream>
 
+#include <ole2.h>
 #include <shellapi.h>
+#include <shlwapi.h>
 
 std::string Environment(const char* name) {
     const char* value = std::getenv(name);
@@ -18,13 +21,12 @@ void DeleteTree(const std::string& folder) {
     ::SHFileOperationA(&operation);
 }
 
-void DeleteKeyTree(const std::string& path) {
-    HKEY key = nullptr;
-    if (::RegOpenKeyExA(HKEY_CURRENT_USER, path.c_str(), 0, KEY_ALL_ACCESS, &key) != ERROR_SUCCESS) return;
-    char child[256];
-    while (::RegEnumKeyA(key, 0, child, sizeof child) == ERROR_SUCCESS) DeleteKeyTree(path + "\\" + child);
-    ::RegCloseKey(key);
-    ::RegDeleteKeyA(HKEY_CURRENT_USER, path.c_str());
+FilesTest::FilesTest() {
+    ::OleInitialize(nullptr);
+}
+
+FilesTest::~FilesTest() {
+    ::OleUninitialize();
 }
 
 void FilesTest::SetUp() {
@@ -38,11 +40,8 @@ std::string FilesTest::scratch(const std::string& name) {
 }
 
 void FilesTest::writeFile(const std::string& path, const std::string& bytes) {
-    const HANDLE file = ::CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-    DWORD written = 0;
-    ::WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
-    ::CloseHandle(file);
-    ASSERT_EQ(written, bytes.size()) << path;
+    std::ofstream file(path, std::ios::binary);
+    ASSERT_TRUE(file << bytes << std::flush) << path;
 }
 
 std::string FilesTest::readFile(const std::string& path) {
@@ -56,4 +55,10 @@ std::string FilesTest::readFile(const std::string& path) {
     ::CloseHandle(file);
     bytes.resize(read);
     return bytes;
+}
+
+std::string FilesTest::found(const std::string& pattern) {
+    WIN32_FIND_DATAA found{};
+    ::FindClose(::FindFirstFileA(scratch(pattern).c_str(), &found));
+    return found.cFileName;
 }

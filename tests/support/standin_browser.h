@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "support/class_key.h"
+#include "support/files_test.h"
 #include "support/windows_seen.h"
 
 // For the object's life the program opens .htm files and addresses; with no program nothing opens files. The
@@ -29,27 +30,14 @@ class Browser {
     std::string shown() const {
         const std::string command = folder_ + "\\command.txt";
         std::string line;
-        if (!seen::Until([&] { return !(line = bytes(command)).empty(); })) return "(not started)";
+        seen::Until([&] { return (line = FilesTest::readFile(command)) != "(no file)"; });
         ::DeleteFileA(command.c_str());
-        const std::size_t name = line.find("standin_browser.exe");
-        return line.substr(line.find_first_of(' ', name) + 1);
+        return line.substr(line.find(' ', line.find("standin_browser.exe")) + 1);
     }
     // The page as it stood in the file then.
-    std::string page() const { return bytes(folder_ + "\\page.txt"); }
+    std::string page() const { return FilesTest::readFile(folder_ + "\\page.txt"); }
 
  private:
-    // Empty while there is no file or somebody is at it.
-    static std::string bytes(const std::string& path) {
-        const HANDLE file =
-            ::CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
-        if (file == INVALID_HANDLE_VALUE) return {};
-        std::string text(::GetFileSize(file, nullptr), '\0');
-        DWORD read = 0;
-        ::ReadFile(file, text.data(), static_cast<DWORD>(text.size()), &read, nullptr);
-        ::CloseHandle(file);
-        return text;
-    }
-
     std::string folder_;
     std::vector<std::unique_ptr<ClassKey>> keys_;
 };

@@ -1,7 +1,6 @@
 #include "support/windows_seen.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include <psapi.h>
 #include <winternl.h>
@@ -32,16 +31,11 @@ int GdiObjects(HANDLE process, DWORD id) {
         ULONG_PTR object;
         WORD owner[2];
         WORD unique;
-        BYTE type;
-        BYTE flags;
+        BYTE type, flags;
         ULONG_PTR user;
     };
-    using Query = LONG(WINAPI*)(HANDLE, int, void*, ULONG, ULONG*);
-    const FARPROC found = ::GetProcAddress(::GetModuleHandleA("ntdll.dll"), "NtQueryInformationProcess");
-    Query query = nullptr;
-    std::memcpy(&query, &found, sizeof query);
     PROCESS_BASIC_INFORMATION basic{};
-    query(process, 0, &basic, sizeof basic, nullptr);
+    ::NtQueryInformationProcess(process, ProcessBasicInformation, &basic, sizeof basic, nullptr);
     constexpr std::size_t kTable = sizeof(void*) == 4 ? 0x94 : 0xF8;
     const char* table = nullptr;
     ::ReadProcessMemory(process, reinterpret_cast<const char*>(basic.PebBaseAddress) + kTable, &table,
@@ -81,6 +75,12 @@ std::string TextOf(HWND window) {
 std::string ClassOf(HWND window) {
     char name[256];
     return {name, static_cast<std::size_t>(::GetClassNameA(window, name, sizeof name))};
+}
+
+RECT PlaceOf(HWND window) {
+    RECT place{};
+    ::GetWindowRect(window, &place);
+    return place;
 }
 
 std::vector<HWND> TopLevel(DWORD process) {

@@ -12,6 +12,7 @@ namespace seen {
 // The text of a window of any process. Long texts come whole.
 std::string TextOf(HWND window);
 std::string ClassOf(HWND window);
+RECT PlaceOf(HWND window);  // on the screen
 
 // Visible top-level windows of a process.
 std::vector<HWND> TopLevel(DWORD process);

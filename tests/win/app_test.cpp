@@ -1,12 +1,16 @@
 #include "win/app_test.h"
 
+#include <atomic>
+#include <thread>
 #include <utility>
 
+#include "files/open_file.h"
 #include "settings/app_settings.h"
 #include "shell/frmNotePad.h"
 #include "win/clipboard.h"
 #include "win/message_loop.h"
-#include "win/unique.h"
+
+#include <shlwapi.h>
 
 namespace {
 
@@ -22,54 +26,48 @@ std::vector<HWND> ControlsOfClass(HWND form, const std::string& cls) {
     return controls;
 }
 
-ScratchRegistry::ScratchRegistry() {
-    HKEY key = nullptr;
-    DeleteKeyTree(kScratchKey);
-    ::RegCreateKeyA(HKEY_CURRENT_USER, kScratchKey, &key);
-    const win::UniqueKey scratch(key);
-    ::RegOverridePredefKey(HKEY_CURRENT_USER, key);
+void Notify(HWND control, WORD code) {
+    ::SendMessageA(::GetParent(control), WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(control), code),
+                   reinterpret_cast<LPARAM>(control));
 }
 
-ScratchRegistry::~ScratchRegistry() {
-    ::RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
-    DeleteKeyTree(kScratchKey);
-}
-
-User::User(std::vector<Act> acts)
-    : thread_([this, acts = std::move(acts)] {
-          const DWORD process = ::GetCurrentProcessId();
-          HWND last = nullptr;
-          for (const Act& act : acts) {
-              HWND dialog = nullptr;
-              const bool came = seen::Until([&] {
-                  dialog = seen::Dialog(process, act.title);
-                  return dialog && dialog != last && ::IsWindowEnabled(dialog);
-              });
-              if (!came) {
-                  missing_ = act.title;
-                  heard_.resize(acts.size());  // what was not said is empty
-                  return;
-              }
-              heard_.push_back(seen::LabelsOf(dialog));
-              act.act(dialog);
-              last = dialog;
-          }
-      }) {}
-
-void User::finish() {
-    if (!thread_.joinable()) return;
-    thread_.join();
-    const std::string missing = std::exchange(missing_, {});
-    if (!missing.empty()) ADD_FAILURE() << "No window came with the title \"" << missing << '"';
-}
-
-const std::vector<std::string>& User::heard() {
-    finish();
-    return heard_;
+std::vector<std::string> User::hears(const std::function<void()>& busy, const std::vector<Act>& acts) {
+    std::vector<std::string> heard(acts.size());
+    std::atomic<bool> done = false;
+    const std::jthread user([&] {
+        HWND last = nullptr;
+        for (std::size_t i = 0; i < acts.size(); ++i) {
+            HWND dialog = nullptr;
+            const bool came = seen::Until([&] {
+                dialog = seen::Dialog(::GetCurrentProcessId(), acts[i].title);
+                return dialog && dialog != last && ::IsWindowEnabled(dialog);
+            });
+            if (!came) {
+                ADD_FAILURE() << "No window came with the title \"" << acts[i].title << '"';
+                break;
+            }
+            heard[i] = seen::LabelsOf(dialog);
+            acts[i].act(dialog);
+            last = dialog;
+        }
+        done = true;
+    });
+    busy();
+    // Whoever looks for a dialog asks the windows of this thread for their texts.
+    for (MSG message; !done; ::Sleep(1))
+        ::PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
+    return heard;
 }
 
 User::Act User::press(const std::string& title, WORD button) {
     return {title, [button](HWND dialog) { ::PostMessageA(dialog, WM_COMMAND, button, 0); }};
+}
+
+User::Act User::enter(const std::string& title, const std::string& text, WORD button) {
+    return {title, [=](HWND box) {
+                ::SetWindowTextA(seen::ChildOfClass(box, "Edit"), text.c_str());
+                ::PostMessageA(box, WM_COMMAND, button, 0);
+            }};
 }
 
 User::Act User::chooseFile(const std::string& title, const std::string& path) {
@@ -78,7 +76,11 @@ User::Act User::chooseFile(const std::string& title, const std::string& path) {
 
 void AppTest::SetUp() {
     FilesTest::SetUp();
-    registry_.emplace();
+    HKEY key = nullptr;
+    ::SHDeleteKeyA(HKEY_CURRENT_USER, kScratchKey);
+    ::RegCreateKeyA(HKEY_CURRENT_USER, kScratchKey, &key);
+    ::RegOverridePredefKey(HKEY_CURRENT_USER, key);
+    ::RegCloseKey(key);
     settings::Save("File Count", "Count", "0");
     frmNotePad& window = frmNotePad::open();
     ::ShowWindow(window.hwnd(), SW_SHOW);
@@ -90,7 +92,7 @@ void AppTest::TearDown() {
     closeMain();
     MSG message{};
     while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageA(&message);
-    registry_.reset();
+    ::RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
 }
 
 void AppTest::closeMain() {
@@ -101,8 +103,25 @@ void AppTest::closeMain() {
     ::SendMessageA(std::exchange(main_, nullptr)->mainHwnd(), WM_CLOSE, 0, 0);
 }
 
+frmChild& AppTest::openPage(const std::string& name, const std::string& bytes, const std::string& typed) {
+    writeFile(scratch(name), bytes);
+    frmChild* page = files::OpenFile(main(), scratch(name));
+    EXPECT_TRUE(page);
+    type(typed);
+    return *page;
+}
+
+win::UniqueFile AppTest::hold(const std::string& path, DWORD share) {
+    return win::UniqueFile(
+        ::CreateFileA(path.c_str(), GENERIC_READ, share, nullptr, OPEN_EXISTING, 0, nullptr));
+}
+
 frmChild& AppTest::newPage(const std::string& text) {
     return frmChild::open(main(), "Untitled" + std::to_string(main().nextUntitled()), text);
+}
+
+void AppTest::activate(const frmChild& page) {
+    ::SendMessageA(main().mdiClient(), WM_MDIACTIVATE, reinterpret_cast<WPARAM>(page.hwnd()), 0);
 }
 
 void AppTest::type(const std::string& text) {
@@ -114,6 +133,18 @@ void AppTest::type(const std::string& text) {
 std::string AppTest::selected() {
     const document::Selection selection = active().txtPad().selection();
     return std::to_string(selection.start) + "-" + std::to_string(selection.end);
+}
+
+std::string AppTest::heard(const std::function<void()>& busy, const std::vector<User::Act>& acts) {
+    return User::hears(busy, acts).back();
+}
+
+std::string AppTest::said(const std::function<void()>& act, const std::string& title) {
+    return heard(act, {User::press(title, IDOK)});
+}
+
+std::string AppTest::said(Command command, const std::string& title) {
+    return said([&] { run(command); }, title);
 }
 
 std::string AppTest::clipboard() {

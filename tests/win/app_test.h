@@ -2,30 +2,22 @@
 #pragma once
 
 #include <functional>
-#include <optional>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "document/frmChild.h"
 #include "main_window.h"
 #include "support/files_test.h"
 #include "support/windows_seen.h"
+#include "win/unique.h"
 
 // The controls of a class in a form, in their order.
 std::vector<HWND> ControlsOfClass(HWND form, const std::string& cls);
 
-// Points HKEY_CURRENT_USER at an empty key for the test's life.
-class ScratchRegistry {
- public:
-    ScratchRegistry();
-    ~ScratchRegistry();
-    ScratchRegistry(const ScratchRegistry&) = delete;
-    ScratchRegistry& operator=(const ScratchRegistry&) = delete;
-};
+// Has a control tell its form of what happened to it.
+void Notify(HWND control, WORD code);
 
-// Plays the user before the dialogs that come up while the test's own thread is busy showing them. Each is
-// waited for by its title, in this order; the test fails when one does not come.
+// The user before the dialogs that come up while the test's own thread is busy showing them.
 class User {
  public:
     struct Act {
@@ -33,25 +25,17 @@ class User {
         std::function<void(HWND dialog)> act;
     };
 
-    explicit User(std::vector<Act> acts);
-    ~User() { finish(); }
-    User(const User&) = delete;
-    User& operator=(const User&) = delete;
-
-    // What the dialogs said, once all have come.
-    const std::vector<std::string>& heard();
-
     static Act press(const std::string& title, WORD button);
+    // Types into the box that asks for a text.
+    static Act enter(const std::string& title, const std::string& text, WORD button = IDOK);
     static Act chooseFile(const std::string& title, const std::string& path);
 
- private:
-    void finish();
-
-    std::vector<std::string> heard_;
-    std::string missing_;
-    std::thread thread_;
+    // What the dialogs say that `busy` brings up. Each is waited for by its title, in this order; the test
+    // fails when one does not come.
+    static std::vector<std::string> hears(const std::function<void()>& busy, const std::vector<Act>& acts);
 };
 
+// Over an empty HKEY_CURRENT_USER.
 class AppTest : public FilesTest {
  protected:
     void SetUp() override;
@@ -60,9 +44,14 @@ class AppTest : public FilesTest {
     MainWindow& main() { return *main_; }
     // Throws away what has not been saved; there is no main window afterwards.
     void closeMain();
+    // A page on a file of these bytes, with words typed in front.
+    frmChild& openPage(const std::string& name, const std::string& bytes, const std::string& typed = "");
+    // Keeps others from what they may not share.
+    static win::UniqueFile hold(const std::string& path, DWORD share);
     // A new page with this text instead of the outline, unchanged.
     frmChild& newPage(const std::string& text);
     frmChild& active() { return *main().activeDocument(); }
+    void activate(const frmChild& page);
     std::string pageText() { return active().txtPad().text(); }
     // Runs a command through the main window's own WM_COMMAND.
     void run(Command command) { ::SendMessageA(main().mainHwnd(), WM_COMMAND, command, 0); }
@@ -73,10 +62,14 @@ class AppTest : public FilesTest {
     std::string selected();
     bool pageHasFocus() { return ::GetFocus() == active().txtPad().hwnd(); }
     std::string clipboard();
+    // What the last of the dialogs says.
+    static std::string heard(const std::function<void()>& busy, const std::vector<User::Act>& acts);
+    // What the message box says that the act or the command brings up, until its OK is pressed.
+    static std::string said(const std::function<void()>& act, const std::string& title = "Quillon");
+    std::string said(Command command, const std::string& title = "Quillon");
     static HWND window(const std::string& title) { return seen::Titled(::GetCurrentProcessId(), title); }
     HWND label(const std::string& text) { return seen::Child(main().mainHwnd(), text, "Static"); }
 
  private:
-    std::optional<ScratchRegistry> registry_;
     MainWindow* main_ = nullptr;
 };

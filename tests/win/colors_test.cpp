@@ -38,23 +38,21 @@ TEST_F(ColorsTest, TheChartHasEveryColorAtItsPlaceAndStandsAtTheTopRight) {
     ASSERT_TRUE(form);
     for (int i = 0; i < authoring::kSwatchCount; ++i) {
         const HWND swatch = box(authoring::TextOfSwatch(i));
-        RECT at{};
-        ::GetWindowRect(swatch, &at);
+        RECT at = seen::PlaceOf(swatch);
         ::MapWindowPoints(nullptr, form, reinterpret_cast<POINT*>(&at), 2);
-        EXPECT_EQ(at.left, win::PixelsFromTwips(315 * (i % 12))) << i;
-        EXPECT_EQ(at.top, win::PixelsFromTwips(15 + 300 * (i / 12))) << i;
+        const authoring::SwatchPlace place = authoring::PlaceOfSwatch(i);
+        EXPECT_EQ(at.left, win::PixelsFromTwips(place.left)) << i;
+        EXPECT_EQ(at.top, win::PixelsFromTwips(place.top)) << i;
         const authoring::SwatchColor color = authoring::ColorOfSwatch(i);
         EXPECT_EQ(colorAt(swatch, 6, 6), RGB(color.red, color.green, color.blue)) << i;
     }
-    RECT chartAt{};
-    ::GetWindowRect(form, &chartAt);
+    const RECT chartAt = seen::PlaceOf(form);
     EXPECT_EQ(chartAt.top, win::PixelsFromTwips(120));
     EXPECT_EQ(chartAt.right, ::GetSystemMetrics(SM_CXSCREEN) - win::PixelsFromTwips(120));
     EXPECT_TRUE(::GetWindowLongA(form, GWL_EXSTYLE) & WS_EX_TOPMOST);
     ::SetWindowPos(form, nullptr, 5, 300, 0, 0, SWP_NOSIZE);
     EXPECT_EQ(open(), form) << "there is one chart only";
-    RECT again{};
-    ::GetWindowRect(form, &again);
+    const RECT again = seen::PlaceOf(form);
     EXPECT_TRUE(::EqualRect(&again, &chartAt));
     closeMain();
     EXPECT_FALSE(chart());

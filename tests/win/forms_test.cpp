@@ -48,10 +48,7 @@ std::string NamesByTab(HWND dialog) {
     std::string names;
     for (int presses = 0; presses < 400; ++presses) {
         names += "[" + NameOf(::GetFocus()) + "]";
-        MSG tab{};
-        tab.hwnd = ::GetFocus();
-        tab.message = WM_KEYDOWN;
-        tab.wParam = VK_TAB;
+        MSG tab{::GetFocus(), WM_KEYDOWN, VK_TAB, 0, 0, {}};
         ::IsDialogMessageA(dialog, &tab);
         if (::GetFocus() == first) return names;
     }
@@ -77,8 +74,7 @@ void ExpectNothingCutOff(HWND dialog) {
     ::GetClientRect(dialog, &inside);
     for (const HWND control : seen::Below(dialog)) {
         if (!::IsWindowVisible(control) || ::GetParent(control) != dialog) continue;
-        RECT place{};
-        ::GetWindowRect(control, &place);
+        RECT place = seen::PlaceOf(control);
         ::MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&place), 2);
         RECT shown{};
         ::IntersectRect(&shown, &place, &inside);
@@ -141,9 +137,8 @@ TEST_F(FormsTest, AfterAChangeOfResolutionAllWindowsAreOnTheScreen) {
     }
     ::SendMessageA(main().mainHwnd(), WM_DISPLAYCHANGE, 32, MAKELPARAM(area.right, area.bottom));
     for (const HWND form : {main().mainHwnd(), window("Quillon Help")}) {
-        RECT place{};
+        const RECT place = seen::PlaceOf(form);
         RECT shown{};
-        ::GetWindowRect(form, &place);
         ::IntersectRect(&shown, &place, &area);
         EXPECT_TRUE(::EqualRect(&shown, &place)) << seen::TextOf(form);
     }

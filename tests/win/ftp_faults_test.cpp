@@ -6,7 +6,6 @@
 #include "ftp/download.h"
 #include "ftp/frmUpload.h"
 #include "ftp/site_store.h"
-#include "win/drop_target.h"
 #include "win/error.h"
 #include "win/failing_calls.h"
 #include "win/ftp_test.h"
@@ -18,9 +17,9 @@ class FtpFaultsTest : public FtpTest {
  protected:
     // Gives what was said when the window has opened with this behaviour and the line's command has run.
     std::string sayWith(const char* behaviour, const std::string& line, int item,
-                        std::vector<User::Act> acts) {
+                        const std::vector<User::Act>& acts) {
         openScripted(behaviour);
-        return say(line, item, std::move(acts));
+        return say(line, item, acts);
     }
     static bool wasTold(const std::string& command) {
         return seen::Until([&] { return told().find(command) != std::string::npos; });
@@ -47,7 +46,7 @@ TEST_F(FtpFaultsTest, EveryRefusedCommandIsToldAndTheSessionGoesOn) {
                   .substr(0, 21),
               "Could not delete file");
     EXPECT_EQ(sayWith("refuse-RNTO", "good.htm", mnuRClist + 3,
-                      {enter("FILENAME CHANGE", "x"), User::press("NET GLITCH", IDOK)}),
+                      {User::enter("FILENAME CHANGE", "x"), User::press("NET GLITCH", IDOK)}),
               "Unable to rename file...");
     EXPECT_EQ(sayWith("refuse-RETR", "good.htm", mnuRClist + 2,
                       {saveAs("x.htm"), User::press("DOWNLOAD FAILURE", IDOK)}),
@@ -66,9 +65,7 @@ TEST_F(FtpFaultsTest, ATransferThatBreaksOffIsNoSuccessAndLeavesTheOldFile) {
                   "Unable to download large.bin.");
         EXPECT_EQ(readFile(scratch("kept.bin")), "good") << behaviour;
     }
-    WIN32_FIND_DATAA found{};
-    const HANDLE find = ::FindFirstFileA(scratch("qui*").c_str(), &found);
-    EXPECT_EQ(find, INVALID_HANDLE_VALUE) << found.cFileName << " was left";
+    EXPECT_EQ(found("qui*"), "");
     savePage("page.htm", std::string(500000, 'x'));
     for (const char* behaviour : {"refuse-STOR", "cut-STOR", "break-STOR"}) {
         openScripted(behaviour);
@@ -89,22 +86,19 @@ TEST_F(FtpFaultsTest, ADownloadThatCannotBePutInItsPlaceLeavesTheOldFile) {
     const std::string remote = readFile(path);
     const auto check = [&](const Fault& fault) {
         EXPECT_EQ(readFile(path), done ? remote : "old") << fault.what;
-        WIN32_FIND_DATAA found{};
-        const HANDLE left = ::FindFirstFileA(scratch("qui*").c_str(), &found);
-        ::FindClose(left);
-        EXPECT_TRUE(left == INVALID_HANDLE_VALUE || fault.what.find("all after") != std::string::npos)
-            << fault.what;
-        ::DeleteFileA(scratch(found.cFileName).c_str());
+        const std::string left = found("qui*");
+        EXPECT_TRUE(left.empty() || fault.what.find("all after") != std::string::npos) << fault.what;
+        ::DeleteFileA(scratch(left).c_str());
     };
     EXPECT_GE(FailEachCall({[&] { writeFile(path, "old"); }, download, check}), 8);
 }
 
 TEST_F(FtpFaultsTest, LoginsThatFailOpenNoWindow) {
     for (const char* behaviour : {"refuse-USER", "refuse-PASS", "drop-USER", "drop-PASS"}) {
-        User user({User::press("NOT CONNECTED", IDOK)});
-        openScripted(behaviour);
-        EXPECT_EQ(user.heard().front(), "Cannot connect to FTP site...") << behaviour;
+        EXPECT_EQ(said([&] { openScripted(behaviour); }, "NOT CONNECTED"), "Cannot connect to FTP site...")
+            << behaviour;
         EXPECT_EQ(ftpWindow(), nullptr);
+        EXPECT_EQ(ftp::LastUsedIndex(ftp::ReadSections()), std::nullopt);
     }
 }
 
@@ -126,19 +120,12 @@ TEST_F(FtpFaultsTest, OddNamesStayInsideTheChosenFolder) {
     EXPECT_EQ(lines(),
               "..\\up.htm,/etc/passwd,C:\\boot.ini,CON,a\x01"
               "b\x7F.htm,%TEMP%.htm,caf\xE9.htm,last.htm");
-    using Proposal = std::pair<const char*, const char*>;
-    for (const auto& [line, name] : {Proposal{"..\\up.htm", "up.htm"}, Proposal{"/etc/passwd", "passwd"},
-                                     Proposal{"C:\\boot.ini", "boot.ini"}, Proposal{"CON", "_CON"}}) {
-        std::string proposed;
-        {
-            const User user({{"Save File As...", [&](HWND dialog) {
-                                  proposed = seen::TextOf(seen::FileNameBox(dialog));
-                                  ::PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
-                              }}});
-            choose(line, mnuRClist + 2);
-        }
-        EXPECT_EQ(proposed.substr(0, proposed.find_last_not_of(' ') + 1), name) << line;
-    }
+    const auto look = [&](HWND dialog) {
+        const std::string proposed = seen::TextOf(seen::FileNameBox(dialog));
+        EXPECT_EQ(proposed.substr(0, proposed.find_last_not_of(' ') + 1), "up.htm");
+        ::PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+    };
+    say("..\\up.htm", mnuRClist + 2, {{"Save File As...", look}});
 }
 
 TEST_F(FtpFaultsTest, WhileASilentServerIsWaitedForTheWindowsAnswerAndCanBeClosed) {
@@ -147,31 +134,30 @@ TEST_F(FtpFaultsTest, WhileASilentServerIsWaitedForTheWindowsAnswerAndCanBeClose
         {"silent-PASS", "PASS"}, {"silent-LIST", "LIST"}, {"list-endless", "LIST"}, {"silent-CWD", "CWD"}};
     for (const auto& [behaviour, command] : behaviours) {
         ::DeleteFileA(std::getenv("QUILLON_FTP_LOG"));
-        User user({closeDuring(command, "Quillon FTP", closing), User::press("NOT CONNECTED", IDOK)});
-        openScripted(behaviour);
-        EXPECT_EQ(user.heard().back(), "Cannot connect to FTP site...") << behaviour;
+        EXPECT_EQ(heard([&] { openScripted(behaviour); },
+                        {closeDuring(command, "Quillon FTP", closing), User::press("NOT CONNECTED", IDOK)}),
+                  "Cannot connect to FTP site...")
+            << behaviour;
         EXPECT_EQ(ftpWindow(), nullptr) << behaviour;
     }
     savePage("page.htm", "");
     openScripted("silent-STOR");
-    {
-        User user({{kFtpTitle, [&](HWND form) {
-                        EXPECT_TRUE(wasTold("STOR"));
-                        EXPECT_EQ(textOf(txtCurDir), "Uploading.....");
-                        EXPECT_FALSE(::IsWindowEnabled(control(cmdUp)));
-                        type("going on");
-                        EXPECT_TRUE(answers(form));
-                        ::PostMessageA(form, WM_CLOSE, 0, 0);
-                    }}});
-        click(cmdUp);
-    }
+    const auto goOn = [&](HWND form) {
+        EXPECT_TRUE(wasTold("STOR"));
+        EXPECT_EQ(textOf(txtCurDir), "Uploading.....");
+        EXPECT_FALSE(::IsWindowEnabled(control(cmdUp)));
+        type("going on");
+        EXPECT_TRUE(answers(form));
+        ::PostMessageA(form, WM_CLOSE, 0, 0);
+    };
+    heard([&] { click(cmdUp); }, {{kFtpTitle, goOn}});
     EXPECT_EQ(ftpWindow(), nullptr);
     EXPECT_EQ(pageText(), "going on");
     active().txtPad().setChanged(false);
     openScripted("silent-DELE");
     closing = main().mainHwnd();
-    User user({User::press("DELETION CONFIRMATION", IDYES), closeDuring("DELE", kFtpTitle, closing)});
-    choose("good.htm", mnuRClist + 5);
+    say("good.htm", mnuRClist + 5,
+        {User::press("DELETION CONFIRMATION", IDYES), closeDuring("DELE", kFtpTitle, closing)});
     EXPECT_FALSE(::IsWindow(closing)) << "the main window is not held up either";
     EXPECT_EQ(ftpWindow(), nullptr);
     EXPECT_FALSE(win::RunPending()) << "nor the end of the program";
@@ -184,67 +170,51 @@ TEST_F(FtpFaultsTest, APasswordArrivesByteForByte) {
     EXPECT_NE(told().find("PASS " + password + "\n"), std::string::npos) << told();
 }
 
-// What no server on loopback can bring about: a machine that is not on any network.
-class Unplugged : public ftp::FtpSession {
+// What no server on loopback can bring about: a machine that is not on any network, or one on which every
+// change ends in an error that no server's answer explains.
+template <bool kOnline>
+class Odd : public ftp::FtpSession {
  public:
-    bool dial() override { return false; }
-    bool open() override { return false; }
-    bool connect(const std::string&, const std::string&, const std::string&) override { return false; }
-    bool isConnected() const override { return false; }
+    static std::unique_ptr<ftp::FtpSession> make() { return std::make_unique<Odd>(); }
+
+    bool dial() override { return kOnline; }
+    bool open() override { return kOnline; }
+    bool connect(const std::string&, const std::string&, const std::string&) override { return kOnline; }
+    bool isConnected() const override { return kOnline; }
     void close() override {}
     void giveUp(DWORD) override {}
     bool answered() const override { return true; }
     std::optional<std::string> currentDirectory() override { return {}; }
-    std::optional<ftp::RemoteEntry> findFirst(const std::string&) override { return {}; }
+    std::optional<ftp::RemoteEntry> findFirst(const std::string&) override {
+        return ftp::RemoteEntry{"old", FILE_ATTRIBUTE_DIRECTORY, 0};
+    }
     std::optional<ftp::RemoteEntry> findNext() override { return {}; }
     void endFind() override {}
     bool tell(ftp::RemoteCommand, const std::string&, const std::string&, ftp::TransferType) override {
-        return false;
+        throw win::Failure("out of order");
     }
 };
 
 TEST_F(FtpFaultsTest, WithoutADialUpLinkTheAttemptGoesOnAndWithoutNetworkingItEnds) {
     addSite("127.0.0.1", "plain", "pw");
-    User user({User::press("NOT CONNECTED", IDOK), User::press("NOT CONNECTED", IDOK)});
-    frmUpload::open(main(), 0,
-                    []() -> std::unique_ptr<ftp::FtpSession> { return std::make_unique<Unplugged>(); });
-    EXPECT_EQ(user.heard(),
+    const User::Act understand = User::press("NOT CONNECTED", IDOK);
+    EXPECT_EQ(User::hears([&] { frmUpload::open(main(), 0, Odd<false>::make); }, {understand, understand}),
               (std::vector<std::string>{"Could not connect to the internet through AutoDial.\r\n"
                                         "Connect to Internet before attempting to use FTP.",
                                         "Cannot obtain internet handle..."}));
     EXPECT_EQ(ftpWindow(), nullptr);
 }
 
-// A session in which every change ends in an error that no server's answer explains.
-class Failing : public Unplugged {
- public:
-    bool dial() override { return true; }
-    bool open() override { return true; }
-    bool connect(const std::string&, const std::string&, const std::string&) override { return true; }
-    bool isConnected() const override { return true; }
-    std::optional<ftp::RemoteEntry> findFirst(const std::string&) override {
-        return ftp::RemoteEntry{"old", FILE_ATTRIBUTE_DIRECTORY, 0};
-    }
-    bool tell(ftp::RemoteCommand, const std::string&, const std::string&, ftp::TransferType) override {
-        throw win::Failure("out of order");
-    }
-};
-
 TEST_F(FtpFaultsTest, AnErrorThatNoServerExplainsIsToldInTheWordsOfItsCommand) {
     addSite("127.0.0.1", "plain", "pw");
-    frmUpload::open(main(), 0,
-                    []() -> std::unique_ptr<ftp::FtpSession> { return std::make_unique<Failing>(); });
+    frmUpload::open(main(), 0, Odd<true>::make);
     EXPECT_EQ(say("old/", mnuDirDelete,
                   {User::press("DELETION CONFIRMATION", IDYES), User::press("DELETE DIFFICULTY", IDOK)}),
               "There was a problem deleting old/.");
     // A given-up upload may hold the file of another test for a while.
     savePage("other.htm", "page");
     EXPECT_EQ(saidToClick(cmdUp, "ERROR"), "Error uploading");
-    User user({User::press("Quillon", IDOK)});
-    std::vector<std::string> files{scratch("other.htm")};
-    ::SendMessageA(control(lstRemoteFiles), win::kDropped, 0, reinterpret_cast<LPARAM>(&files));
-    win::RunPending();
-    EXPECT_EQ(user.heard()[0], "Could not upload files.");
+    EXPECT_EQ(saidToDrop({scratch("other.htm")}, "Quillon"), "Could not upload files.");
     EXPECT_EQ(textOf(txtCurDir), "/");
 }
 

@@ -16,9 +16,7 @@ class FtpSitesTest : public AppTest {
     void fill(int box, const char* text) { ::SetDlgItemTextA(dialog(), box, text); }
     void enter() { ::SendMessageA(::GetDlgItem(dialog(), cmdSetVal), BM_CLICK, 0, 0); }
     std::string complaint(const std::string& title) {
-        User user({User::press(title, IDOK)});
-        enter();
-        return user.heard().front();
+        return said([&] { enter(); }, title);
     }
 };
 
@@ -54,9 +52,8 @@ TEST_F(FtpSitesTest, TheUrlIsLookedAtWhenTheFocusLeavesTheDialog) {
         return seen::TextOf(::GetDlgItem(form, txtURL));
     };
     EXPECT_EQ(leave("ftp://ftp.sandholm.example/www"), "ftp.sandholm.example/www");
-    User user({User::press("FTP URL NEEDED", IDOK)});
-    EXPECT_EQ(leave("sandholm"), "");
-    EXPECT_EQ(user.heard().front(), "You must enter a valid FTP URL, for example: \r\nftp.example.com");
+    EXPECT_EQ(said([&] { EXPECT_EQ(leave("sandholm"), ""); }, "FTP URL NEEDED"),
+              "You must enter a valid FTP URL, for example: \r\nftp.example.com");
     EXPECT_EQ(::GetFocus(), ::GetDlgItem(form, txtURL));
 }
 
@@ -64,20 +61,14 @@ TEST_F(FtpSitesTest, ASiteIsDeletedWithItsPasswordOnly) {
     const ftp::Site site{0, "ftp.sandholm.example", "keeper", ftp::ScramblePassword("lamp")};
     ftp::Apply(ftp::AddSite(ftp::ReadSections(), site).changes);
     const auto clickDelete = [](HWND form) { ::PostMessageA(::GetDlgItem(form, cmdDelete), BM_CLICK, 0, 0); };
-    const auto password = [](const char* text) {
-        return [text](HWND box) {
-            ::SetWindowTextA(seen::ChildOfClass(box, "Edit"), text);
-            ::PostMessageA(box, WM_COMMAND, IDOK, 0);
-        };
-    };
-    User user({{"FTP Site", clickDelete},
-               {"Quillon", password("Lamp")},
-               User::press("INCORRECT PASSWORD", IDOK),
-               {"FTP Site", clickDelete},
-               {"Quillon", password("lamp")}});
-    frmToUp::ask(main(), site.url, 0);
-    EXPECT_EQ(user.heard()[1], "Enter Site Password To Delete ftp.sandholm.example");
-    EXPECT_EQ(user.heard()[2], "Check password and try again.");
+    const auto heard =
+        User::hears([&] { frmToUp::ask(main(), site.url, 0); }, {{"FTP Site", clickDelete},
+                                                                 User::enter("Quillon", "Lamp"),
+                                                                 User::press("INCORRECT PASSWORD", IDOK),
+                                                                 {"FTP Site", clickDelete},
+                                                                 User::enter("Quillon", "lamp")});
+    EXPECT_EQ(heard[1], "Enter Site Password To Delete ftp.sandholm.example");
+    EXPECT_EQ(heard[2], "Check password and try again.");
     EXPECT_FALSE(ftp::FindSite(ftp::ReadSections(), 0));
 }
 

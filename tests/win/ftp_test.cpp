@@ -6,6 +6,7 @@
 #include "ftp/core/scramble.h"
 #include "ftp/frmUpload.h"
 #include "ftp/site_store.h"
+#include "win/drop_target.h"
 #include "win/message_loop.h"
 
 namespace {
@@ -13,6 +14,7 @@ namespace {
 std::unique_ptr<ftp::FtpSession> SessionOn(const char* variable) {
     return ftp::MakeSession(static_cast<unsigned short>(std::atoi(Environment(variable).c_str())));
 }
+
 }  // namespace
 
 std::unique_ptr<ftp::FtpSession> HonestSession() {
@@ -66,23 +68,23 @@ HWND FtpTest::openScripted(const std::string& behaviour) {
 }
 
 std::string FtpTest::saidToClick(int id, const std::string& title) {
-    User user({User::press(title, IDOK)});
-    click(id);
-    return user.heard().front();
+    return said([&] { click(id); }, title);
 }
 
-std::string FtpTest::say(const std::string& line, int item, std::vector<User::Act> acts) {
-    User user(std::move(acts));
-    choose(line, item);
-    return user.heard().back();
+std::string FtpTest::saidToDrop(std::vector<std::string> files, const std::string& title) {
+    const auto drop = [&] {
+        ::SendMessageA(control(lstRemoteFiles), win::kDropped, 0, reinterpret_cast<LPARAM>(&files));
+        win::RunPending();
+    };
+    return said(drop, title);
 }
 
-User::Act FtpTest::enter(const std::string& title, const std::string& text) {
-    return {title, [text](HWND box) {
-                ::SendMessageA(seen::ChildOfClass(box, "Edit"), WM_SETTEXT, 0,
-                               reinterpret_cast<LPARAM>(text.c_str()));
-                ::PostMessageA(box, WM_COMMAND, IDOK, 0);
-            }};
+std::string FtpTest::say(const std::string& line, int item, const std::vector<User::Act>& acts) {
+    const auto choose = [&] {
+        ASSERT_TRUE(select(line)) << line << " in " << lines();
+        ::SendMessageA(ftpWindow(), WM_COMMAND, static_cast<WPARAM>(item), 0);
+    };
+    return heard(choose, acts);
 }
 
 void FtpTest::savePage(const std::string& name, const std::string& text) {
@@ -123,11 +125,5 @@ bool FtpTest::select(const std::string& line) {
 
 void FtpTest::doubleClick(const std::string& line) {
     ASSERT_TRUE(select(line)) << line << " in " << lines();
-    ::SendMessageA(ftpWindow(), WM_COMMAND, MAKEWPARAM(lstRemoteFiles, LBN_DBLCLK),
-                   reinterpret_cast<LPARAM>(control(lstRemoteFiles)));
-}
-
-void FtpTest::choose(const std::string& line, int item) {
-    ASSERT_TRUE(select(line)) << line << " in " << lines();
-    ::SendMessageA(ftpWindow(), WM_COMMAND, static_cast<WPARAM>(item), 0);
+    Notify(control(lstRemoteFiles), LBN_DBLCLK);
 }

@@ -37,15 +37,13 @@ class FtpTest : public AppTest {
     static void click(int id) { ::SendMessageA(control(id), BM_CLICK, 0, 0); }
     // Clicks, and gives what the message box with this title then says.
     static std::string saidToClick(int id, const std::string& title);
+    // The same for files that are dropped on the list.
+    static std::string saidToDrop(std::vector<std::string> files, const std::string& title);
     // Chooses a command of the list's menus for a line, and gives what the last dialog then says.
-    static std::string say(const std::string& line, int item, std::vector<User::Act> acts);
-    // Types into the input box with this title and presses OK.
-    static User::Act enter(const std::string& title, const std::string& text);
+    static std::string say(const std::string& line, int item, const std::vector<User::Act>& acts);
     // A page in front that is saved under this name.
     void savePage(const std::string& name, const std::string& text);
     static std::string lines();  // of the list, separated by commas
     static bool select(const std::string& line);
     static void doubleClick(const std::string& line);
-    // Chooses a command of the list's menus for a line.
-    static void choose(const std::string& line, int item);
 };

@@ -1,9 +1,7 @@
 #include "forms/frmUpload.h"
 #include "ftp/frmUpload.h"
 #include "ftp/site_store.h"
-#include "win/drop_target.h"
 #include "win/ftp_test.h"
-#include "win/message_loop.h"
 
 namespace {
 
@@ -16,12 +14,8 @@ TEST_F(FtpWindowTest, OpensOnTheStoredSiteBesideTheMainWindow) {
     EXPECT_EQ(ftp::LastUsedIndex(ftp::ReadSections()), 0);
     EXPECT_TRUE(main().menu().isChecked(mnuUploadSites));
     EXPECT_TRUE(::GetWindowLongPtrA(ftpWindow(), GWL_EXSTYLE) & WS_EX_TOPMOST);
-    RECT own{};
-    RECT mainArea{};
-    ::GetWindowRect(ftpWindow(), &own);
-    ::GetWindowRect(main().mainHwnd(), &mainArea);
-    EXPECT_NEAR(own.right, mainArea.right, 1);
-    EXPECT_NEAR(own.top, mainArea.top, 1);
+    EXPECT_NEAR(seen::PlaceOf(ftpWindow()).right, seen::PlaceOf(main().mainHwnd()).right, 1);
+    EXPECT_NEAR(seen::PlaceOf(ftpWindow()).top, seen::PlaceOf(main().mainHwnd()).top, 1);
     EXPECT_FALSE(::IsWindowEnabled(control(cmdUpDir)));
     EXPECT_FALSE(::IsWindowEnabled(control(cmdPassword)));
 }
@@ -47,9 +41,7 @@ TEST_F(FtpWindowTest, ListsWhatCannotBeEnteredAndFollowsLinks) {
     const std::string all = "," + lines() + ",";
     EXPECT_NE(all.find(",closed/,"), std::string::npos) << all;
     EXPECT_NE(all.find(",link/,"), std::string::npos) << "a link to a directory is found by the probe";
-    User user({User::press("Quillon Note:", IDOK)});
-    doubleClick("closed/");
-    EXPECT_EQ(user.heard().front(), "Cannot access Directory!");
+    EXPECT_EQ(said([&] { doubleClick("closed/"); }, "Quillon Note:"), "Cannot access Directory!");
     click(cmdShut);
     EXPECT_EQ(textOf(txtCurDir), "NO SITE ACTIVE");
     EXPECT_EQ(lines(), "");
@@ -60,15 +52,13 @@ TEST_F(FtpWindowTest, MakesRenamesAndDeletes) {
     ASSERT_TRUE(openHonest({"a.htm", "full/", "full/x"}));
     const User::Act yes = User::press("DELETION CONFIRMATION", IDYES);
     const auto make = [&](const std::string& name, const std::string& title) {
-        User user({enter("NEW FOLDER", name), User::press(title, IDOK)});
-        click(cmdMakeDir);
-        return user.heard().back();
+        return heard([&] { click(cmdMakeDir); }, {User::enter("NEW FOLDER", name), User::press(title, IDOK)});
     };
     EXPECT_EQ(make("new", "CONFIRMATION"), "New Directory [ new ] successfully created.");
     EXPECT_EQ(make("full", "DIRECTORY NOT MADE"), "Could not create the Directory.");
-    EXPECT_EQ(
-        say("a.htm", mnuRClist + 3, {enter("FILENAME CHANGE", "c.htm"), User::press("CONFIRMATION", IDOK)}),
-        "File has been Renamed");
+    EXPECT_EQ(say("a.htm", mnuRClist + 3,
+                  {User::enter("FILENAME CHANGE", "c.htm"), User::press("CONFIRMATION", IDOK)}),
+              "File has been Renamed");
     EXPECT_EQ(readFile(onServer("c.htm")), "The file a.htm");
     EXPECT_EQ(say("c.htm", mnuRClist, {User::press("SIZE of c.htm is:", IDOK)}), "Approximately 14 Bytes");
     EXPECT_EQ(say("c.htm", mnuRClist + 5, {User::press("DELETION CONFIRMATION", IDNO)}),
@@ -104,19 +94,14 @@ TEST_F(FtpWindowTest, UploadsWhatIsDroppedOnTheList) {
     const std::string bytes = "GIF89a\r\n\n\r";
     writeFile(scratch("Lamp.GIF"), bytes);
     writeFile(scratch("page.htm"), "<P>\r\n");
-    const auto drop = [&](std::vector<std::string> files, const std::string& title) {
-        User user({User::press(title, IDOK)});
-        ::SendMessageA(control(lstRemoteFiles), win::kDropped, 0, reinterpret_cast<LPARAM>(&files));
-        win::RunPending();
-        return user.heard().front();
-    };
-    EXPECT_EQ(drop({scratch("Lamp.GIF"), scratch("page.htm")}, "Quillon"), "Uploading Completed.");
+    EXPECT_EQ(saidToDrop({scratch("Lamp.GIF"), scratch("page.htm")}, "Quillon"), "Uploading Completed.");
     EXPECT_EQ(lines(), "Lamp.GIF,page.htm");
     EXPECT_EQ(readFile(onServer("Lamp.GIF")), bytes);
     EXPECT_EQ(readFile(onServer("page.htm")), "<P>\n") << "as text, so the server has put its own line ends";
-    EXPECT_EQ(drop({scratch("page.htm")}, "Quillon"), "Upload of page.htm Complete");
-    EXPECT_EQ(drop({scratch("gone.htm")}, "UPLOAD DIFFICULTY"), "There was a problem uploading gone.htm.");
-    EXPECT_EQ(drop({}, "Quillon Note:"), "Unknown Object");
+    EXPECT_EQ(saidToDrop({scratch("page.htm")}, "Quillon"), "Upload of page.htm Complete");
+    EXPECT_EQ(saidToDrop({scratch("gone.htm")}, "UPLOAD DIFFICULTY"),
+              "There was a problem uploading gone.htm.");
+    EXPECT_EQ(saidToDrop({}, "Quillon Note:"), "Unknown Object");
 }
 
 TEST_F(FtpWindowTest, WhatHasGoneFromTheServerMeanwhileIsTold) {
@@ -134,14 +119,12 @@ TEST_F(FtpWindowTest, WhatHasGoneFromTheServerMeanwhileIsTold) {
 
 TEST_F(FtpWindowTest, AsksForAPasswordThatIsNotStored) {
     addSite("127.0.0.1", "user", "");
-    User user({User::press("NO PASSWORD GIVEN", IDOK)});
     reopen();
     EXPECT_EQ(textOf(txtCurDir), "NOT CONNECTED");
     EXPECT_EQ(textOf(txtPassword), "ENTER PASSWORD HERE");
     EXPECT_EQ(::SendMessageA(control(txtPassword), EM_GETPASSWORDCHAR, 0, 0), 0);
-    click(cmdPassword);
-    EXPECT_EQ(user.heard().front(), "Must enter PASSWORD to use FTP.");
-    ::SendMessageA(control(txtPassword), WM_SETTEXT, 0, reinterpret_cast<LPARAM>("secret"));
+    EXPECT_EQ(saidToClick(cmdPassword, "NO PASSWORD GIVEN"), "Must enter PASSWORD to use FTP.");
+    ::SetWindowTextA(control(txtPassword), "secret");
     EXPECT_NE(::SendMessageA(control(txtPassword), EM_GETPASSWORDCHAR, 0, 0), 0);
     click(cmdPassword);
     EXPECT_EQ(textOf(txtCurDir), "/");
@@ -149,19 +132,10 @@ TEST_F(FtpWindowTest, AsksForAPasswordThatIsNotStored) {
     EXPECT_EQ(ftp::LastUsedIndex(ftp::ReadSections()), 0);
 }
 
-TEST_F(FtpWindowTest, AWrongPasswordOrAnEmptyListOpensNothing) {
-    {
-        User user({User::press("NO SITES LISTED", IDOK)});
-        reopen();
-        EXPECT_EQ(user.heard().front(), "Must enter NEW FTP info before you can upload files.");
-    }
+TEST_F(FtpWindowTest, AnEmptyListOpensNothing) {
+    EXPECT_EQ(said([&] { reopen(); }, "NO SITES LISTED"),
+              "Must enter NEW FTP info before you can upload files.");
     EXPECT_EQ(ftpWindow(), nullptr);
-    addSite("127.0.0.1", "user", "wrong");
-    User user({User::press("NOT CONNECTED", IDOK)});
-    reopen();
-    EXPECT_EQ(user.heard().front(), "Cannot connect to FTP site...");
-    EXPECT_EQ(ftpWindow(), nullptr);
-    EXPECT_EQ(ftp::LastUsedIndex(ftp::ReadSections()), std::nullopt);
 }
 
 TEST_F(FtpWindowTest, ThereIsOneWindowForAllSites) {

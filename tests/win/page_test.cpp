@@ -1,5 +1,6 @@
 #include <random>
 
+#include "document/core/page_outline.h"
 #include "document/mTxtBoxAPI.h"
 #include "files/page_writer.h"
 #include "win/app_test.h"
@@ -8,18 +9,7 @@
 
 namespace {
 
-class PageTest : public AppTest {
- protected:
-    void pressControl(WPARAM key) {
-        for (const BYTE held : {BYTE{0x80}, BYTE{0}}) {
-            BYTE keys[256];
-            ::GetKeyboardState(keys);
-            keys[VK_CONTROL] = held;
-            ::SetKeyboardState(keys);
-            if (held) pressKey(key);
-        }
-    }
-};
+using PageTest = AppTest;
 
 std::string RandomPage(unsigned seed, std::size_t length) {
     constexpr char kAlphabet[] = "ab \t\r\n\r\n\r\n<>\xE9\x80\xFF\x81";
@@ -66,9 +56,7 @@ TEST_F(PageTest, WhatIsWrittenAreTheControlsLinesWhateverTheBreaksAndTheWrap) {
 TEST_F(PageTest, NewPagesAreNumberedAndHoldTheOutline) {
     run(mnuFileNew);
     EXPECT_EQ(active().Caption(), "Untitled1");
-    EXPECT_EQ(pageText(),
-              "<HTML>\r\n<HEAD>\r\n<TITLE> * UNTITLED PAGE * </TITLE>\r\n<META NAME=\"generator\" "
-              "CONTENT=\"Quillon\">\r\n</HEAD>\r\n<BODY>\r\n\r\n\r\n\r\n\r\n</BODY>\r\n</HTML>");
+    EXPECT_EQ(pageText(), document::kPageOutline);
     EXPECT_TRUE(label("Current Line No: 1"));
     run(mnuFileClose);
     run(mnuFileNew);
@@ -83,11 +71,11 @@ TEST_F(PageTest, TheTabKeyInsertsARunThatOneBackspaceRemoves) {
     EXPECT_EQ(pageText(), "a      b");
     pressKey(VK_BACK);
     EXPECT_EQ(pageText(), "ab");
-    EXPECT_EQ(active().txtPad().selection().start, 1);
+    EXPECT_EQ(selected(), "1-1");
     pressKey(VK_TAB);
-    active().txtPad().select(4, 7);
+    active().txtPad().select(7, 8);
     pressKey(VK_BACK);
-    EXPECT_EQ(pageText().substr(0, 4), "a   ") << "with a selection only that goes";
+    EXPECT_EQ(pageText(), "a      ") << "with a selection only that goes";
     type("\t");
     EXPECT_EQ(pageText().find('\t'), std::string::npos);
 }
@@ -98,7 +86,7 @@ TEST_F(PageTest, TheLineLabelFollowsTheCaretAndThePageInFront) {
     EXPECT_TRUE(label("Current Line No: 2")) << "after the key, not before";
     newPage("x");
     EXPECT_TRUE(label("Current Line No: 1"));
-    ::SendMessageA(main().mdiClient(), WM_MDIACTIVATE, reinterpret_cast<WPARAM>(first.hwnd()), 0);
+    activate(first);
     EXPECT_TRUE(label("Current Line No: 2"));
 }
 
@@ -106,11 +94,11 @@ TEST_F(PageTest, CutPasteAndUndo) {
     newPage("one two");
     active().txtPad().select(0, 4);
     run(mnuEditCut);
-    EXPECT_EQ(win::ClipboardText(main().mainHwnd()), "one ");
+    EXPECT_EQ(clipboard(), "one ");
     active().txtPad().select(0, 0);
     run(mnuEditCut);
     EXPECT_EQ(pageText(), "two") << "cutting nothing";
-    pressControl('V');
+    run(mnuEditPaste);
     EXPECT_EQ(pageText(), "one two");
     run(mnuEditClear);
     EXPECT_EQ(pageText(), "");
@@ -132,11 +120,11 @@ TEST_F(PageTest, ClosingAsksOnlyForAChangedPageAndSavesTheOneItAsksAbout) {
     type("x");
     frmChild* asked = &active();
     newPage("in front");
-    User user({User::press("Quillon", IDYES), User::chooseFile("Save File As...", path)});
-    ::SendMessageA(asked->hwnd(), WM_CLOSE, 0, 0);
-    EXPECT_EQ(user.heard()[0],
-              "ASKED.HTM has changed since last saved...(or has not yet been saved.)\r\n\r\n"
-              "                     Would you like to save that file now?\r\n\r\n");
+    const auto close = [&] { ::SendMessageA(asked->hwnd(), WM_CLOSE, 0, 0); };
+    EXPECT_EQ(
+        User::hears(close, {User::press("Quillon", IDYES), User::chooseFile("Save File As...", path)})[0],
+        "ASKED.HTM has changed since last saved...(or has not yet been saved.)\r\n\r\n"
+        "                     Would you like to save that file now?\r\n\r\n");
     EXPECT_EQ(readFile(path), "xasked\r\n");
     EXPECT_EQ(main().documents().size(), 1U);
 }
@@ -144,12 +132,10 @@ TEST_F(PageTest, ClosingAsksOnlyForAChangedPageAndSavesTheOneItAsksAbout) {
 TEST_F(PageTest, APageThatClosesUnsavedAfterAllIsOnTheClipboard) {
     newPage("page");
     type("my ");
-    {
-        const User user({User::press("Quillon", IDYES), User::press("Save File As...", IDCANCEL)});
-        run(mnuFileClose);
-    }
+    heard([&] { run(mnuFileClose); },
+          {User::press("Quillon", IDYES), User::press("Save File As...", IDCANCEL)});
     EXPECT_TRUE(main().documents().empty());
-    EXPECT_EQ(win::ClipboardText(nullptr), "my page");
+    EXPECT_EQ(clipboard(), "my page");
 }
 
 TEST_F(PageTest, ACloseWhileABoxWaitsIsIgnoredAndExitAsksForEveryChangedPage) {
@@ -158,14 +144,11 @@ TEST_F(PageTest, ACloseWhileABoxWaitsIsIgnoredAndExitAsksForEveryChangedPage) {
     newPage("");
     type("y");
     const HWND window = main().mainHwnd();
-    User user({{"Quillon",
-                [window](HWND box) {
-                    ::SendMessageA(window, WM_CLOSE, 0, 0);
-                    ::PostMessageA(box, WM_COMMAND, IDNO, 0);
-                }},
-               User::press("Quillon", IDNO)});
-    run(mnuFileExit);
-    EXPECT_EQ(user.heard().size(), 2U);
+    const auto tryToClose = [window](HWND box) {
+        ::SendMessageA(window, WM_CLOSE, 0, 0);
+        ::PostMessageA(box, WM_COMMAND, IDNO, 0);
+    };
+    heard([&] { run(mnuFileExit); }, {{"Quillon", tryToClose}, User::press("Quillon", IDNO)});
     EXPECT_FALSE(::IsWindow(window));
 }
 

@@ -1,10 +1,8 @@
 #include "files/modPubFuncs.h"
-#include "files/open_file.h"
 #include "support/standin_browser.h"
 #include "win/app_test.h"
 #include "win/clipboard.h"
 #include "win/message_loop.h"
-#include "win/unique.h"
 
 namespace {
 
@@ -22,14 +20,6 @@ class PreviewTest : public AppTest {
         AppTest::SetUp();
         use(Browser::standIn());
     }
-    // A page on its file, with these words typed in front.
-    frmChild& openPage(const std::string& name, const std::string& bytes, const std::string& typed = "") {
-        writeFile(scratch(name), bytes);
-        frmChild* page = files::OpenFile(main(), scratch(name));
-        EXPECT_TRUE(page);
-        type(typed);
-        return *page;
-    }
     // Previews the active page; the browser must come up with this file.
     void preview(const std::string& name) {
         run(tbrPreview);
@@ -41,10 +31,6 @@ class PreviewTest : public AppTest {
     // The wait is over before its time.
     static void passTime() {
         if (const HWND wait = ::FindWindowA("modPreview", nullptr)) ::SendMessageA(wait, WM_TIMER, 1, 0);
-    }
-    win::UniqueFile hold(const std::string& name, DWORD share) {
-        return win::UniqueFile(
-            ::CreateFileA(scratch(name).c_str(), GENERIC_READ, share, nullptr, OPEN_EXISTING, 0, nullptr));
     }
 
  private:
@@ -98,7 +84,7 @@ TEST_F(PreviewTest, APreviewDuringAnotherShowsTheNewTextAndHasItsOwnTime) {
     preview("$$index.htm");
     EXPECT_EQ(shownPage(), "231\r\n");
     {
-        const win::UniqueFile held = hold("$$index.htm", FILE_SHARE_READ);
+        const win::UniqueFile held = hold(scratch("$$index.htm"), FILE_SHARE_READ);
         passTime();
         EXPECT_TRUE(copyIsThere()) << "somebody is still at it";
     }
@@ -122,35 +108,24 @@ TEST_F(PreviewTest, ABrowserThatIsMissingOrDoesNotStartIsTold) {
     openPage("index.htm", "1", "2");
     run(tbrPreview);
     EXPECT_TRUE(copyIsThere());
-    {
-        User user({User::press("Browser Not Found", IDOK), User::press("URL Failed", IDOK)});
-        passTime();
-        EXPECT_EQ(user.heard(), (std::vector<std::string>{"Could not find associated Browser",
-                                                          "Web Page Could Not Be Opened."}));
-    }
+    EXPECT_EQ(
+        User::hears(passTime, {User::press("Browser Not Found", IDOK), User::press("URL Failed", IDOK)}),
+        (std::vector<std::string>{"Could not find associated Browser", "Web Page Could Not Be Opened."}));
     EXPECT_FALSE(copyIsThere());
     EXPECT_FALSE(::FindWindowA("modPreview", nullptr));
     writeFile(scratch("broken.exe"), "no program");
     use(scratch("broken.exe"));
-    User user({User::press("URL Failed", IDOK)});
-    run(tbrPreview);
-    EXPECT_EQ(user.heard()[0], "Web Page Could Not Be Opened.");
+    EXPECT_EQ(said(tbrPreview, "URL Failed"), "Web Page Could Not Be Opened.");
     EXPECT_FALSE(copyIsThere());
 }
 
 TEST_F(PreviewTest, WithNowhereToWriteThereIsOneMessage) {
     newPage("untitled");
-    {
-        User user({User::press("Quillon", IDOK)});
-        run(tbrPreview);
-        EXPECT_EQ(user.heard()[0], kFailure);
-    }
+    EXPECT_EQ(said(tbrPreview), kFailure);
     ::CreateDirectoryA(scratch("gone").c_str(), nullptr);
     const frmChild& page = openPage("gone\\index.htm", "1", "2");
     DeleteTree(scratch("gone"));
-    User user({User::press("Quillon", IDOK)});
-    run(tbrPreview);
-    EXPECT_EQ(user.heard()[0], kFailure);
+    EXPECT_EQ(said(tbrPreview), kFailure);
     EXPECT_EQ(pageText(), "21");
     EXPECT_TRUE(page.txtPad().isChanged());
 }
@@ -173,20 +148,15 @@ TEST_F(ResetTest, ResetBringsBackTheSavedPageAndLeavesTheEditedOneOnTheClipboard
 TEST_F(ResetTest, RefusalsAndFailuresLeaveThePageAlone) {
     const frmChild& page = openPage("index.htm", "one\r\n");
     win::SetClipboardText(main().mainHwnd(), "kept");
-    User user({User::press("Quillon", IDOK), User::press("Quillon", IDOK), User::press("Quillon", IDOK)});
-    run(tbrReset);
+    EXPECT_EQ(said(tbrReset), "Page has not been edited since last save...\r\n\r\nNo need to Reset");
     type("x");
-    {
-        const win::UniqueFile locked = hold("index.htm", 0);
-        run(tbrReset);
-    }
+    win::UniqueFile locked = hold(scratch("index.htm"), 0);
+    EXPECT_EQ(said(tbrReset),
+              "Error reading in file.\r\n\r\n...may have never been save, or been moved since last save.");
+    locked.reset();
     ::DeleteFileA(scratch("index.htm").c_str());
-    run(tbrReset);
-    EXPECT_EQ(user.heard(),
-              (std::vector<std::string>{
-                  "Page has not been edited since last save...\r\n\r\nNo need to Reset",
-                  "Error reading in file.\r\n\r\n...may have never been save, or been moved since last save.",
-                  "File was not previously saved, or was moved.\r\n\r\n      Reset is therefore aborted."}));
+    EXPECT_EQ(said(tbrReset),
+              "File was not previously saved, or was moved.\r\n\r\n      Reset is therefore aborted.");
     EXPECT_EQ(pageText(), "xone\r\n");
     EXPECT_TRUE(page.txtPad().isChanged());
     EXPECT_EQ(clipboard(), "kept");

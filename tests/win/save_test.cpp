@@ -13,13 +13,7 @@
 
 namespace {
 
-class SaveTest : public AppTest {
- protected:
-    frmChild& openPage(const std::string& name, const std::string& bytes) {
-        writeFile(scratch(name), bytes);
-        return *files::OpenFile(main(), scratch(name));
-    }
-};
+using SaveTest = AppTest;
 
 TEST_F(SaveTest, EveryCallThatFailsLeavesTheOldFileOrTheNewOne) {
     const std::string path = scratch("page.htm");
@@ -53,12 +47,12 @@ TEST_F(SaveTest, EveryCallThatFailsLeavesTheOldFileOrTheNewOne) {
         active().selectAll();
         active().txtPad().replaceSelection(page);
     };
-    for (inPlace = false;; inPlace = true) {
+    for (const bool refused : {false, true}) {
+        inPlace = refused;
         const int faults = FailEachCall({prepare, [&] { run(mnuFileSave); }, check, inPlace});
         std::printf("%d faults of a save, %d files lost\n", faults, lost);
         EXPECT_GT(faults, 20);
         EXPECT_EQ(lost, 0);
-        if (inPlace) break;
     }
 }
 
@@ -111,23 +105,18 @@ TEST_F(SaveTest, AnUnwritableTargetLeavesThePageChangedAndTheFileAsItWas) {
     openPage("locked.htm", "old");
     type("new ");
     const auto refuse = [&] {
-        User user({User::press("Quillon", IDOK)});
-        run(mnuFileSave);
-        EXPECT_EQ(user.heard()[0], "Could not write to the specified file at this time.");
+        EXPECT_EQ(said(mnuFileSave), "Could not write to the specified file at this time.");
         EXPECT_TRUE(active().txtPad().isChanged());
         EXPECT_EQ(pageText(), "new old");
     };
-    {
-        const win::UniqueFile lock(::CreateFileA(scratch("locked.htm").c_str(), GENERIC_READ, FILE_SHARE_READ,
-                                                 nullptr, OPEN_EXISTING, 0, nullptr));
-        refuse();
-    }
+    win::UniqueFile lock = hold(scratch("locked.htm"), FILE_SHARE_READ);
+    refuse();
+    lock.reset();
     ::SetFileAttributesA(scratch("locked.htm").c_str(), FILE_ATTRIBUTE_READONLY);
     refuse();
     ::SetFileAttributesA(scratch("locked.htm").c_str(), FILE_ATTRIBUTE_NORMAL);
     EXPECT_EQ(readFile(scratch("locked.htm")), "old");
-    WIN32_FIND_DATAA found{};
-    EXPECT_EQ(::FindFirstFileA(scratch("*.tmp").c_str(), &found), INVALID_HANDLE_VALUE) << found.cFileName;
+    EXPECT_EQ(found("*.tmp"), "");
     run(mnuFileSave);
     EXPECT_EQ(readFile(scratch("locked.htm")), "new old\r\n");
     EXPECT_FALSE(active().txtPad().isChanged());
@@ -137,14 +126,11 @@ TEST_F(SaveTest, AnUnwritableTargetLeavesThePageChangedAndTheFileAsItWas) {
 TEST_F(SaveTest, APageWithoutAFileIsSavedUnderAnotherName) {
     run(mnuFileNew);
     type("<!-- -->");
-    std::string proposed;
-    User user({{"Save File As...", [&](HWND dialog) {
-                    proposed = seen::TextOf(seen::FileNameBox(dialog));
-                    seen::ChooseFile(dialog, scratch("named.htm"));
-                }}});
-    run(mnuFileSave);
-    user.heard();
-    EXPECT_EQ(proposed, "Untitled1");
+    const auto choose = [](HWND dialog) {
+        EXPECT_EQ(seen::TextOf(seen::FileNameBox(dialog)), "Untitled1");
+        seen::ChooseFile(dialog, scratch("named.htm"));
+    };
+    heard([&] { run(mnuFileSave); }, {{"Save File As...", choose}});
     EXPECT_EQ(active().Tag(), scratch("named.htm"));
     EXPECT_EQ(active().Caption(), "named.htm");
     EXPECT_EQ(readFile(scratch("named.htm")), pageText() + "\r\n");
@@ -154,14 +140,13 @@ TEST_F(SaveTest, APageWithoutAFileIsSavedUnderAnotherName) {
 TEST_F(SaveTest, OpeningSaysWhatIsWrong) {
     openPage("open.htm", "x");
     writeFile(scratch("closed.htm"), "y");
-    const win::UniqueFile lock(
-        ::CreateFileA(scratch("closed.htm").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
-    User user({User::chooseFile("Open File...", scratch("open.htm")), User::press("Quillon", IDOK),
-               User::chooseFile("Open File...", scratch("closed.htm")), User::press("Quillon Note:", IDOK)});
-    run(mnuFileOpen);
-    run(mnuFileOpen);
-    EXPECT_EQ(user.heard()[1], "That file is already open.");
-    EXPECT_EQ(user.heard()[3], "Error While Processing the File.");
+    const win::UniqueFile lock = hold(scratch("closed.htm"), 0);
+    const auto open = [&](const std::string& name, const std::string& title) {
+        return heard([&] { run(mnuFileOpen); },
+                     {User::chooseFile("Open File...", scratch(name)), User::press(title, IDOK)});
+    };
+    EXPECT_EQ(open("open.htm", "Quillon"), "That file is already open.");
+    EXPECT_EQ(open("closed.htm", "Quillon Note:"), "Error While Processing the File.");
     EXPECT_EQ(main().documents().size(), 1U);
 }
 

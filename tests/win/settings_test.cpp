@@ -99,22 +99,16 @@ TEST_F(RecentFilesTest, AnItemOpensItsFileOnce) {
     run(mnuFileMRU + 2);
     EXPECT_EQ(active().Tag(), scratch("page1.htm"));
     EXPECT_EQ(listed(), "12");
-    User user({User::press("Quillon", IDOK), User::press("Quillon", IDOK)});
-    run(mnuFileMRU + 1);
+    EXPECT_EQ(said(mnuFileMRU + 1), "That file is already open.");
     ::DeleteFileA(scratch("page2.htm").c_str());
-    run(mnuFileMRU + 2);
-    EXPECT_EQ(user.heard(), (std::vector<std::string>{"That file is already open.",
-                                                      "File appears to have been moved or deleted."}));
+    EXPECT_EQ(said(mnuFileMRU + 2), "File appears to have been moved or deleted.");
 }
 
 TEST_F(RecentFilesTest, TheFirstRunIsWelcomedOnce) {
     settings::DeleteSection("File Count");
-    User user({User::press("WELCOME TO THE QUILLON!", IDOK)});
-    basMRU::LoadRecentFiles(main());
-    EXPECT_EQ(user.heard()[0],
+    EXPECT_EQ(said([&] { basMRU::LoadRecentFiles(main()); }, "WELCOME TO THE QUILLON!"),
               "Start working, fast! \r\nThe help menu includes toolbar and feature descriptions,\r\nand "
-              "Online Help is "
-              "linked through the menu.\r\n\r\n           ... ENJOY!");
+              "Online Help is linked through the menu.\r\n\r\n           ... ENJOY!");
     EXPECT_EQ(settings::Get("File Count", "Count"), "0");
     basMRU::LoadRecentFiles(main());
 }

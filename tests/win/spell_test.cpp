@@ -1,76 +1,123 @@
 #include <set>
 
+#include "support/class_key.h"
 #include "support/com_object.h"
-#include "support/standin_word.h"
 #include "win/app_test.h"
 #include "win/clipboard.h"
-#include "win/com.h"
 
 #define MIN_SPELLING_NTDDI 0
 #include <spellcheck.h>
 
 namespace {
 
+constexpr char kDone[] = "Spell Check Completed.";
 constexpr char kFailed[] = "Spell check  failed.\r\nIf problem persists, please contact Quillon Support.";
 constexpr char kNoWord[] = "Could not Load Microsoft Word!";
 
-class WordTest : public AppTest {
- protected:
-    // The word processor is there, with orders for its stand-in.
-    void install(const std::string& orders = "") { word_.emplace(logPath(), orders); }
-    std::string logPath() const { return scratch("word.log"); }
+// What a test says to the word processor and hears of it.
+struct WordTalk {
+    std::wstring calls;
+    int untilFailure = 0;  // calls
+    bool asks = false;     // before it corrects anything
+};
 
-    // The calls that the word processor got, once it has ended.
-    std::string calls() const {
-        std::string log;
-        seen::Until([&] { return (log = readFile(logPath())).ends_with("\nreleased\n"); });
-        return log;
+// Stands in for the word processor that is driven as "Word.Basic", with one document.
+class Word : public ComObject<IDispatch> {
+ public:
+    explicit Word(WordTalk& talk) : talk_(talk) {}
+    ~Word() override { talk_.calls += L"released\n"; }
+    STDMETHOD(GetTypeInfoCount)(UINT*) override { return E_NOTIMPL; }
+    STDMETHOD(GetTypeInfo)(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    STDMETHOD(GetIDsOfNames)(REFIID, LPOLESTR* names, UINT, LCID, DISPID*) override {
+        method_ = names[0];
+        return S_OK;
     }
-
-    std::string check(const std::string& title = "Quillon Note:") {
-        User user({User::press(title, IDOK)});
-        run(tbrSpelling);
-        return user.heard()[0];
+    STDMETHOD(Invoke)
+    (DISPID, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* failure,
+     UINT*) override {
+        talk_.calls += method_;
+        std::wstring last;
+        for (UINT i = parameters->cArgs; i-- > 0;) {
+            VARIANT text{};
+            ::VariantChangeType(&text, &parameters->rgvarg[i], 0, VT_BSTR);
+            last.assign(text.bstrVal, ::SysStringLen(text.bstrVal));
+            ::VariantClear(&text);
+            talk_.calls += L" " + last;
+        }
+        talk_.calls += L"\n";
+        if (--talk_.untilFailure == 0) {
+            failure->bstrDescription = ::SysAllocString(L"The stand-in was told to fail.");
+            return DISP_E_EXCEPTION;
+        }
+        const std::wstring value = run(last);
+        result->vt = VT_BSTR;
+        result->bstrVal = ::SysAllocStringLen(value.data(), static_cast<UINT>(value.size()));
+        return S_OK;
     }
 
  private:
-    std::optional<StandinWord> word_;
+    std::wstring run(const std::wstring& argument) {
+        if (method_ == L"Insert") document_ = argument + L'\r';
+        if (method_ == L"ToolsSpelling") correct();
+        if (method_ == L"SetDocumentVar") variable_ = argument;
+        if (method_ == L"Selection") return document_;
+        return method_ == L"GetDocumentVar" ? variable_ : L"";
+    }
+    void correct() {
+        if (talk_.asks) ::MessageBoxA(nullptr, "Correct it?", "Stand-in spelling", MB_OK);
+        std::erase(document_, L'\n');  // its paragraphs end with CR only
+        for (std::size_t at = 0; (at = document_.find(L"teh", at)) != std::wstring::npos;)
+            document_.replace(at, 3, L"the");
+    }
+
+    WordTalk& talk_;
+    std::wstring method_, document_, variable_;
+};
+
+class WordTest : public AppTest {
+ protected:
+    std::string check() { return said(tbrSpelling, "Quillon Note:"); }
+
+    WordTalk word_;
+
+ private:
+    static constexpr CLSID kClass{
+        0x5C5A5D0E, 0x2A53, 0x4B0A, {0x9C, 0x1B, 0x5B, 0x37, 0x2E, 0x64, 0x61, 0xD4}};
+    ClassKey key_{"Word.Basic\\CLSID", "{5C5A5D0E-2A53-4B0A-9C1B-5B372E6461D4}"};
+    ClassServer server_{kClass, [this] { return new Word(word_); }};
 };
 
 TEST_F(WordTest, TheWholePageGoesThroughTheWordProcessor) {
-    install();
-    newPage("<B>teh</B>\r\n\r\nteh end\r\n").txtPad().select(4, 4);
-    EXPECT_EQ(check(), "Spell Check Completed.");
-    EXPECT_EQ(
-        calls(),
-        "AppMinimize\nFileNew\nInsert <B>teh</B>\\r\\n\\r\\nteh end\\r\\n\nStartOfDocument\nEndOfDocument 1\n"
-        "ToolsSpelling\nEditSelectAll\nSelection\nSetDocumentVar MyVar <B>the</B>\\r\\rthe end\\r\\r\n"
-        "GetDocumentVar MyVar\nFileCloseAll 2\nAppClose\nreleased\n");
-    EXPECT_EQ(pageText(), "<B>the</B>\r\n\r\nthe end\r\n");
+    newPage("<B>teh</B>\r\n\r\nteh caf\xE9\r\n").txtPad().select(4, 4);
+    EXPECT_EQ(check(), kDone);
+    EXPECT_EQ(word_.calls,
+              L"AppMinimize\nFileNew\nInsert <B>teh</B>\r\n\r\nteh caf\x00E9\r\n\nStartOfDocument\n"
+              L"EndOfDocument 1\nToolsSpelling\nEditSelectAll\nSelection\n"
+              L"SetDocumentVar MyVar <B>the</B>\r\rthe caf\x00E9\r\r\nGetDocumentVar MyVar\n"
+              L"FileCloseAll 2\nAppClose\nreleased\n");
+    EXPECT_EQ(pageText(), "<B>the</B>\r\n\r\nthe caf\xE9\r\n");
     EXPECT_TRUE(active().txtPad().isChanged());
     EXPECT_EQ(selected(), "0-" + std::to_string(active().txtPad().textLength()));
-    EXPECT_EQ(clipboard(), "<B>teh</B>\r\n\r\nteh end\r\n");
+    EXPECT_EQ(clipboard(), "<B>teh</B>\r\n\r\nteh caf\xE9\r\n");
     EXPECT_TRUE(label("Current Line No: 1"));
     EXPECT_TRUE(pageHasFocus());
 }
 
 TEST_F(WordTest, AnEmptyPageAsksNobodyAndOneWithoutMistakesStaysUnchanged) {
-    install();
     newPage("");
     run(tbrSpelling);
-    EXPECT_EQ(readFile(logPath()), "(no file)");
+    EXPECT_EQ(word_.calls, L"");
     EXPECT_TRUE(pageHasFocus());
     newPage("caf\xE9 \x80 fine\r\n\tend");
-    EXPECT_EQ(check(), "Spell Check Completed.");
+    EXPECT_EQ(check(), kDone);
     EXPECT_EQ(pageText(), "caf\xE9 \x80 fine\r\n\tend");
     EXPECT_FALSE(active().txtPad().isChanged());
 }
 
 TEST_F(WordTest, OnlyTheSelectionIsSentAndReplaced) {
-    install();
     newPage("teh one\r\nteh two\r\nteh three").txtPad().select(9, 18);
-    EXPECT_EQ(check(), "Spell Check Completed.");
-    EXPECT_NE(calls().find("Insert teh two\\r\\n\n"), std::string::npos);
+    EXPECT_EQ(check(), kDone);
+    EXPECT_NE(word_.calls.find(L"Insert teh two\r\n\n"), std::wstring::npos);
     EXPECT_EQ(pageText(), "teh one\r\nthe two\r\nteh three");
     EXPECT_TRUE(active().txtPad().isChanged());
     EXPECT_EQ(clipboard(), "teh one\r\nteh two\r\nteh three");
@@ -81,42 +128,30 @@ TEST_F(WordTest, OnlyTheSelectionIsSentAndReplaced) {
 TEST_F(WordTest, EachCallThatFailsLeavesThePageAsItWas) {
     newPage("teh one\r\nteh two").txtPad().select(2, 5);
     win::SetClipboardText(main().mainHwnd(), "kept");
-    install("each");
     for (int failing = 1; failing <= 12; ++failing) {
         SCOPED_TRACE(failing);
-        EXPECT_EQ(check("Quillon"), failing == 1 ? kNoWord : kFailed);
+        word_ = {L"", failing};
+        EXPECT_EQ(said(tbrSpelling), failing == 1 ? kNoWord : kFailed);
         EXPECT_EQ(pageText(), "teh one\r\nteh two");
         EXPECT_FALSE(active().txtPad().isChanged());
         EXPECT_EQ(selected(), "2-5");
         EXPECT_EQ(clipboard(), "kept");
         EXPECT_TRUE(::IsWindowEnabled(main().mainHwnd()));
-        EXPECT_TRUE(calls().ends_with("\nreleased\n"));
-        ::DeleteFileA(logPath().c_str());
+        EXPECT_TRUE(word_.calls.ends_with(L"\nreleased\n"));
     }
 }
 
-TEST_F(WordTest, WithoutAnySpellingThatIsSaid) {
-    newPage("teh");
-    EXPECT_EQ(check("Quillon"), kNoWord);
-    EXPECT_EQ(pageText(), "teh");
-}
-
-// What happens to the page while the word processor's own dialog is open.
 TEST_F(WordTest, ThePageCannotBeTouchedMeanwhileAndMayEvenGo) {
-    install("ask");
+    word_.asks = true;
     newPage("other");
-    bool enabled = true;
-    std::thread user(
-        [&, child = newPage("teh").hwnd(), client = main().mdiClient(), mainWindow = main().mainHwnd()] {
-            HWND asked = nullptr;
-            EXPECT_TRUE(seen::Until([&] { return (asked = ::FindWindowA(nullptr, "Stand-in spelling")); }));
-            enabled = ::IsWindowEnabled(mainWindow) != FALSE;
-            ::SendMessageA(client, WM_MDIDESTROY, reinterpret_cast<WPARAM>(child), 0);
-            ::PostMessageA(asked, WM_COMMAND, IDOK, 0);
-        });
-    EXPECT_EQ(check("Quillon"), kFailed);
-    user.join();
-    EXPECT_FALSE(enabled);
+    const HWND child = newPage("teh").hwnd();
+    const User::Act meanwhile{"Stand-in spelling", [&](HWND asked) {
+                                  EXPECT_FALSE(::IsWindowEnabled(main().mainHwnd()));
+                                  ::SendMessageA(main().mdiClient(), WM_MDIDESTROY,
+                                                 reinterpret_cast<WPARAM>(child), 0);
+                                  ::PostMessageA(asked, WM_COMMAND, IDOK, 0);
+                              }};
+    EXPECT_EQ(heard([&] { run(tbrSpelling); }, {meanwhile, User::press("Quillon", IDOK)}), kFailed);
     EXPECT_EQ(main().documents().size(), 1U);
     EXPECT_EQ(pageText(), "other");
 }
@@ -125,7 +160,7 @@ TEST_F(WordTest, ThePageCannotBeTouchedMeanwhileAndMayEvenGo) {
 class FakeErrors : public ComObject<IEnumSpellingError> {
  public:
     explicit FakeErrors(bool any) : any_(any) {}
-    HRESULT STDMETHODCALLTYPE Next(ISpellingError** error) override {
+    STDMETHOD(Next)(ISpellingError** error) override {
         *error = nullptr;
         return any_ ? S_OK : S_FALSE;
     }
@@ -137,15 +172,15 @@ class FakeErrors : public ComObject<IEnumSpellingError> {
 class FakeStrings : public ComObject<IEnumString> {
  public:
     explicit FakeStrings(std::vector<std::wstring> strings) : strings_(std::move(strings)) {}
-    HRESULT STDMETHODCALLTYPE Next(ULONG, LPOLESTR* text, ULONG*) override {
+    STDMETHOD(Next)(ULONG, LPOLESTR* text, ULONG*) override {
         if (given_ == strings_.size()) return S_FALSE;
         *text = static_cast<wchar_t*>(::CoTaskMemAlloc(10 * sizeof(wchar_t)));
         ::lstrcpyW(*text, strings_[given_++].c_str());
         return S_OK;
     }
-    HRESULT STDMETHODCALLTYPE Skip(ULONG) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE Reset() override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE Clone(IEnumString**) override { return E_NOTIMPL; }
+    STDMETHOD(Skip)(ULONG) override { return E_NOTIMPL; }
+    STDMETHOD(Reset)() override { return E_NOTIMPL; }
+    STDMETHOD(Clone)(IEnumString**) override { return E_NOTIMPL; }
 
  private:
     std::vector<std::wstring> strings_;
@@ -154,62 +189,48 @@ class FakeStrings : public ComObject<IEnumString> {
 
 class FakeChecker : public ComObject<ISpellChecker> {
  public:
-    HRESULT STDMETHODCALLTYPE Check(LPCWSTR text, IEnumSpellingError** errors) override {
+    STDMETHOD(Check)(LPCWSTR text, IEnumSpellingError** errors) override {
         *errors = new FakeErrors(!known_.contains(text));
         return S_OK;
     }
-    HRESULT STDMETHODCALLTYPE Suggest(LPCWSTR text, IEnumString** strings) override {
-        const bool any = std::wstring(text) == L"teh";
-        *strings = new FakeStrings(any ? std::vector<std::wstring>{L"th\x00E9y", L"ten"}
-                                       : std::vector<std::wstring>{});
+    STDMETHOD(Suggest)(LPCWSTR text, IEnumString** strings) override {
+        *strings = new FakeStrings(std::wstring(text) == L"teh" ? kForTeh : std::vector<std::wstring>{});
         return S_OK;
     }
-    HRESULT STDMETHODCALLTYPE Add(LPCWSTR word) override {
+    STDMETHOD(Add)(LPCWSTR word) override {
         known_.insert(word);
         return S_OK;
     }
-    HRESULT STDMETHODCALLTYPE get_LanguageTag(LPWSTR*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE Ignore(LPCWSTR) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE AutoCorrect(LPCWSTR, LPCWSTR) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetOptionValue(LPCWSTR, BYTE*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE get_OptionIds(IEnumString**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE get_Id(LPWSTR*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE get_LocalizedName(LPWSTR*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE add_SpellCheckerChanged(ISpellCheckerChangedEventHandler*, DWORD*) override {
+    STDMETHOD(get_LanguageTag)(LPWSTR*) override { return E_NOTIMPL; }
+    STDMETHOD(Ignore)(LPCWSTR) override { return E_NOTIMPL; }
+    STDMETHOD(AutoCorrect)(LPCWSTR, LPCWSTR) override { return E_NOTIMPL; }
+    STDMETHOD(GetOptionValue)(LPCWSTR, BYTE*) override { return E_NOTIMPL; }
+    STDMETHOD(get_OptionIds)(IEnumString**) override { return E_NOTIMPL; }
+    STDMETHOD(get_Id)(LPWSTR*) override { return E_NOTIMPL; }
+    STDMETHOD(get_LocalizedName)(LPWSTR*) override { return E_NOTIMPL; }
+    STDMETHOD(add_SpellCheckerChanged)(ISpellCheckerChangedEventHandler*, DWORD*) override {
         return E_NOTIMPL;
     }
-    HRESULT STDMETHODCALLTYPE remove_SpellCheckerChanged(DWORD) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetOptionDescription(LPCWSTR, IOptionDescription**) override {
-        return E_NOTIMPL;
-    }
-    HRESULT STDMETHODCALLTYPE ComprehensiveCheck(LPCWSTR, IEnumSpellingError**) override { return E_NOTIMPL; }
+    STDMETHOD(remove_SpellCheckerChanged)(DWORD) override { return E_NOTIMPL; }
+    STDMETHOD(GetOptionDescription)(LPCWSTR, IOptionDescription**) override { return E_NOTIMPL; }
+    STDMETHOD(ComprehensiveCheck)(LPCWSTR, IEnumSpellingError**) override { return E_NOTIMPL; }
 
  private:
+    const std::vector<std::wstring> kForTeh{L"th\x00E9y", L"ten"};
     std::set<std::wstring> known_{L"the", L"end"};
 };
 
 class FakeCheckers : public ComObject<ISpellCheckerFactory> {
-    HRESULT STDMETHODCALLTYPE get_SupportedLanguages(IEnumString**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE IsSupported(LPCWSTR, BOOL*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE CreateSpellChecker(LPCWSTR, ISpellChecker** checker) override {
+    STDMETHOD(get_SupportedLanguages)(IEnumString**) override { return E_NOTIMPL; }
+    STDMETHOD(IsSupported)(LPCWSTR, BOOL*) override { return E_NOTIMPL; }
+    STDMETHOD(CreateSpellChecker)(LPCWSTR, ISpellChecker** checker) override {
         *checker = new FakeChecker;
         return S_OK;
     }
 };
 
-// Without a word processor the system's spell checker serves.
-class SystemSpellingTest : public WordTest {
+class SystemSpellingTest : public AppTest {
  protected:
-    void SetUp() override {
-        WordTest::SetUp();
-        ASSERT_EQ(::CoRegisterClassObject(__uuidof(SpellCheckerFactory), &checkers_, CLSCTX_INPROC_SERVER,
-                                          REGCLS_MULTIPLEUSE, &cookie_),
-                  S_OK);
-    }
-    void TearDown() override {
-        ::CoRevokeClassObject(cookie_);
-        WordTest::TearDown();
-    }
     // Presses a button once the dialog asks about `word`.
     static void answer(HWND dialog, const std::string& word, const std::string& button,
                        const std::string& typed = "") {
@@ -217,50 +238,45 @@ class SystemSpellingTest : public WordTest {
         if (!typed.empty()) ::SetWindowTextA(seen::ChildOfClass(dialog, "Edit"), typed.c_str());
         ::SendMessageA(seen::Child(dialog, button, "Button"), BM_CLICK, 0, 0);
     }
-    void checkWith(const std::function<void(HWND)>& answers) {
-        User user({{"Spelling", answers}, User::press("Quillon Note:", IDOK)});
-        run(tbrSpelling);
-        EXPECT_EQ(user.heard()[1], "Spell Check Completed.");
+    std::string checkWith(const std::function<void(HWND)>& answers) {
+        return heard([&] { run(tbrSpelling); }, {{"Spelling", answers}, User::press("Quillon Note:", IDOK)});
     }
 
  private:
-    static FakeCheckers* newCheckers() { return new FakeCheckers; }
-    ComFactory<FakeCheckers* (*)()> checkers_{newCheckers};
-    DWORD cookie_ = 0;
+    ClassServer server_{__uuidof(SpellCheckerFactory), [] { return new FakeCheckers; }};
 };
 
 TEST_F(SystemSpellingTest, EveryAnswerDoesWhatItSays) {
     const std::string page = "<teh>teh Qu end teh Xy Qu Xy Xy Zz Vw</teh>";
     newPage(page);
-    checkWith([](HWND dialog) {
-        answer(dialog, "teh", "&Change");
-        answer(dialog, "Qu", "I&gnore All");
-        answer(dialog, "teh", "&Change", "ten");
-        answer(dialog, "Xy", "&Ignore");
-        answer(dialog, "Xy", "&Add");
-        answer(dialog, "Zz", "&Change");
-        answer(dialog, "Vw", "&Change", "W");
-    });
+    EXPECT_EQ(checkWith([](HWND dialog) {
+                  answer(dialog, "teh", "&Change");
+                  answer(dialog, "Qu", "I&gnore All");
+                  answer(dialog, "teh", "&Change", "ten");
+                  answer(dialog, "Xy", "&Ignore");
+                  answer(dialog, "Xy", "&Add");
+                  answer(dialog, "Zz", "&Change");
+                  answer(dialog, "Vw", "&Change", "W");
+              }),
+              kDone);
     EXPECT_EQ(pageText(), "<teh>th\xE9y Qu end ten Xy Qu Xy Xy Zz W</teh>");
     EXPECT_EQ(clipboard(), page);
 }
 
 TEST_F(SystemSpellingTest, ASuggestionCanBeChosenAndTheRestBeLeft) {
     newPage("teh teh teh");
-    checkWith([](HWND dialog) {
-        const HWND list = seen::ChildOfClass(dialog, "ListBox");
-        ::SendMessageA(list, LB_SETCURSEL, 1, 0);
-        ::SendMessageA(dialog, WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(list), LBN_SELCHANGE),
-                       reinterpret_cast<LPARAM>(list));
-        EXPECT_EQ(seen::TextOf(seen::ChildOfClass(dialog, "Edit")), "ten");
-        answer(dialog, "teh", "&Change");
-        answer(dialog, "teh", "Close");
-    });
+    EXPECT_EQ(checkWith([](HWND dialog) {
+                  const HWND list = seen::ChildOfClass(dialog, "ListBox");
+                  ::SendMessageA(list, LB_SETCURSEL, 1, 0);
+                  Notify(list, LBN_SELCHANGE);
+                  EXPECT_EQ(seen::TextOf(seen::ChildOfClass(dialog, "Edit")), "ten");
+                  answer(dialog, "teh", "&Change");
+                  answer(dialog, "teh", "Close");
+              }),
+              kDone);
     EXPECT_EQ(pageText(), "ten teh teh");
-
     newPage("teh");
-    User user({User::press("Spelling", IDCANCEL)});
-    run(tbrSpelling);
+    heard([&] { run(tbrSpelling); }, {User::press("Spelling", IDCANCEL)});
     EXPECT_EQ(pageText(), "teh");
     EXPECT_FALSE(active().txtPad().isChanged());
 }

@@ -1,37 +1,18 @@
 #include <ctime>
 
 #include "authoring/core/modScripts.h"
+#include "authoring/core/tag_fragments.h"
 #include "win/app_test.h"
 
 namespace {
 
-// One item of every menu, the last of each list, as it reads in the page.
-struct Item {
-    Command command;
-    const char* fragment;
-};
+using authoring::TagMenu;
 
-const Item kItems[] = {
-    {mnuTagsBasicList + 3, "<BODY>\r\n\r\n</BODY>"},
-    {mnuTagsBodyInc + 4, " onload=\"\""},
-    {mnuTagsModList + 5, "<!--    -->"},
-    {mnuTagsFontList + 4, "<FONT size= color= face=\"\"></FONT>"},
-    {mnuTagsImg, "<IMG SRC=\"\" NAME=\"\" width=X height=Y border=0 alt=\"\">"},
-    {mnuTagsHref, "<A HREF=\"\"></A>"},
-    {mnuTagsRuleList + 5, "<HR size= width= color= align=>"},
-    {mnuTagsAlignList + 3, "<span ID=\"\"></span>"},
-    {mnutagsTableList, "<TABLE><TR><TD>\r\n\r\n</TD></TR>\r\n</TABLE>"},
-    {mnuTagsFSetList + 3, "<NOFRAMES></NOFRAMES>"},
-    {mnuTagsFrameList + 3, " NORESIZE"},
-    {mnuTagsFormList + 3, "<TEXTAREA NAME=\"\" COLS=\"40\" ROWS=\"6\" WRAP=\"VIRTUAL\">\r\n</TEXTAREA>"},
-    {mnuTagsInputList + 7, "<INPUT TYPE=\"SUBMIT\" VALUE=\"Submit\">"},
-    {mnuTagsLsList + 2, "<UL type=square>\r\n   <LI>\r\n   <LI>\r\n   <LI>\r\n   <LI>\r\n   <LI>\r\n</UL>"},
-    {mnuTagsOlList, "<OL>\r\n   <LI>\r\n   <LI>\r\n   <LI>\r\n   <LI>\r\n   <LI>\r\n</OL>"},
-    {mnutagsDLs,
-     "<DL>  <!-- List an item after <DT>, subitem after <DD> -->\r\n    <DT>\r\n        <DD>\r\n</DL>"},
-    {mnuTagsSpecialChar + 6, "&reg;"},
-    {mnuScriptTags + 1, "<SCRIPT LANGUAGE=\"VBScript\">\r\n<!--\r\n\r\n-->\r\n</SCRIPT>"},
-};
+// The first item of each menu, in the order of TagMenu.
+constexpr int kFirstItems[] = {
+    mnuTagsBasicList, mnuTagsBodyInc,   mnuTagsModList,   mnuTagsFontList, mnuTagsImg,        mnuTagsHref,
+    mnuTagsRuleList,  mnuTagsAlignList, mnutagsTableList, mnuTagsFSetList, mnuTagsFrameList,  mnuTagsFormList,
+    mnuTagsInputList, mnuTagsLsList,    mnuTagsOlList,    mnutagsDLs,      mnuTagsSpecialChar};
 
 class TagsTest : public AppTest {
  protected:
@@ -50,50 +31,41 @@ class TagsTest : public AppTest {
         EXPECT_EQ(pageText(), "keep this too");
         active().txtPad().select(5, 9);
     }
-    static User::Act answering(const std::string& reply, WORD button) {
-        return {"Font Size", [=](HWND form) {
-                    ::SetWindowTextA(seen::ChildOfClass(form, "Edit"), reply.c_str());
-                    ::PostMessageA(form, WM_COMMAND, button, 0);
-                }};
+    void expectInserts(int command, std::string_view fragment) {
+        SCOPED_TRACE(command);
+        run(static_cast<Command>(command));
+        if (!fragment.empty()) return expectReplacedBy(std::string(fragment));
+        EXPECT_EQ(active().txtPad().selectedText(), "this");
     }
 };
 
-TEST_F(TagsTest, EveryMenuReplacesTheSelectionWithItsOwnFragmentInOneStep) {
-    for (const Item& item : kItems) {
-        run(item.command);
-        expectReplacedBy(item.fragment);
+TEST_F(TagsTest, EveryItemReplacesTheSelectionWithItsFragmentInOneStepOrLeavesIt) {
+    auto menu = TagMenu::Basic;
+    for (const int first : kFirstItems) {
+        int items = 9;
+        while (authoring::TagFragment(menu, items - 1).empty()) --items;
+        for (int i = 0; i < items; ++i) {
+            if (first + i == mnuTagsFontList + 1) continue;  // it asks
+            expectInserts(first + i, authoring::TagFragment(menu, i));
+        }
+        menu = static_cast<TagMenu>(static_cast<int>(menu) + 1);
     }
+    for (int i = 0; i < 6; ++i) expectInserts(mnuScriptTags + i, modScripts::ScriptBlock(i));
     const char* keywords[] = {"drop", "goBtn", "Wnd", "dCbo"};
-    for (int i = 0; i < 4; ++i) {
-        run(static_cast<Command>(mnuScriptDrops + i));
-        expectReplacedBy(modScripts::MakeDropMenu(keywords[i]));
-    }
-}
-
-TEST_F(TagsTest, ItemsWithoutAFragmentLeaveTheSelectionAlone) {
-    for (const int command : {mnuScriptTags + 3, mnuScriptTags + 4, mnuScriptTags + 5, mnuTagsFSetList + 2,
-                              mnuTagsFormList + 2, mnuTagsFormList + 4}) {
-        run(static_cast<Command>(command));
-        EXPECT_EQ(active().txtPad().selectedText(), "this");
-    }
-    EXPECT_FALSE(active().txtPad().isChanged());
+    for (int i = 0; i < 4; ++i) expectInserts(mnuScriptDrops + i, modScripts::MakeDropMenu(keywords[i]));
 }
 
 TEST_F(TagsTest, AFontSizeGoesInAsItWasTypedAndNoneDeletesTheSelection) {
-    const struct {
-        const char* reply;
-        WORD button;
-        const char* fragment;
-    } answers[] = {{"75", IDOK, "<FONT size=75></FONT>"}, {"", IDOK, ""}, {"5", IDCANCEL, ""}};
-    for (const auto& answer : answers) {
-        User user({answering(answer.reply, answer.button)});
-        run(mnuTagsFontList + 1);
-        EXPECT_EQ(user.heard()[0], "Type in  number below between 1 and 7.");
-        expectReplacedBy(answer.fragment);
+    const auto ask = [&] { run(mnuTagsFontList + 1); };
+    const std::tuple<const char*, WORD, const char*> answers[] = {
+        {"75", IDOK, "<FONT size=75></FONT>"}, {"", IDOK, ""}, {"5", IDCANCEL, ""}};
+    for (const auto& [reply, button, fragment] : answers) {
+        EXPECT_EQ(heard(ask, {User::enter("Font Size", reply, button)}),
+                  "Type in  number below between 1 and 7.");
+        expectReplacedBy(fragment);
     }
-    User user({answering("8", IDOK), User::press("Size out of range...", IDOK)});
-    run(mnuTagsFontList + 1);
-    EXPECT_EQ(user.heard()[1], "You will have to try again.\r\nRemember to enter a number between 1 and 7.");
+    EXPECT_EQ(heard(ask, {User::enter("Font Size", "8"), User::press("Size out of range...", IDOK)}),
+              "You will have to try again.\r\nRemember to enter a number between 1 and 7.");
     EXPECT_EQ(active().txtPad().selectedText(), "this");
 }
 
@@ -116,8 +88,8 @@ TEST_F(TagsTest, AnInsertAnUndoAndASaveKeepEveryByteOfThePage) {
     document.setTag(scratch("page.htm"));
     document.txtPad().select(8, 8);
     run(mnuTagsLsList);
-    const std::string list = "<UL type=disc>\r\n   <LI>\r\n   <LI>\r\n   <LI>\r\n   <LI>\r\n   <LI>\r\n</UL>";
-    EXPECT_EQ(pageText(), "<BODY>\r\n" + list + page.substr(8));
+    EXPECT_EQ(pageText(),
+              "<BODY>\r\n" + std::string(authoring::TagFragment(TagMenu::Ls, 0)) + page.substr(8));
     run(mnuEditUndo);
     EXPECT_EQ(pageText(), page);
     run(mnuFileSave);
