@@ -1,4 +1,4 @@
-// COM objects of this process's own, for stand-ins.
+// COM objects for stand-ins.
 #pragma once
 
 #include <functional>
@@ -30,11 +30,13 @@ class ComObject : public Interface {
     ULONG references_ = 1;
 };
 
-// Serves a class for its own life: each object is as `create` gives it.
+// Serves a class for its own life, to this process or as a local server (CLSCTX_...): each object is as
+// `create` gives it.
 class ClassServer : public ComObject<IClassFactory> {
  public:
-    ClassServer(const CLSID& cls, std::function<IUnknown*()> create) : create_(std::move(create)) {
-        ::CoRegisterClassObject(cls, this, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &cookie_);
+    ClassServer(const CLSID& cls, DWORD context, std::function<IUnknown*()> create)
+        : create_(std::move(create)) {
+        ::CoRegisterClassObject(cls, this, context, REGCLS_MULTIPLEUSE, &cookie_);
     }
     ~ClassServer() override { ::CoRevokeClassObject(cookie_); }
     STDMETHOD(CreateInstance)(IUnknown*, REFIID id, void** object) override {

@@ -1,7 +1,9 @@
+#include <optional>
 #include <set>
+#include <thread>
 
-#include "support/class_key.h"
 #include "support/com_object.h"
+#include "support/standin_word.h"
 #include "win/app_test.h"
 #include "win/clipboard.h"
 
@@ -14,87 +16,32 @@ constexpr char kDone[] = "Spell Check Completed.";
 constexpr char kFailed[] = "Spell check  failed.\r\nIf problem persists, please contact Quillon Support.";
 constexpr char kNoWord[] = "Could not Load Microsoft Word!";
 
-// What a test says to the word processor and hears of it.
-struct WordTalk {
-    std::wstring calls;
-    int untilFailure = 0;  // calls
-    bool asks = false;     // before it corrects anything
-};
-
-// Stands in for the word processor that is driven as "Word.Basic", with one document.
-class Word : public ComObject<IDispatch> {
- public:
-    explicit Word(WordTalk& talk) : talk_(talk) {}
-    ~Word() override { talk_.calls += L"released\n"; }
-    STDMETHOD(GetTypeInfoCount)(UINT*) override { return E_NOTIMPL; }
-    STDMETHOD(GetTypeInfo)(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHOD(GetIDsOfNames)(REFIID, LPOLESTR* names, UINT, LCID, DISPID*) override {
-        method_ = names[0];
-        return S_OK;
-    }
-    STDMETHOD(Invoke)
-    (DISPID, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* failure,
-     UINT*) override {
-        talk_.calls += method_;
-        std::wstring last;
-        for (UINT i = parameters->cArgs; i-- > 0;) {
-            VARIANT text{};
-            ::VariantChangeType(&text, &parameters->rgvarg[i], 0, VT_BSTR);
-            last.assign(text.bstrVal, ::SysStringLen(text.bstrVal));
-            ::VariantClear(&text);
-            talk_.calls += L" " + last;
-        }
-        talk_.calls += L"\n";
-        if (--talk_.untilFailure == 0) {
-            failure->bstrDescription = ::SysAllocString(L"The stand-in was told to fail.");
-            return DISP_E_EXCEPTION;
-        }
-        const std::wstring value = run(last);
-        result->vt = VT_BSTR;
-        result->bstrVal = ::SysAllocStringLen(value.data(), static_cast<UINT>(value.size()));
-        return S_OK;
-    }
-
- private:
-    std::wstring run(const std::wstring& argument) {
-        if (method_ == L"Insert") document_ = argument + L'\r';
-        if (method_ == L"ToolsSpelling") correct();
-        if (method_ == L"SetDocumentVar") variable_ = argument;
-        if (method_ == L"Selection") return document_;
-        return method_ == L"GetDocumentVar" ? variable_ : L"";
-    }
-    void correct() {
-        if (talk_.asks) ::MessageBoxA(nullptr, "Correct it?", "Stand-in spelling", MB_OK);
-        std::erase(document_, L'\n');  // its paragraphs end with CR only
-        for (std::size_t at = 0; (at = document_.find(L"teh", at)) != std::wstring::npos;)
-            document_.replace(at, 3, L"the");
-    }
-
-    WordTalk& talk_;
-    std::wstring method_, document_, variable_;
-};
-
 class WordTest : public AppTest {
  protected:
+    // The word processor is there, with an order for its stand-in.
+    void install(const std::string& order = "") { word_.emplace(logPath(), order); }
+    std::string logPath() const { return scratch("word.log"); }
+    // The calls that the word processor got, once it has let go.
+    std::string calls() const {
+        std::string log;
+        seen::Until([&] { return (log = readFile(logPath())).ends_with("\nreleased\n"); });
+        return log;
+    }
     std::string check() { return said(tbrSpelling, "Quillon Note:"); }
 
-    WordTalk word_;
-
  private:
-    static constexpr CLSID kClass{
-        0x5C5A5D0E, 0x2A53, 0x4B0A, {0x9C, 0x1B, 0x5B, 0x37, 0x2E, 0x64, 0x61, 0xD4}};
-    ClassKey key_{"Word.Basic\\CLSID", "{5C5A5D0E-2A53-4B0A-9C1B-5B372E6461D4}"};
-    ClassServer server_{kClass, [this] { return new Word(word_); }};
+    std::optional<StandinWord> word_;
 };
 
 TEST_F(WordTest, TheWholePageGoesThroughTheWordProcessor) {
+    install();
     newPage("<B>teh</B>\r\n\r\nteh caf\xE9\r\n").txtPad().select(4, 4);
     EXPECT_EQ(check(), kDone);
-    EXPECT_EQ(word_.calls,
-              L"AppMinimize\nFileNew\nInsert <B>teh</B>\r\n\r\nteh caf\x00E9\r\n\nStartOfDocument\n"
-              L"EndOfDocument 1\nToolsSpelling\nEditSelectAll\nSelection\n"
-              L"SetDocumentVar MyVar <B>the</B>\r\rthe caf\x00E9\r\r\nGetDocumentVar MyVar\n"
-              L"FileCloseAll 2\nAppClose\nreleased\n");
+    EXPECT_EQ(calls(),
+              "AppMinimize\nFileNew\nInsert <B>teh</B>\r\n\r\nteh caf\xE9\r\n\nStartOfDocument\n"
+              "EndOfDocument 1\nToolsSpelling\nEditSelectAll\nSelection\n"
+              "SetDocumentVar MyVar <B>the</B>\r\rthe caf\xE9\r\r\nGetDocumentVar MyVar\n"
+              "FileCloseAll 2\nAppClose\nreleased\n");
     EXPECT_EQ(pageText(), "<B>the</B>\r\n\r\nthe caf\xE9\r\n");
     EXPECT_TRUE(active().txtPad().isChanged());
     EXPECT_EQ(selected(), "0-" + std::to_string(active().txtPad().textLength()));
@@ -104,9 +51,10 @@ TEST_F(WordTest, TheWholePageGoesThroughTheWordProcessor) {
 }
 
 TEST_F(WordTest, AnEmptyPageAsksNobodyAndOneWithoutMistakesStaysUnchanged) {
+    install();
     newPage("");
     run(tbrSpelling);
-    EXPECT_EQ(word_.calls, L"");
+    EXPECT_EQ(readFile(logPath()), "(no file)");
     EXPECT_TRUE(pageHasFocus());
     newPage("caf\xE9 \x80 fine\r\n\tend");
     EXPECT_EQ(check(), kDone);
@@ -115,9 +63,10 @@ TEST_F(WordTest, AnEmptyPageAsksNobodyAndOneWithoutMistakesStaysUnchanged) {
 }
 
 TEST_F(WordTest, OnlyTheSelectionIsSentAndReplaced) {
+    install();
     newPage("teh one\r\nteh two\r\nteh three").txtPad().select(9, 18);
     EXPECT_EQ(check(), kDone);
-    EXPECT_NE(word_.calls.find(L"Insert teh two\r\n\n"), std::wstring::npos);
+    EXPECT_NE(calls().find("Insert teh two\r\n\n"), std::string::npos);
     EXPECT_EQ(pageText(), "teh one\r\nthe two\r\nteh three");
     EXPECT_TRUE(active().txtPad().isChanged());
     EXPECT_EQ(clipboard(), "teh one\r\nteh two\r\nteh three");
@@ -128,30 +77,40 @@ TEST_F(WordTest, OnlyTheSelectionIsSentAndReplaced) {
 TEST_F(WordTest, EachCallThatFailsLeavesThePageAsItWas) {
     newPage("teh one\r\nteh two").txtPad().select(2, 5);
     win::SetClipboardText(main().mainHwnd(), "kept");
+    install("each");
     for (int failing = 1; failing <= 12; ++failing) {
         SCOPED_TRACE(failing);
-        word_ = {L"", failing};
         EXPECT_EQ(said(tbrSpelling), failing == 1 ? kNoWord : kFailed);
         EXPECT_EQ(pageText(), "teh one\r\nteh two");
         EXPECT_FALSE(active().txtPad().isChanged());
         EXPECT_EQ(selected(), "2-5");
         EXPECT_EQ(clipboard(), "kept");
         EXPECT_TRUE(::IsWindowEnabled(main().mainHwnd()));
-        EXPECT_TRUE(word_.calls.ends_with(L"\nreleased\n"));
+        EXPECT_TRUE(calls().ends_with("\nreleased\n"));
+        ::DeleteFileA(logPath().c_str());
     }
 }
 
+TEST_F(WordTest, WithoutAnySpellingThatIsSaid) {
+    newPage("teh");
+    EXPECT_EQ(said(tbrSpelling), kNoWord);
+}
+
+// What happens to the page while the word processor's own dialog is open.
 TEST_F(WordTest, ThePageCannotBeTouchedMeanwhileAndMayEvenGo) {
-    word_.asks = true;
+    install("ask");
     newPage("other");
-    const HWND child = newPage("teh").hwnd();
-    const User::Act meanwhile{"Stand-in spelling", [&](HWND asked) {
-                                  EXPECT_FALSE(::IsWindowEnabled(main().mainHwnd()));
-                                  ::SendMessageA(main().mdiClient(), WM_MDIDESTROY,
-                                                 reinterpret_cast<WPARAM>(child), 0);
-                                  ::PostMessageA(asked, WM_COMMAND, IDOK, 0);
-                              }};
-    EXPECT_EQ(heard([&] { run(tbrSpelling); }, {meanwhile, User::press("Quillon", IDOK)}), kFailed);
+    bool enabled = true;
+    const std::jthread user(
+        [&, child = newPage("teh").hwnd(), client = main().mdiClient(), mainWindow = main().mainHwnd()] {
+            HWND asked = nullptr;
+            EXPECT_TRUE(seen::Until([&] { return (asked = ::FindWindowA(nullptr, "Stand-in spelling")); }));
+            enabled = ::IsWindowEnabled(mainWindow) != FALSE;
+            ::SendMessageA(client, WM_MDIDESTROY, reinterpret_cast<WPARAM>(child), 0);
+            ::PostMessageA(asked, WM_COMMAND, IDOK, 0);
+        });
+    EXPECT_EQ(said(tbrSpelling), kFailed);
+    EXPECT_FALSE(enabled);
     EXPECT_EQ(main().documents().size(), 1U);
     EXPECT_EQ(pageText(), "other");
 }
@@ -243,7 +202,7 @@ class SystemSpellingTest : public AppTest {
     }
 
  private:
-    ClassServer server_{__uuidof(SpellCheckerFactory), [] { return new FakeCheckers; }};
+    ClassServer server_{__uuidof(SpellCheckerFactory), CLSCTX_INPROC_SERVER, [] { return new FakeCheckers; }};
 };
 
 TEST_F(SystemSpellingTest, EveryAnswerDoesWhatItSays) {

@@ -1,0 +1,20 @@
+// The stand-in for the word processor (tests/tools/standin_word), installed and removed.
+#pragma once
+
+#include <string>
+
+#include "support/class_key.h"
+
+constexpr CLSID kWordClass{0x5C5A5D0E, 0x2A53, 0x4B0A, {0x9C, 0x1B, 0x5B, 0x37, 0x2E, 0x64, 0x61, 0xD4}};
+
+// For the object's life it serves as "Word.Basic"; its log and its order are told in its source.
+class StandinWord {
+ public:
+    explicit StandinWord(const std::string& log, const std::string& order = "")
+        : server_("CLSID\\{5C5A5D0E-2A53-4B0A-9C1B-5B372E6461D4}\\LocalServer32",
+                  '"' + ToolPath("standin_word.exe") + "\" \"" + log + "\" " + order) {}
+
+ private:
+    ClassKey name_{"Word.Basic\\CLSID", "{5C5A5D0E-2A53-4B0A-9C1B-5B372E6461D4}"};
+    ClassKey server_;
+};

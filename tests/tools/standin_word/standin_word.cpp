@@ -1,0 +1,106 @@
+// Stands in for the word processor that is driven as "Word.Basic": a COM server with one document.
+//   standin_word LOG [ORDER]   writes each call as a line to LOG, and "released" when its caller has gone. By
+//                              the order "each" it serves callers one after the other, the n-th of whom sees
+//                              the n-th call fail; by "ask" its spelling dialog waits for an answer.
+#include "support/standin_word.h"
+#include "support/com_object.h"
+
+#include <fstream>
+
+namespace {
+
+constexpr int kCalls = 12;  // that one check makes
+
+struct Orders {
+    std::string log;
+    std::string order;
+    int failAt = 0;
+};
+
+class Word final : public ComObject<IDispatch> {
+ public:
+    explicit Word(Orders orders) : orders_(std::move(orders)) {}
+    ~Word() override {
+        log(L"released");
+        if (orders_.order != "each" || orders_.failAt == kCalls) ::PostQuitMessage(0);
+    }
+    STDMETHOD(GetTypeInfoCount)(UINT*) override { return E_NOTIMPL; }
+    STDMETHOD(GetTypeInfo)(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    STDMETHOD(GetIDsOfNames)(REFIID, LPOLESTR* names, UINT, LCID, DISPID*) override {
+        method_ = names[0];
+        return S_OK;
+    }
+    STDMETHOD(Invoke)
+    (DISPID, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* failure,
+     UINT*) override {
+        std::wstring line = method_;
+        std::wstring last;
+        for (UINT i = parameters->cArgs; i-- > 0;) {
+            VARIANT text{};
+            ::VariantChangeType(&text, &parameters->rgvarg[i], 0, VT_BSTR);
+            last.assign(text.bstrVal, ::SysStringLen(text.bstrVal));
+            ::VariantClear(&text);
+            line += L" " + last;
+        }
+        log(line);
+        if (++calls_ == orders_.failAt) {
+            failure->bstrDescription = ::SysAllocString(L"The stand-in was told to fail.");
+            return DISP_E_EXCEPTION;
+        }
+        const std::wstring value = run(last);
+        if (result) {
+            result->vt = VT_BSTR;
+            result->bstrVal = ::SysAllocStringLen(value.data(), static_cast<UINT>(value.size()));
+        }
+        return S_OK;
+    }
+
+ private:
+    std::wstring run(const std::wstring& argument) {
+        if (method_ == L"Insert") document_ = argument + L'\r';
+        if (method_ == L"ToolsSpelling") correct();
+        if (method_ == L"SetDocumentVar") variable_ = argument;
+        if (method_ == L"Selection") return document_;
+        return method_ == L"GetDocumentVar" ? variable_ : L"";
+    }
+
+    void correct() {
+        if (orders_.order == "ask")
+            ::MessageBoxA(nullptr, "Correct it?", "Stand-in spelling", MB_OK | MB_SETFOREGROUND);
+        std::erase(document_, L'\n');  // its paragraphs end with CR only
+        for (std::size_t at = 0; (at = document_.find(L"teh", at)) != std::wstring::npos;)
+            document_.replace(at, 3, L"the");
+    }
+
+    void log(const std::wstring& line) const {
+        std::string bytes(line.size(), '\0');
+        ::WideCharToMultiByte(CP_ACP, 0, line.data(), static_cast<int>(line.size()), bytes.data(),
+                              static_cast<int>(bytes.size()), nullptr, nullptr);
+        std::ofstream(orders_.log, std::ios::app | std::ios::binary) << bytes << '\n';
+    }
+
+    Orders orders_;
+    int calls_ = 0;
+    std::wstring method_, document_, variable_;
+};
+
+}  // namespace
+
+// "-Embedding", with which the system starts a server, is no order.
+int main(int argc, char** argv) {
+    if (argc < 2) return 1;
+    Orders orders{argv[1], argc > 2 ? argv[2] : ""};
+    ::CoInitialize(nullptr);
+    {
+        const ClassServer server(kWordClass, CLSCTX_LOCAL_SERVER, [&orders] {
+            if (orders.order == "each") ++orders.failAt;
+            return new Word(orders);
+        });
+        ::SetTimer(nullptr, 0, 60000, nullptr);  // ends it when nobody calls
+        MSG message{};
+        while (::GetMessageA(&message, nullptr, 0, 0) > 0 && message.message != WM_TIMER)
+            ::DispatchMessageA(&message);
+    }
+    ::CoUninitialize();
+    return 0;
+}
