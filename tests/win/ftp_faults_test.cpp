@@ -31,6 +31,7 @@ class FtpFaultsTest : public FtpTest {
     User::Act closeDuring(const std::string& command, const std::string& title, HWND& closing) {
         return {title, [=, &closing, main = main().mainHwnd()](HWND dialog) {
                     EXPECT_TRUE(wasTold(command)) << told();
+                    EXPECT_EQ(::GetForegroundWindow(), dialog) << "Esc reaches it";
                     EXPECT_TRUE(answers(dialog) && answers(main)) << command;
                     ::PostMessageA(closing ? closing : dialog, WM_CLOSE, 0, 0);
                 }};

@@ -5,7 +5,6 @@
 namespace ftp {
 namespace {
 
-constexpr std::size_t kPaddingBlanks = 1024;
 constexpr std::size_t kMaxExtension = 16;  // longer ones are cut like any other part of a name
 
 bool IsForbidden(char c) {
@@ -60,15 +59,6 @@ std::string ProposedLocalName(std::string_view remote) {
     if (IsDeviceName(name)) name.insert(0, "_");
     Shorten(name);
     return name.empty() ? "download" : name;
-}
-
-void FillNameBuffer(std::span<char> buffer, std::string_view name) {
-    if (buffer.empty()) return;
-    std::fill(buffer.begin(), buffer.end(), '\0');
-    const std::size_t room = buffer.size() - 1;
-    const std::string_view text = name.substr(0, std::min(name.find('\0'), room));
-    const auto end = std::copy(text.begin(), text.end(), buffer.begin());
-    std::fill_n(end, std::min(kPaddingBlanks, room - text.size()), ' ');
 }
 
 }  // namespace ftp

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstddef>
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -15,9 +14,5 @@ constexpr std::size_t kMaxLocalName = 128;  // bytes: leaves room for a folder w
 // both ends and dots at the end dropped, "_" before a device name such as "CON" or "com1.txt", and
 // the middle of an overlong name cut out. Never empty ("download"), never a path.
 std::string ProposedLocalName(std::string_view remote);
-
-// Fills a file dialog's buffer with `name`, 1024 blanks and a NUL, each as far as there is room; the
-// rest of the buffer is NUL. A NUL in the name ends it.
-void FillNameBuffer(std::span<char> buffer, std::string_view name);
 
 }  // namespace ftp
