@@ -3,8 +3,13 @@
 namespace win {
 namespace {
 
+bool IsInput(UINT message) {
+    return (message >= WM_KEYFIRST && message <= WM_KEYLAST) ||
+           (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST);
+}
+
 void Handle(MSG& message) {
-    const HWND top = message.hwnd ? ::GetAncestor(message.hwnd, GA_ROOT) : nullptr;
+    const HWND top = IsInput(message.message) ? ::GetAncestor(message.hwnd, GA_ROOT) : nullptr;
     // A window that its own key has closed cannot answer any more.
     const bool done =
         top &&

@@ -5,8 +5,8 @@
 
 namespace win {
 
-// Sent to the top-level window of a message before it is translated: lParam points to the MSG, a result
-// other than 0 says that the window has dealt with it (accelerators, dialog keys).
+// Sent to the top-level window of a key or mouse message before it is translated: lParam points to the MSG, a
+// result other than 0 says that the window has dealt with it (accelerators, dialog keys).
 inline constexpr UINT kPreTranslate = WM_APP + 0x100;
 
 // Runs until WM_QUIT and returns its exit code.
