@@ -63,6 +63,19 @@ void frmColors::layOut() const {
                    SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+// All boxes at once: a message and a device context for each would take the most of the time that the chart
+// needs to open.
+void frmColors::paint() const {
+    PAINTSTRUCT paint{};
+    ::BeginPaint(hwnd(), &paint);
+    ::EndPaint(hwnd(), &paint);
+    ::UpdateWindow(item(lblColor));
+    const HDC dc = ::GetDC(hwnd());
+    for (const Swatch& box : Text1_) box.drawInParent(dc);
+    ::ReleaseDC(hwnd(), dc);
+    ::RedrawWindow(hwnd(), nullptr, nullptr, RDW_VALIDATE | RDW_ALLCHILDREN);
+}
+
 void frmColors::insert(int index) const {
     win::SetClipboardText(main_.mainHwnd(), authoring::TextOfSwatch(index));
     const frmChild* page = main_.activeDocument();
@@ -112,7 +125,9 @@ bool frmColors::onCommand(WORD id, WORD notification) {
 
 INT_PTR frmColors::onMessage(UINT message, WPARAM wParam, LPARAM) {
     if (message == WM_KEYDOWN && wParam == VK_ESCAPE) unload();
-    return FALSE;
+    if (message != WM_PAINT) return FALSE;
+    paint();
+    return TRUE;
 }
 
 namespace authoring {

@@ -22,6 +22,7 @@ class frmColors : public win::Dialog {
     bool onCommand(WORD id, WORD notification) override;
     INT_PTR onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void layOut() const;
+    void paint() const;
     void pick(int index);
     void insert(int index) const;
     void unload();

@@ -18,6 +18,15 @@ bool IsLight(int index) {
     return color.red * 3 + color.green * 6 + color.blue > 5 * 255;
 }
 
+// Within the chart, in pixels.
+RECT Place(int index) {
+    const SwatchPlace place = PlaceOfSwatch(index);
+    const int left = win::PixelsFromTwips(place.left);
+    const int top = win::PixelsFromTwips(place.top);
+    const int size = win::PixelsFromTwips(place.size);
+    return {left, top, left + size, top + size};
+}
+
 }  // namespace
 
 bool Swatch::isSwatch(int id) {
@@ -26,12 +35,10 @@ bool Swatch::isSwatch(int id) {
 
 void Swatch::create(HWND parent, int index) {
     index_ = index;
-    const SwatchPlace place = PlaceOfSwatch(index);
-    const int size = win::PixelsFromTwips(place.size);
+    const RECT place = Place(index);
     attach(win::Check(::CreateWindowExA(WS_EX_NOPARENTNOTIFY, "EDIT", TextOfSwatch(index).c_str(),
-                                        WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_READONLY,
-                                        win::PixelsFromTwips(place.left), win::PixelsFromTwips(place.top),
-                                        size, size, parent,
+                                        WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_READONLY, place.left,
+                                        place.top, place.right - place.left, place.bottom - place.top, parent,
                                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(kFirstId + index)),
                                         ::GetModuleHandleA(nullptr), nullptr)));
 }
@@ -86,9 +93,17 @@ bool Swatch::handleKey(WPARAM key) const {
 // All by ourselves: the control would take several times as long, for text that nobody is to see.
 void Swatch::paint() const {
     PAINTSTRUCT paint{};
-    const HDC dc = ::BeginPaint(hwnd(), &paint);
     RECT area{};
     ::GetClientRect(hwnd(), &area);
+    draw(::BeginPaint(hwnd(), &paint), area);
+    ::EndPaint(hwnd(), &paint);
+}
+
+void Swatch::drawInParent(HDC dc) const {
+    draw(dc, Place(index_));
+}
+
+void Swatch::draw(HDC dc, RECT area) const {
     ::FrameRect(dc, &area, ::GetSysColorBrush(COLOR_BTNSHADOW));
     ::InflateRect(&area, -1, -1);
     ::SetDCBrushColor(dc, ColorRef(index_));
@@ -100,7 +115,6 @@ void Swatch::paint() const {
             ::FrameRect(dc, &area, brush);
         }
     }
-    ::EndPaint(hwnd(), &paint);
 }
 
 LRESULT Swatch::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -134,6 +148,8 @@ LRESULT Swatch::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             ::InvalidateRect(hwnd(), nullptr, FALSE);
             return result;
         }
+        case WM_NCPAINT:  // there is no frame
+            return 0;
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:

@@ -17,6 +17,8 @@ class Swatch : public win::Control {
     static bool isSwatch(int id);
 
     void create(HWND parent, int index);
+    // Draws the box where it stands in its parent.
+    void drawInParent(HDC dc) const;
 
  private:
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -25,6 +27,7 @@ class Swatch : public win::Control {
     void click() const;
     void release(LPARAM at) const;
     void paint() const;
+    void draw(HDC dc, RECT area) const;
 
     int index_ = 0;
 };

@@ -3,10 +3,14 @@
 namespace win {
 
 int SystemDpi() {
-    const HDC screen = ::GetDC(nullptr);
-    const int dpi = ::GetDeviceCaps(screen, LOGPIXELSY);
-    ::ReleaseDC(nullptr, screen);
-    return dpi;
+    // It is the same for as long as the process lives.
+    static const int known = [] {
+        const HDC screen = ::GetDC(nullptr);
+        const int dpi = ::GetDeviceCaps(screen, LOGPIXELSY);
+        ::ReleaseDC(nullptr, screen);
+        return dpi;
+    }();
+    return known;
 }
 
 }  // namespace win
