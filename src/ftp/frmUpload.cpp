@@ -374,15 +374,15 @@ bool frmUpload::onCommand(WORD id, WORD notification) {
         if (::GetFocus() == item(txtPassword)) cmdPassword_Click();
         return true;
     }
+    if (notification != BN_CLICKED) return false;
     if (id == cmdPassword) {
         cmdPassword_Click();
-        return true;
-    }
-    if (id == cmdShut) {
+    } else if (id == cmdShut) {
         CloseSession();
-        return true;
+    } else {
+        return ftp::RunCommand(*this, id, lstRemoteFiles_.selected());
     }
-    return notification == BN_CLICKED && ftp::RunCommand(*this, id, lstRemoteFiles_.selected());
+    return true;
 }
 
 INT_PTR frmUpload::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
