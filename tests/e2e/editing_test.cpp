@@ -89,24 +89,39 @@ TEST_F(EditingTest, WhatCannotBeOpenedAtTheStartIsToldAndCostsNothing) {
     EXPECT_TRUE(locked.isRunning());
 }
 
+// The names and sizes of files.
+std::string Listing(const std::string& pattern) {
+    std::string files;
+    WIN32_FIND_DATAA found{};
+    const HANDLE find = ::FindFirstFileA(pattern.c_str(), &found);
+    for (BOOL any = find != INVALID_HANDLE_VALUE; any; any = ::FindNextFileA(find, &found))
+        files += found.cFileName + (" " + std::to_string(found.nFileSizeLow)) + "\n";
+    ::FindClose(find);
+    return files;
+}
+
 TEST_F(EditingTest, KilledInMidSaveItLeavesTheOldFileOrTheNewOne) {
     const std::string path = scratch("killed.htm");
     const std::string page = RealPage(20000);
     const std::string saved = "x" + page + "\r\n";
     std::mt19937 random(20260);
     int fresh = 0;
-    const int rounds = EnvironmentNumber("QUILLON_KILLS", 40);
+    const int rounds = EnvironmentNumber("QUILLON_KILLS", 100);
     for (int round = 0; round < rounds; ++round) {
         writeFile(path, page);
         Quillon quillon(path);
         ::PostMessageA(quillon.pad(), WM_CHAR, 'x', 0);
+        const std::string before = Listing(scratch("*"));
         quillon.choose(mnuFileSave);
-        for (unsigned spin = random() % 8000; spin > 0; --spin) ::SwitchToThread();
+        const DWORD start = ::GetTickCount();
+        while (Listing(scratch("*")) == before) ASSERT_LT(::GetTickCount() - start, 10000U);
+        for (unsigned spin = random() % 500; spin > 0; --spin) ::SwitchToThread();
         quillon.kill();
         const std::string left = readFile(path);
         ASSERT_TRUE(left == page || left == saved) << "round " << round << ": " << left.size() << " bytes";
         fresh += left == saved;
     }
+    EXPECT_TRUE(0 < fresh && fresh < rounds) << "the save itself was never hit";
     std::printf("%d kills: %d left the old file, %d the new one, none less\n", rounds, rounds - fresh, fresh);
 }
 
