@@ -5,9 +5,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <limits>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "check.h"
@@ -18,12 +18,13 @@ namespace {
 
 using settings::Row;
 
-// Every other key sorts behind all numbers.
-unsigned long Number(const Row& row) {
+// Every other key sorts behind all numbers, the largest too.
+std::pair<bool, unsigned long> Rank(const Row& row) {
     unsigned long number = 0;
     const char* end = row.key.data() + row.key.size();
     const auto [stop, error] = std::from_chars(row.key.data(), end, number);
-    return error == std::errc() && stop == end ? number : std::numeric_limits<unsigned long>::max();
+    if (error == std::errc() && stop == end) return {false, number};
+    return {true, 0};
 }
 
 void CheckRecent(const std::string& count, const std::string& path, const std::vector<Row>& rows) {
@@ -64,7 +65,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     std::vector<Row> sorted = rows;
     std::stable_sort(sorted.begin(), sorted.end(),
-                     [](const Row& a, const Row& b) { return Number(a) < Number(b); });
+                     [](const Row& a, const Row& b) { return Rank(a) < Rank(b); });
     settings::SortRows(rows);
     Check(rows == sorted);
     CheckRecent(count, path, rows);
