@@ -23,7 +23,7 @@ void Print(const std::string& what, double ours, double theirs, double aim);
 std::string Page(std::size_t bytes);
 
 // Streams the page into a control of the bare class, which is then destroyed.
-void BareControl(HWND parent, const std::string& page);
+void BareControl(HWND parent, std::u16string_view page);
 
 // A path in the folder for what the benchmark writes.
 std::string Scratch(const std::string& name);

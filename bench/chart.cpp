@@ -1,5 +1,5 @@
 // Opening the colour chart until it is painted, beside the time that a user takes for none.
-#include "authoring/frmColors.h"
+#include "authoring/colours/frmColors.h"
 #include "bench.h"
 #include "win/message_loop.h"
 

@@ -1,18 +1,19 @@
 // Finding, replacing and resetting, beside what the bare control needs for the same.
-#include "authoring/frmFind.h"
-#include "authoring/frmReplace.h"
-#include "authoring/page_reset.h"
+#include "authoring/find/frmFind.h"
+#include "authoring/find/frmReplace.h"
 #include "bench.h"
 #include "document/frmChild.h"
 #include "files/open_file.h"
+#include "files/page_reset.h"
 #include "forms/frmFind.h"
 #include "forms/frmReplace.h"
+#include "win/unicode.h"
 
 namespace bench {
 namespace {
 
 void Fill(HWND dialog, int box, const std::string& text) {
-    ::SetDlgItemTextA(dialog, box, text.c_str());
+    ::SetDlgItemTextW(dialog, box, win::ToWide(text).c_str());
 }
 
 void Click(HWND dialog, int button) {
@@ -38,7 +39,7 @@ std::string PageOfMatches(std::size_t bytes) {
 }
 
 void CountMatches(MainWindow& main) {
-    const frmChild& page = frmChild::open(main, "matches.htm", PageOfMatches(1000000));
+    const frmChild& page = frmChild::open(main, "matches.htm", document::NewPage(PageOfMatches(1000000)));
     frmFind::show(main);
     const HWND dialog = win::Dialog::find(main.mainHwnd(), "frmFind")->hwnd();
     Compare(
@@ -52,19 +53,19 @@ void CountMatches(MainWindow& main) {
 }
 
 void ReplaceAll(MainWindow& main) {
-    frmChild& page = frmChild::open(main, "matches.htm", "");
-    const std::string before = PageOfMatches(500000);
-    std::string after;
+    frmChild& page = frmChild::open(main, "matches.htm", document::NewPage(""));
+    const std::u16string before = win::Utf16FromUtf8(PageOfMatches(500000));
+    std::u16string after;
     HWND dialog = nullptr;
     Compare(
-        "Replace All in 500 KB, beside a bare control streaming the result", 1.5, 5,
+        "Replace All in 500 KB, beside a bare control streaming the result", 1.3, 5,
         [&] {
             Click(dialog, cmdReplaceAll);
             after = page.txtPad().text();
         },
         [&] { BareControl(main.mainHwnd(), after); },
         [&] {
-            page.setPage(before);
+            page.replacePage(before);
             frmReplace::show(main);
             dialog = win::Dialog::find(main.mainHwnd(), "frmReplace")->hwnd();
             Fill(dialog, txtReplace, "needle");
@@ -77,11 +78,12 @@ void ReplaceAll(MainWindow& main) {
 void Reset(MainWindow& main) {
     const std::string path = Scratch("reset.htm");
     const std::string saved = PageOfMatches(500000);
+    const std::u16string text = win::Utf16FromUtf8(saved);
     WriteFile(path, saved);
-    const frmChild& page = *files::OpenFile(main, path);
+    frmChild& page = *files::OpenFile(main, path);
     Compare(
-        "resetting 500 KB, beside a bare control streaming it", 1.5, 5, [&] { authoring::OnReset(main, 0); },
-        [&] { BareControl(main.mainHwnd(), saved); }, [&] { page.txtPad().replaceSelection("edit"); });
+        "resetting 500 KB, beside a bare control streaming it", 1.5, 5, [&] { files::OnReset(main, 0); },
+        [&] { BareControl(main.mainHwnd(), text); }, [&] { page.insert(u"edit"); });
     page.txtPad().setChanged(false);
     ::SendMessageA(page.hwnd(), WM_CLOSE, 0, 0);
 }

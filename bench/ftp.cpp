@@ -1,5 +1,6 @@
 // Listing and uploading in the FTP window, beside the bare calls of WinINet's in the same order.
-#include "ftp/core/scramble.h"
+#include "document/system_code_pages.h"
+#include "ftp/core/password.h"
 #include "ftp/frmUpload.h"
 #include "ftp/site_store.h"
 
@@ -26,7 +27,8 @@ std::unique_ptr<ftp::FtpSession> MakeSession() {
 }
 
 frmUpload& OpenWindow(MainWindow& main) {
-    const ftp::Site site{0, "127.0.0.1/own", "user", ftp::ScramblePassword("secret")};
+    const std::string password = ftp::StoredPassword("secret", document::SystemCodePages());
+    const ftp::Site site{0, "127.0.0.1/own", "user", password};
     ftp::Apply(ftp::AddSite(ftp::ReadSections(), site).changes);
     frmUpload::open(main, 0, MakeSession);
     win::Dialog* form = win::Dialog::find(main.mainHwnd(), "frmUpload");
@@ -34,7 +36,11 @@ frmUpload& OpenWindow(MainWindow& main) {
     return static_cast<frmUpload&>(*form);
 }
 
+// The calls that a listing takes, by themselves.
 void BareListing(HINTERNET server) {
+    char directory[MAX_PATH];
+    DWORD size = sizeof directory;
+    win::Check(::FtpGetCurrentDirectoryA(server, directory, &size));
     WIN32_FIND_DATAA found{};
     std::vector<std::string> names;
     const HINTERNET find = win::Check(::FtpFindFirstFileA(server, "*", &found, 0, 0));
@@ -43,7 +49,7 @@ void BareListing(HINTERNET server) {
     } while (::InternetFindNextFileA(find, &found));
     ::InternetCloseHandle(find);
     for (const std::string& name : names) {
-        ::FtpSetCurrentDirectoryA(server, (std::string(kFolder) + "/" + name).c_str());
+        ::FtpSetCurrentDirectoryA(server, (std::string(directory) + "/" + name).c_str());
     }
 }
 
@@ -51,13 +57,8 @@ void BareListing(HINTERNET server) {
 
 void Ftp(MainWindow& main) {
     frmUpload& form = OpenWindow(main);
-    const auto tell = [&form](ftp::RemoteCommand command, const std::string& first, const char* second = "") {
-        form.work("PROCESSING REQUEST...", [&](ftp::FtpSession& session) {
-            if (!session.tell(command, first, second)) throw win::Failure("The server refused a command.");
-        });
-    };
     const HINTERNET internet =
-        ::InternetOpenA("Quillon bench", INTERNET_OPEN_TYPE_DIRECT, nullptr, nullptr, 0);
+        ::InternetOpenW(L"Quillon bench", INTERNET_OPEN_TYPE_DIRECT, nullptr, nullptr, 0);
     HINTERNET server = nullptr;
     const auto connect = [&] {
         ::InternetCloseHandle(server);
@@ -69,14 +70,18 @@ void Ftp(MainWindow& main) {
     WriteFile(path, Page(10000000));
     Compare(
         "uploading 10 MB by FTP, beside WinINet's bare call", 1.1, 5,
-        [&] { tell(ftp::RemoteCommand::put, path, "/own/large.htm"); },
+        [&] {
+            const std::optional<ftp::Unsent> unsent = form.send(ftp::OpenFiles({path}));
+            if (!unsent || !unsent->none()) throw win::Failure("The upload failed.");
+        },
         [&] {
             win::Check(::FtpPutFileA(server, path.c_str(), "/own/large.htm", FTP_TRANSFER_TYPE_ASCII, 0));
         },
         connect);
-    tell(ftp::RemoteCommand::changeDirectory, kFolder);
+    form.change("PROCESSING REQUEST...",
+                [](ftp::FtpSession& session) { return session.changeDirectory(kFolder); });
     Compare(
-        "listing 1,000 files by FTP, beside WinINet's bare calls", 1.1, 3, [&] { form.ListRemote(); },
+        "listing 1,000 files by FTP, beside WinINet's bare calls", 1.05, 3, [&] { form.ListRemote(); },
         [&] { BareListing(server); }, connect);
     ::InternetCloseHandle(internet);
     form.close();

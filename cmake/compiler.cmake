@@ -14,7 +14,7 @@ endif()
 if(WIN32)
     # Windows XP is the floor: a newer call is looked up at run time, so the headers must not offer it.
     target_compile_definitions(quillon_flags INTERFACE
-        _WIN32_WINNT=0x0501 WINVER=0x0501 _WIN32_IE=0x0600 WIN32_LEAN_AND_MEAN NOMINMAX STRICT)
+        _WIN32_WINNT=0x0501 WINVER=0x0501 _WIN32_IE=0x0600 UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX STRICT)
     if(NOT MSVC)
         target_compile_options(quillon_flags INTERFACE -ffunction-sections -fdata-sections -fno-rtti -g)
         if(CMAKE_SIZEOF_VOID_P EQUAL 4)
@@ -22,10 +22,11 @@ if(WIN32)
             target_compile_options(quillon_flags INTERFACE -mpreferred-stack-boundary=2)
             # One partition: GCC 12 fails on several, and one comes out smaller, by a seventh of the program.
             target_compile_options(quillon_flags INTERFACE -flto=1)
-            target_link_options(quillon_flags INTERFACE -flto=1 -flto-partition=one)
+            # A page takes some hundred bytes of memory for each character.
+            target_link_options(quillon_flags INTERFACE -flto=1 -flto-partition=one -Wl,--large-address-aware)
         endif()
         target_link_options(quillon_flags INTERFACE
-            -static -Wl,--gc-sections -Wl,--no-insert-timestamp -Wl,--dynamicbase -Wl,--nxcompat)
+            -static -Wl,--tsaware -Wl,--gc-sections -Wl,--no-insert-timestamp -Wl,--dynamicbase -Wl,--nxcompat)
     endif()
 else()
     set(sanitize -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -1,19 +1,66 @@
 # Sourced by the other scripts: where things lie, how steps are told, how Wine's programs are started.
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2034
 
 project=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cache=${XDG_CACHE_HOME:-~/.cache}/quillon
-# Where apt cannot install 32-bit Wine, setup makes an i386 Debian of its own here.
-wine_root=$cache/wine-root
+# Locales for QUILLON_LOCALE, from which Windows programs take their code page, and QUILLON_LANGUAGE, from
+# which they take the user's language: casing, formats, and the texts of Wine's own dialogs.
+locales=$cache/locales
 prefix=$(realpath -ms "${QUILLON_PREFIX:-$project/build/wine-prefix}")
 
 say() { printf '%s\n' "$*" >&2; }
 die() { say "$(basename "$0"): $*"; exit 1; }
 
+# Whether the kernel runs 32-bit programs, tried with an ELF file that does nothing but end. The fields that
+# nobody reads are not zero in it, so no emulator that is registered for such programs takes it for one.
+runs_32_bits() {
+    local probe code=0
+    mkdir -p "$project/build"
+    probe=$(mktemp -p "$project/build" 32-bits.XXXXXX)
+    {
+        printf '\x7fELF\1\1\1\1\1\1\1\1\1\1\1\1\2\0\3\0\1\0\0\0'  # a program for the 80386
+        printf '\x54\x80\4\x8\x34\0\0\0\0\0\0\0\0\0\0\0\x34\0\x20\0\1\0\x28\0\0\0\0\0'  # begins at 8048054
+        printf '\1\0\0\0\0\0\0\0\0\x80\4\x8\0\x80\4\x8\x60\0\0\0\x60\0\0\0\5\0\0\0\0\x10\0\0'
+        printf '\x31\xdb\x31\xc0\x40\xcd\x80\0\0\0\0\0'  # exit(0)
+    } >"$probe"
+    chmod +x "$probe"
+    ("$probe") 2>/dev/null || code=$?
+    rm -f "$probe"
+    return "$code"
+}
+
+# What Windows programs are tried here: the 32-bit build, which ships, wherever the machine runs it.
+if [[ ! ${QUILLON_BITS-} ]]; then
+    if runs_32_bits; then QUILLON_BITS=32; else QUILLON_BITS=64; fi
+    export QUILLON_BITS
+fi
+bits=$QUILLON_BITS
+preset=win$bits
+wine_root=
+if (( bits == 32 )); then
+    program=$project/dist/Quillon.exe
+    # Where apt cannot install 32-bit Wine, setup makes an i386 Debian of its own here.
+    wine_root=$cache/wine-root
+else
+    program=$project/build/$preset/Quillon.exe
+fi
+
 # configure PRESET [OPTION...]: readies build/PRESET; silent unless CMake complains.
 configure() {
     mkdir -p "$project/build"
-    cmake --preset "$@" >"$project/build/configure-$1.log" 2>&1 || die "$(<"$project/build/configure-$1.log")"
+    CMAKE_CXX_COMPILER_LAUNCHER=$(command -v ccache || true) cmake --preset "$@" >"$project/build/configure-$1.log" 2>&1 || die "$(<"$project/build/configure-$1.log")"
+}
+
+# build_program [TARGET...]: $program, and targets that go with it.
+build_program() {
+    if (( bits == 32 )); then
+        "$project/scripts/build"
+    else
+        say "Building $program"
+        configure "$preset"
+        set -- Quillon "$@"
+    fi
+    (( $# == 0 )) || cmake --build "$project/build/$preset" --target "$@" -- --quiet
 }
 
 # The Windows path of a Unix path. Drive Z: of a prefix is the root directory.
@@ -27,7 +74,9 @@ windows_path() {
 # lies in the prefix so that nothing, the trash included, reaches the user's own; the first override
 # keeps Wine's programs out of the user's menus, the second keeps Wine from asking for downloads.
 set_view() {
-    view=(env WINEPREFIX="$prefix" WINEARCH=win32 WINEDEBUG="${WINEDEBUG--all}" LC_ALL=C.UTF-8
+    view=(env WINEPREFIX="$prefix" WINEARCH="$preset" WINEDEBUG="${WINEDEBUG--all}"
+        LC_ALL='' LANG="${QUILLON_LOCALE:-C.UTF-8}" LC_CTYPE="${QUILLON_LOCALE:-C.UTF-8}"
+        LC_MESSAGES="${QUILLON_LANGUAGE:-${QUILLON_LOCALE:+en_US.UTF-8}}" LOCPATH="$locales"
         WINEDLLOVERRIDES='winemenubuilder.exe=d;mscoree,mshtml='
         XAUTHORITY="${XAUTHORITY:-${HOME-}/.Xauthority}" HOME="$prefix/home")
     [[ -d $wine_root ]] || return 0
@@ -52,7 +101,7 @@ ensure_prefix() {
     [[ ! -d $prefix ]] || return 0
     local version template new=$prefix.new.$$
     version=$(in_wine wine --version | grep -o '[0-9][0-9.]*' | head -n 1)
-    template=$cache/wine-prefix-$version
+    template=$cache/wine-prefix-$version-$bits
     [[ -d $template ]] || make_template "$template"
     say "Making the Wine prefix $prefix"
     mkdir -p "$(dirname "$prefix")"

@@ -30,17 +30,17 @@ with_small_disk() {
     fi
 }
 
-# in_windows PROGRAM FILTER: runs a test program of build/win32/tests on a display and in a prefix of its
+# in_windows PROGRAM FILTER [OPTION...]: runs a test program of build/$preset/tests on a display and in a prefix of its
 # own.
 in_windows() {
     local scratch=$results/$1-scratch
     rm -rf "$scratch"
     mkdir -p "$scratch"
     QUILLON_PREFIX=$results/$1-prefix QUILLON_SCRATCH=$(windows_path "$scratch") \
-        QUILLON_EXE=$(windows_path "$project/dist/Quillon.exe") \
+        QUILLON_EXE=$(windows_path "$program") \
         with_small_disk "$results/$1-disk" "$project/tests/ftp/servers" "$project/scripts/headless" \
         timeout --foreground --kill-after=10 "${QUILLON_TEST_SECONDS:-900}" \
-        "$project/scripts/wine" "$project/build/win32/tests/$1.exe" "--gtest_filter=$2"
+        "$project/scripts/wine" "$project/build/$preset/tests/$1.exe" "--gtest_filter=$2" "${@:3}"
 }
 
 # step NAME COMMAND...: runs the command, keeps its output, tells and keeps what came of it. A program of

@@ -3,22 +3,29 @@
 #include "shell/frmNotePad.h"
 #include "shell/modPrevious.h"
 #include "shell/start_up.h"
+#include "win/late.h"
 #include "win/message_box.h"
 #include "win/message_loop.h"
 
 namespace {
 
 int RunProgram() {
-    const modPrevious::InstanceMark mark;
+    win::SearchSystemDllsOnly();
+    // No box of the system's about a drive that is empty: whoever cannot read a file says so.
+    ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
+    modPrevious::InstanceMark mark;
     const std::string file = shell::CommandLineFile();
-    if (!mark.isFirst()) {
-        modPrevious::HandOver(file);
-        return 0;
-    }
-    INITCOMMONCONTROLSEX controls{sizeof controls, ICC_STANDARD_CLASSES | ICC_BAR_CLASSES};
+    if (!mark.isFirst() && modPrevious::HandOver(mark, file)) return 0;
+    // The folder that the program was started in can be renamed and removed while it runs.
+    ::SetCurrentDirectoryW(win::SystemFolder().c_str());
+    INITCOMMONCONTROLSEX controls{sizeof controls, ICC_STANDARD_CLASSES | ICC_BAR_CLASSES | ICC_LINK_CLASS};
     ::InitCommonControlsEx(&controls);
     ::OleInitialize(nullptr);
-    shell::Load(frmNotePad::open(), file);
+    frmNotePad& window = frmNotePad::open();
+    const HWND main = window.hwnd();
+    shell::Load(window, file);
+    // A box of the start may have been answered by closing the program.
+    if (::IsWindow(main)) window.restorePages();
     const int code = win::RunMessageLoop();
     ::OleUninitialize();
     return code;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,7 @@ class MainWindow {
     virtual HWND mainHwnd() const = 0;  // null once the window is gone
     virtual HWND mdiClient() const = 0;
     virtual win::MenuBar& menu() = 0;
+    virtual const win::MenuBar& menu() const = 0;
     virtual const std::string& temporaryFolder() const = 0;  // ends in a backslash
 
     virtual frmChild* activeDocument() const = 0;  // null when no document is open
@@ -37,6 +39,8 @@ class MainWindow {
 
     // Runs a command as if its menu item had been chosen, after the messages now under way.
     virtual void postCommand(Command command) = 0;
+    // Until it is taken back by an empty one: asked before the program closes, and false keeps it open.
+    virtual void askBeforeClosing(std::function<bool()> mayClose) = 0;
     // The save-as dialog for this document, active or not.
     virtual void saveAs(frmChild& document) = 0;
 
@@ -44,9 +48,15 @@ class MainWindow {
     virtual DocumentId documentCreated(frmChild& document) = 0;
     virtual void documentClosed(frmChild& document) = 0;
     virtual void documentRenamed(frmChild& document) = 0;
+    virtual void documentChanged(frmChild& document) = 0;
+    virtual void documentSaved(frmChild& document) = 0;
+    // Has its recovery copy hold what the page holds now.
+    virtual void keepCopy(frmChild& document) = 0;
     virtual void documentActivated(frmChild& document) = 0;
-    // The files that were dropped onto its page, in their order; none when it was something else.
-    virtual void filesDropped(DocumentId document, const std::vector<std::string>& paths) = 0;
+    // The files that were dropped onto its page, in their order; none when it was something else. Reads them
+    // at once, for their owner waits and may delete them afterwards; the result is what is left to do then.
+    virtual std::function<void()> filesDropped(DocumentId document,
+                                               const std::vector<std::string>& paths) = 0;
 
  protected:
     ~MainWindow() = default;

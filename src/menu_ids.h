@@ -60,6 +60,11 @@ enum : Command {
     // Opens the list of all toolbar commands, for hands that stay on the keyboard.
     tbrList = 0x0410,
 
+    // The buttons of the toolbar by their index: button i has the id tbrPicture1 + i. Ids above the last one's stand
+    // for no button.
+    tbrPicture1 = 0x0420,
+    tbrPicture1End = 0x0440,
+
     // The items of the window list, and above them the range that the MDI client numbers its children in.
     windowList = 0x1000,
     mdiChildren = 0xC000,

@@ -4,15 +4,9 @@
 #include <array>
 
 #include "menu_ids.h"
+#include "win/tool_bar.h"
 
-struct ToolButton {
-    const char* tip;  // tool tip and window text
-    Command command;
-    const char* picture;  // name of the icon resource
-    bool beginsGroup = false;
-};
-
-inline constexpr auto kToolbar = std::to_array<ToolButton>({
+inline constexpr auto kToolbar = std::to_array<win::ToolButton>({
     {"New", mnuFileNew, "new"},
     {"Open", mnuFileOpen, "open"},
     {"Close", mnuFileClose, "close"},

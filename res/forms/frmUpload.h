@@ -5,6 +5,7 @@
 #define cmdUpDir 105
 #define cmdMakeDir 106
 #define lblMode 107
+#define lblFtpSite 108
 #define upType 110 /* 3 items */
 #define txtPassword 120
 #define cmdPassword 121

@@ -2,11 +2,12 @@
 
 #include "document/frmChild.h"
 #include "win/clipboard.h"
+#include "win/unicode.h"
 
 namespace document {
 
-void InsertAtCaret(MainWindow& main, const std::string& fragment) {
-    if (frmChild* page = main.activeDocument()) page->txtPad().replaceSelection(fragment);
+void InsertAtCaret(MainWindow& main, std::string_view fragment) {
+    if (frmChild* page = main.activeDocument()) page->insert(win::Utf16FromUtf8(fragment));
 }
 
 void OnEditCut(MainWindow& main, int) {
@@ -42,7 +43,7 @@ void OnWindowState(MainWindow& main, int index) {
     if (index == 1) {
         ::ShowWindow(page->hwnd(), SW_MINIMIZE);
     } else {
-        ::SendMessageA(main.mdiClient(), index == 2 ? WM_MDIMAXIMIZE : WM_MDIRESTORE,
+        ::SendMessageW(main.mdiClient(), index == 2 ? WM_MDIMAXIMIZE : WM_MDIRESTORE,
                        reinterpret_cast<WPARAM>(page->hwnd()), 0);
     }
 }

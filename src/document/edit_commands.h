@@ -1,7 +1,7 @@
 // The Edit and Window menus, and the one way in which a tool puts text into a page.
 #pragma once
 
-#include <string>
+#include <string_view>
 
 #include "main_window.h"
 
@@ -9,7 +9,7 @@ namespace document {
 
 // Replaces the active document's selection; the caret ends behind the text. An empty fragment deletes the
 // selection.
-void InsertAtCaret(MainWindow& main, const std::string& fragment);
+void InsertAtCaret(MainWindow& main, std::string_view fragment);
 
 void OnEditCut(MainWindow& main, int);
 void OnEditCopy(MainWindow& main, int);

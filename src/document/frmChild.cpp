@@ -2,15 +2,18 @@
 
 #include <algorithm>
 #include <exception>
+#include <numeric>
 #include <utility>
 
 #include "document/core/font_size.h"
 #include "document/page_keys.h"
+#include "document/system_code_pages.h"
 #include "settings/CRegSettings.h"
 #include "win/clipboard.h"
 #include "win/drop_target.h"
 #include "win/message_box.h"
 #include "win/message_loop.h"
+#include "win/unicode.h"
 
 namespace {
 
@@ -29,9 +32,10 @@ document::Font StoredFont() {
             points > 0 ? points : frmChild::kDefaultPoints};
 }
 
-std::string UpperCase(std::string text) {
-    ::CharUpperBuffA(text.data(), static_cast<DWORD>(text.size()));
-    return text;
+std::string UpperCase(const std::string& text) {
+    std::wstring wide = win::ToWide(text);
+    ::CharUpperBuffW(wide.data(), static_cast<DWORD>(wide.size()));
+    return win::ToUtf8(wide);
 }
 
 }  // namespace
@@ -49,7 +53,19 @@ class frmChild::Pad : public document::RichEdit {
                 dropTypedCharacter();
                 return 0;
             case WM_CHAR:
+            case WM_IME_CHAR:
                 if (wParam == '\t') return 0;
+                if (wParam < 0x80) break;
+                type(static_cast<char16_t>(wParam));
+                return 0;
+            case EM_REPLACESEL:
+                page_.insert(win::AsUtf16(reinterpret_cast<const wchar_t*>(lParam)));
+                return 0;
+            case WM_LBUTTONDOWN:
+                dropSelectionAt(lParam);
+                break;
+            case WM_RBUTTONDOWN:
+                page_.activate();
                 break;
             case WM_PASTE:
                 page_.kidPaste();
@@ -69,8 +85,9 @@ class frmChild::Pad : public document::RichEdit {
                 win::AcceptDrops(hwnd());
                 return 0;
             case win::kDropped:
-                page_.drops_.push_back(*reinterpret_cast<const std::vector<std::string>*>(lParam));
-                ::PostMessageA(page_.hwnd(), kDropsWaiting, 0, 0);
+                if (!win::DroppedFiles()) return 0;
+                page_.drops_.push_back(page_.main_.filesDropped(page_.id(), *win::DroppedFiles()));
+                ::PostMessageW(page_.hwnd(), kDropsWaiting, 0, 0);
                 return 0;
             case WM_DESTROY:
                 win::RefuseDrops(hwnd());
@@ -81,41 +98,76 @@ class frmChild::Pad : public document::RichEdit {
         return RichEdit::onMessage(message, wParam, lParam);
     }
 
+    // The control would take a character through the code page. One beyond U+FFFF comes as two messages.
+    void type(char16_t unit) {
+        const bool opensPair = unit >= 0xD800 && unit < 0xDC00;
+        const std::u16string typed = std::exchange(pending_, {}) + unit;
+        if (opensPair) {
+            pending_ = unit;
+        } else {
+            page_.insert(typed);
+        }
+    }
+
+    // A press on selected words would begin to drag them, to nowhere that takes them.
+    void dropSelectionAt(LPARAM point) {
+        const document::Selection selected = selection();
+        if (selected.length() == 0) return;
+        POINTL at{static_cast<short>(LOWORD(point)), static_cast<short>(HIWORD(point))};
+        const long pressed = static_cast<long>(send(EM_CHARFROMPOS, 0, reinterpret_cast<LPARAM>(&at)));
+        if (pressed >= selected.start && pressed < selected.end && ::GetKeyState(VK_SHIFT) >= 0)
+            select(pressed, pressed);
+    }
+
     // The character of a key that we have dealt with is already in the queue.
     void dropTypedCharacter() const {
         MSG typed{};
-        ::PeekMessageA(&typed, hwnd(), WM_CHAR, WM_CHAR, PM_REMOVE);
+        ::PeekMessageW(&typed, hwnd(), WM_CHAR, WM_CHAR, PM_REMOVE);
     }
 
     frmChild& page_;
+    std::u16string pending_;  // the first half of a character
 };
 
-frmChild& frmChild::open(MainWindow& main, const std::string& caption, std::string_view page) {
-    WNDCLASSEXA cls{};
-    cls.lpszClassName = "frmChild";
+frmChild& frmChild::open(MainWindow& main, const std::string& caption, const document::Page& page) {
+    WNDCLASSEXW cls{};
+    cls.lpszClassName = L"frmChild";
     cls.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
-    cls.hIcon = ::LoadIconA(::GetModuleHandleA(nullptr), "quillon");
+    cls.hIcon = ::LoadIconW(::GetModuleHandleW(nullptr), L"quillon");
     // A page opened over a maximised one is maximised as well.
     BOOL maximised = FALSE;
-    ::SendMessageA(main.mdiClient(), WM_MDIGETACTIVE, 0, reinterpret_cast<LPARAM>(&maximised));
+    ::SendMessageW(main.mdiClient(), WM_MDIGETACTIVE, 0, reinterpret_cast<LPARAM>(&maximised));
     auto* self = new frmChild(main);
     self->createMdiChild(cls, caption, WS_VISIBLE | (maximised ? WS_MAXIMIZE : 0U), main.mdiClient());
     try {
-        self->txtPad_->load(page);
+        self->encoding_ = page.encoding;
+        self->loadInto(*self->txtPad_, page.text);
     } catch (...) {
-        ::SendMessageA(main.mdiClient(), WM_MDIDESTROY, reinterpret_cast<WPARAM>(self->hwnd()), 0);
+        ::SendMessageW(main.mdiClient(), WM_MDIDESTROY, reinterpret_cast<WPARAM>(self->hwnd()), 0);
         throw;
     }
+    main.documentActivated(*self);
     self->focusPage();
-    self->showLine();
     return *self;
 }
 
 std::unique_ptr<document::RichEdit> frmChild::makePad(const document::Font& font) {
     auto pad = std::make_unique<Pad>(*this);
     pad->create(hwnd(), kPadId, font);
-    ::PostMessageA(pad->hwnd(), kAcceptDrops, 0, 0);
+    ::PostMessageW(pad->hwnd(), kAcceptDrops, 0, 0);
     return pad;
+}
+
+void frmChild::loadInto(document::RichEdit& pad, std::u16string_view text) {
+    // The control paints a long row that it does not wrap in time that grows with its square.
+    if (document::HasLongLine(text) && !document::HasLongWord(text)) pad.setWordWrap(true);
+    if (pad.load(text)) return;
+    pad.setReadOnly();
+    win::ShowMessage(hwnd(),
+                     Caption() +
+                         " holds characters that this system's edit control cannot keep.\r\n"
+                         "It can be read and printed here, but not changed or saved.",
+                     "Quillon", MB_ICONEXCLAMATION);
 }
 
 void frmChild::setCaption(const std::string& caption) {
@@ -123,7 +175,30 @@ void frmChild::setCaption(const std::string& caption) {
     main_.documentRenamed(*this);
 }
 
-void frmChild::setPage(std::string_view page) {
+void frmChild::setSaved(const document::Encoding& encoding) {
+    encoding_ = encoding;
+    txtPad_->setChanged(false);
+    // What can be brought back is no longer what the file holds.
+    for (const Step& step : steps_) step.pad->setChanged(true);
+    main_.documentSaved(*this);
+}
+
+void frmChild::insert(std::u16string_view text) {
+    txtPad_->replaceSelection(document::WithReferences(encoding_, text, document::SystemCodePages()));
+}
+
+std::unique_ptr<document::RichEdit> frmChild::swapControl(std::unique_ptr<document::RichEdit> next) {
+    const bool focused = ::GetFocus() == txtPad_->hwnd();
+    txtPad_.swap(next);
+    layOut();
+    ::SetWindowPos(txtPad_->hwnd(), HWND_TOP, 0, 0, 0, 0,
+                   SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    if (focused) focusPage();
+    ::ShowWindow(next->hwnd(), SW_HIDE);
+    return next;
+}
+
+void frmChild::replaceControl(const document::Page& page) {
     auto fresh = makePad(txtPad_->font());
     try {
         // In its final size before it has text, so that the lines are laid out once.
@@ -131,36 +206,64 @@ void frmChild::setPage(std::string_view page) {
         ::GetWindowRect(txtPad_->hwnd(), &place);
         ::MoveWindow(fresh->hwnd(), 0, 0, place.right - place.left, place.bottom - place.top, FALSE);
         if (txtPad_->wordWrap()) fresh->setWordWrap(true);
-        fresh->load(page);
+        loadInto(*fresh, page.text);
     } catch (...) {
         ::DestroyWindow(fresh->hwnd());
         throw;
     }
-    const bool focused = ::GetFocus() == txtPad_->hwnd();
-    txtPad_.swap(fresh);
-    ::DestroyWindow(fresh->hwnd());
-    if (focused) focusPage();
+    const document::Encoding before = std::exchange(encoding_, page.encoding);
+    keepStep({swapControl(std::move(fresh)), before});
+    main_.documentActivated(*this);
 }
 
-void frmChild::replacePage(std::string_view page) {
-    const long caret = std::min(txtPad_->selection().start, static_cast<long>(page.size()));
+void frmChild::keepStep(Step step) {
+    // A control takes some hundred bytes of memory for each character.
+    constexpr long kMostText = 4'000'000;
+    steps_.push_back(std::move(step));
+    const auto kept = [this] {
+        return std::accumulate(steps_.begin(), steps_.end(), 0L,
+                               [](long sum, const Step& s) { return sum + s.pad->textLength(); });
+    };
+    while (steps_.size() > 1 && kept() > kMostText) {
+        ::DestroyWindow(steps_.front().pad->hwnd());
+        steps_.erase(steps_.begin());
+    }
+}
+
+void frmChild::takeStepBack() {
+    Step step = std::move(steps_.back());
+    steps_.pop_back();
+    if (!(step.pad->font() == txtPad_->font())) step.pad->setFont(txtPad_->font());
+    encoding_ = step.encoding;
+    ::DestroyWindow(swapControl(std::move(step.pad))->hwnd());
+    main_.documentActivated(*this);
+    if (isChanged()) {
+        main_.documentChanged(*this);
+    } else {
+        main_.documentSaved(*this);
+    }
+}
+
+void frmChild::replacePage(std::u16string_view text) {
+    const long caret = std::min(txtPad_->selection().start, static_cast<long>(text.size()));
     const long line = txtPad_->firstVisibleLine();
-    setPage(page);
+    replaceControl({std::u16string(text), encoding_});
     txtPad_->setChanged(true);
     txtPad_->select(caret, caret);
     txtPad_->scrollLines(line - txtPad_->firstVisibleLine());
     showLine();
+    main_.documentChanged(*this);
 }
 
 void frmChild::keepText() const {
     // Of an empty page nothing would be left to paste: the clipboard keeps what it has.
-    if (const std::string edited = txtPad_->text(); !edited.empty()) win::SetClipboardText(hwnd(), edited);
+    if (const std::u16string edited = txtPad_->text(); !edited.empty()) win::SetClipboardText(hwnd(), edited);
 }
 
-void frmChild::toReset(std::string_view saved) {
+void frmChild::toReset(const document::Page& saved) {
     keepText();
-    setPage(saved);
-    showLine();
+    replaceControl(saved);
+    setSaved(saved.encoding);
 }
 
 void frmChild::layOut() const {
@@ -180,66 +283,81 @@ void frmChild::kidCut() {
 
 void frmChild::kidCopy() {
     // With nothing selected the clipboard keeps what it has.
-    if (const std::string text = txtPad_->selectedText(); !text.empty()) win::SetClipboardText(hwnd(), text);
+    if (const std::u16string text = txtPad_->selectedText(); !text.empty())
+        win::SetClipboardText(hwnd(), text);
     focusPage();
 }
 
 void frmChild::kidPaste() {
     // Only the characters, whatever formatting the clipboard holds beside them.
-    if (win::ClipboardHasText()) txtPad_->replaceSelection(win::ClipboardText(hwnd()));
+    if (win::ClipboardHasText()) insert(win::ClipboardText(hwnd()));
     focusPage();
 }
 
 void frmChild::kidDelete() {
-    if (txtPad_->selection().length() > 0) txtPad_->replaceSelection("");
+    if (txtPad_->selection().length() > 0) txtPad_->replaceSelection(u"");
     focusPage();
 }
 
 void frmChild::kidUndo() {
-    ::SendMessageA(txtPad_->hwnd(), WM_UNDO, 0, 0);
+    if (::SendMessageW(txtPad_->hwnd(), EM_CANUNDO, 0, 0) != 0 || steps_.empty()) {
+        ::SendMessageW(txtPad_->hwnd(), WM_UNDO, 0, 0);
+    } else {
+        takeStepBack();
+    }
 }
 
 void frmChild::selectAll() {
     txtPad_->select(0, txtPad_->textLength());
 }
 
-void frmChild::handOverDrops() {
+void frmChild::finishDrops() {
     // Messages about the files may outlast the page.
-    MainWindow& main = main_;
-    const DocumentId id = id_;
-    for (const auto& paths : std::exchange(drops_, {})) main.filesDropped(id, paths);
+    for (const auto& finish : std::exchange(drops_, {})) finish();
+}
+
+void frmChild::activate() const {
+    if (main_.activeDocument() == this) return;
+    ::SendMessageW(main_.mdiClient(), WM_MDIACTIVATE, reinterpret_cast<WPARAM>(hwnd()), 0);
 }
 
 void frmChild::closingCheck() {
-    try {
-        if (!txtPad_->isChanged()) return;
-        const int answer = win::ShowMessage(
-            hwnd(),
-            UpperCase(Caption()) + " has changed since last saved...(or has not yet been saved.)\r\n\r\n" +
-                "                     Would you like to save that file now?\r\n\r\n",
-            "Quillon", MB_YESNO | MB_ICONQUESTION);
-        if (answer != IDYES) return;
-        ::SetWindowPos(hwnd(), nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-        win::RunPending();
-        ::Sleep(1000);
-        main_.saveAs(*this);
-        // It closes all the same: what the disk did not take, or nobody named a file for, can be pasted.
-        if (txtPad_->isChanged()) keepText();
-    } catch (const std::exception& error) {
-        win::ShowMessage(hwnd(), std::string("ShutDown Error: ") + error.what(), "Quillon");
-    }
+    if (!isChanged()) return;
+    // The page that is asked about is the one in sight.
+    if (::IsIconic(hwnd()))
+        ::SendMessageW(main_.mdiClient(), WM_MDIRESTORE, reinterpret_cast<WPARAM>(hwnd()), 0);
+    activate();
+    const int answer = win::ShowMessage(
+        hwnd(),
+        UpperCase(Caption()) + " has changed since last saved...(or has not yet been saved.)\r\n\r\n" +
+            "                     Would you like to save that file now?\r\n\r\n",
+        "Quillon", MB_YESNO | MB_ICONQUESTION);
+    if (answer != IDYES) return;
+    ::SetWindowPos(hwnd(), nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    win::RunPending();
+    ::Sleep(1000);
+    keepsCopy_ = true;
+    main_.saveAs(*this);
+    // It closes all the same: what the disk did not take, or nobody named a file for, can be pasted. Where
+    // the clipboard cannot be had, the recovery copy stays.
+    if (isChanged()) keepText();
+    keepsCopy_ = false;
 }
 
 void frmChild::close() {
     // A second close while the user is being asked, or while another box waits, is a slip of the hand.
     if (closing_ || !::IsWindowEnabled(main_.mainHwnd())) return;
     closing_ = true;
-    closingCheck();
-    ::SendMessageA(main_.mdiClient(), WM_MDIDESTROY, reinterpret_cast<WPARAM>(hwnd()), 0);
+    try {
+        closingCheck();
+    } catch (const std::exception& error) {
+        win::ShowMessage(hwnd(), std::string("ShutDown Error: ") + error.what(), "Quillon");
+    }
+    ::SendMessageW(main_.mdiClient(), WM_MDIDESTROY, reinterpret_cast<WPARAM>(hwnd()), 0);
 }
 
 LRESULT frmChild::defaultHandling(UINT message, WPARAM wParam, LPARAM lParam) {
-    return ::DefMDIChildProcA(hwnd(), message, wParam, lParam);
+    return ::DefMDIChildProcW(hwnd(), message, wParam, lParam);
 }
 
 LRESULT frmChild::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -261,8 +379,12 @@ LRESULT frmChild::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
                 showLine();
             }
             return 0;
+        case WM_COMMAND:
+            if (HIWORD(wParam) == EN_CHANGE && txtPad_ && reinterpret_cast<HWND>(lParam) == txtPad_->hwnd())
+                main_.documentChanged(*this);
+            return 0;
         case kDropsWaiting:
-            handOverDrops();
+            finishDrops();
             return 0;
         case WM_MDIACTIVATE:
             if (reinterpret_cast<HWND>(lParam) == hwnd()) main_.documentActivated(*this);
@@ -271,7 +393,7 @@ LRESULT frmChild::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             close();
             return 0;
         case WM_DESTROY:
-            main_.documentClosed(*this);
+            if (id_ != 0) main_.documentClosed(*this);
             break;
         default:
             break;

@@ -1,11 +1,13 @@
 // A document window: one page in its edit control.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "document/page.h"
 #include "document/rich_edit.h"
 #include "main_window.h"
 #include "win/window.h"
@@ -16,9 +18,10 @@ class frmChild : public win::Window {
     static constexpr char kDefaultTab[] = "    ";
     static constexpr float kDefaultPoints = 10;
 
-    // Creates the window, shown and active, with this caption and page, unchanged and with no path. Throws
-    // when the window cannot be made.
-    static frmChild& open(MainWindow& main, const std::string& caption, std::string_view page);
+    // Creates the window, shown and active, with this caption and page, unchanged and with no path. Where the
+    // control does not hold the text as it is, the page is read-only. Throws when the window cannot be made,
+    // and document::PageTooLarge when the memory does not last.
+    static frmChild& open(MainWindow& main, const std::string& caption, const document::Page& page);
 
     DocumentId id() const { return id_; }
     document::RichEdit& txtPad() const { return *txtPad_; }
@@ -29,14 +32,23 @@ class frmChild : public win::Window {
     std::string Caption() const { return text(); }
     void setCaption(const std::string& caption);
 
-    // Replaces the whole page, which then counts as unchanged. The control is made anew, because refilling
-    // a full one is slower by orders of magnitude; font, wrap and size carry over, what can be undone does
-    // not.
-    void setPage(std::string_view page);
-    // The same as an edit: the page counts as changed, the caret and the lines in view stay where they are.
-    void replacePage(std::string_view page);
-    // Takes the saved text in place of the edited one, which goes to the clipboard.
-    void toReset(std::string_view saved);
+    // What the page is read and saved in.
+    const document::Encoding& encoding() const { return encoding_; }
+
+    bool isChanged() const { return txtPad_->isChanged(); }
+    // The page is what its file holds, in this encoding.
+    void setSaved(const document::Encoding& encoding);
+
+    // Replaces the selection as one step that can be undone; the caret ends behind the text. What the page's
+    // encoding cannot hold goes in as numeric character references.
+    void insert(std::u16string_view text);
+    // Replaces the whole page as one step that can be undone, behind which all earlier ones still are. The
+    // page counts as changed; the caret and the lines in view stay where they are. The control is made anew,
+    // because refilling a full one is slower by orders of magnitude; the old one is kept as the step.
+    void replacePage(std::u16string_view text);
+    // The same with the page as it was saved, which then counts as unchanged. The edited text goes to the
+    // clipboard.
+    void toReset(const document::Page& saved);
 
     void kidCut();
     void kidCopy();
@@ -53,9 +65,16 @@ class frmChild : public win::Window {
     void showLine() const;
     // The user is being asked about saving; the window goes as soon as that is done.
     bool isClosing() const { return closing_; }
+    // The page goes without having been saved although its user wanted that.
+    bool keepsCopy() const { return keepsCopy_; }
 
  private:
     class Pad;
+    // A page as it was before it was replaced whole.
+    struct Step {
+        std::unique_ptr<document::RichEdit> pad;
+        document::Encoding encoding;
+    };
 
     explicit frmChild(MainWindow& main) : main_(main) {}
     ~frmChild() override = default;
@@ -63,17 +82,27 @@ class frmChild : public win::Window {
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     LRESULT defaultHandling(UINT message, WPARAM wParam, LPARAM lParam) override;
     std::unique_ptr<document::RichEdit> makePad(const document::Font& font);
+    void loadInto(document::RichEdit& pad, std::u16string_view text);
+    void replaceControl(const document::Page& page);
+    void keepStep(Step step);
+    void takeStepBack();
+    // Shows a control of this page's in place of the one that is given back, hidden.
+    std::unique_ptr<document::RichEdit> swapControl(std::unique_ptr<document::RichEdit> next);
     void layOut() const;
+    void activate() const;
     void close();
     void closingCheck();
     void keepText() const;  // on the clipboard
-    void handOverDrops();
+    void finishDrops();
 
     MainWindow& main_;
     DocumentId id_ = 0;
+    document::Encoding encoding_;
     std::string tag_;
     std::string tabText_;
     std::unique_ptr<document::RichEdit> txtPad_;
-    std::vector<std::vector<std::string>> drops_;  // not handed over yet
+    std::vector<Step> steps_;                   // the oldest first
+    std::vector<std::function<void()>> drops_;  // what is left to do for each
     bool closing_ = false;
+    bool keepsCopy_ = false;
 };

@@ -1,6 +1,7 @@
 #include "document/page_keys.h"
 
 #include "document/frmChild.h"
+#include "win/unicode.h"
 
 namespace document {
 namespace {
@@ -9,8 +10,8 @@ bool IsDown(int key) {
     return ::GetKeyState(key) < 0;
 }
 
-void InsertTab(const frmChild& page) {
-    page.txtPad().replaceSelection(page.tabText());
+void InsertTab(frmChild& page) {
+    page.insert(win::Utf16FromUtf8(page.tabText()));
 }
 
 // Removes the run of blanks that a Tab key has put in front of the caret; false when there is none.
@@ -19,10 +20,13 @@ bool RemoveTab(const frmChild& page) {
     const Selection caret = pad.selection();
     const auto length = static_cast<long>(page.tabText().size());
     if (caret.length() > 0 || caret.start < length) return false;
-    if (pad.textRange(caret.start - length, caret.start) != page.tabText()) return false;
     pad.select(caret.start - length, caret.start);
-    pad.replaceSelection("");
-    return true;
+    if (pad.selectedText() == win::Utf16FromUtf8(page.tabText())) {
+        pad.replaceSelection(u"");
+        return true;
+    }
+    pad.select(caret.start, caret.start);
+    return false;
 }
 
 // Keys by which the control formats paragraphs, which plain text has no use for.
@@ -37,6 +41,9 @@ bool HandleControlKey(frmChild& page, MainWindow& main, WPARAM key) {
             return true;
         case 'A':
             page.selectAll();
+            return true;
+        case 'Z':
+            page.kidUndo();
             return true;
         // Posted, because these windows can outlive the page whose key this is.
         case 'D':
@@ -62,6 +69,11 @@ bool HandleKey(frmChild& page, MainWindow& main, WPARAM key) {
             return true;
         case VK_BACK:
             return !alt && RemoveTab(page);
+        case VK_RETURN:
+            // The control would make a line break of its own kind, which is none in a file.
+            if (!IsDown(VK_SHIFT)) return false;
+            page.insert(u"\r\n");
+            return true;
         case VK_INSERT:
             if (!IsDown(VK_SHIFT)) return false;
             page.kidPaste();
@@ -74,7 +86,7 @@ bool HandleKey(frmChild& page, MainWindow& main, WPARAM key) {
 void ShowEditMenu(const frmChild& page, MainWindow& main, POINT at) {
     if (at.x == -1 && at.y == -1) {
         const HWND pad = page.txtPad().hwnd();
-        ::SendMessageA(pad, EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&at), page.txtPad().selection().start);
+        ::SendMessageW(pad, EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&at), page.txtPad().selection().start);
         ::ClientToScreen(pad, &at);
     }
     ::TrackPopupMenu(main.menu().popup(mnuEdit), TPM_RIGHTBUTTON, at.x, at.y, 0, main.mainHwnd(), nullptr);

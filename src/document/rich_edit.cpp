@@ -5,52 +5,88 @@
 
 #include "win/error.h"
 #include "win/late.h"
+#include "win/unicode.h"
 
 namespace document {
 namespace {
 
+constexpr LONG kTextLimit = 0x7FFFFFFE;
+constexpr WPARAM kUnicodeText = SF_TEXT | SF_UNICODE;
+
 struct Source {
-    std::string_view rest;
+    std::u16string_view rest;
+    unsigned chunks = 0;
+    bool tooLarge = false;
 };
+
+// The control takes some hundred bytes for a character and does not get over it when there are none left.
+bool MemoryIsShort() {
+    constexpr DWORDLONG kRest = 160U << 20U;  // bytes
+    MEMORYSTATUSEX memory{};
+    memory.dwLength = sizeof memory;
+    return ::GlobalMemoryStatusEx(&memory) && memory.ullAvailVirtual < kRest;
+}
 
 // A chunk that ended between CR and LF would give an extra line.
 DWORD CALLBACK Feed(DWORD_PTR cookie, LPBYTE buffer, LONG size, LONG* done) {
-    auto& rest = reinterpret_cast<Source*>(cookie)->rest;
-    std::size_t count = std::min(rest.size(), static_cast<std::size_t>(size));
-    if (count > 1 && count < rest.size() && rest[count - 1] == '\r') --count;
-    std::memcpy(buffer, rest.data(), count);
+    auto& source = *reinterpret_cast<Source*>(cookie);
+    auto& rest = source.rest;
+    constexpr unsigned kBetweenLooks = 8;  // chunks
+    source.tooLarge = source.chunks++ % kBetweenLooks == 0 && MemoryIsShort();
+    *done = 0;
+    if (source.tooLarge) return ERROR_NOT_ENOUGH_MEMORY;
+    std::size_t count = std::min(rest.size(), static_cast<std::size_t>(size) / sizeof(char16_t));
+    if (count > 1 && count < rest.size() && rest[count - 1] == u'\r') --count;
+    std::memcpy(buffer, rest.data(), count * sizeof(char16_t));
     rest.remove_prefix(count);
-    *done = static_cast<LONG>(count);
+    *done = static_cast<LONG>(count * sizeof(char16_t));
     return 0;
 }
 
+struct Sink {
+    std::u16string text;
+    std::size_t bytes = 0;
+};
+
 DWORD CALLBACK Collect(DWORD_PTR cookie, LPBYTE buffer, LONG size, LONG* done) {
-    reinterpret_cast<std::string*>(cookie)->append(reinterpret_cast<const char*>(buffer),
-                                                   static_cast<std::size_t>(size));
+    auto& sink = *reinterpret_cast<Sink*>(cookie);
+    const auto count = static_cast<std::size_t>(size);
+    sink.text.resize((sink.bytes + count + 1) / sizeof(char16_t));
+    std::memcpy(reinterpret_cast<char*>(sink.text.data()) + sink.bytes, buffer, count);
+    sink.bytes += count;
     *done = size;
     return 0;
 }
 
-std::string StreamOut(HWND control, WPARAM format, std::size_t expected) {
-    std::string text;
-    text.reserve(expected);
-    EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&text), 0, Collect};
-    ::SendMessageA(control, EM_STREAMOUT, format, reinterpret_cast<LPARAM>(&stream));
-    return text;
+std::u16string StreamOut(HWND control, WPARAM format, std::size_t expected) {
+    Sink sink;
+    sink.text.reserve(expected + 1);
+    EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&sink), 0, Collect};
+    ::SendMessageW(control, EM_STREAMOUT, format, reinterpret_cast<LPARAM>(&stream));
+    return std::move(sink.text);
 }
 
-constexpr LONG kTextLimit = 0x7FFFFFFE;
+// How the control is told that its text is Unicode, and that Undo is to know of it.
+constexpr SETTEXTEX kAsEdit{ST_SELECTION | ST_KEEPUNDO, 1200};
+
+// A text that begins like this the control would take for formatted.
+bool LooksFormatted(std::u16string_view text) {
+    return text.starts_with(u"{\\rtf") || text.starts_with(u"{urtf");
+}
 
 }  // namespace
 
 void RichEdit::create(HWND parent, int id, const Font& font) {
-    // The class registers itself when its library is loaded, which stays so for the process.
+    // The class registers itself when its library is loaded, which stays so for the process. The second one
+    // is a shell of the first, which it would look for beside the program.
+    win::LoadSystemDll("riched20.dll");
     win::LoadSystemDll("riched32.dll");
     const DWORD style = WS_CHILD | WS_VISIBLE | WS_HSCROLL | WS_VSCROLL | WS_TABSTOP | ES_MULTILINE |
-                        ES_AUTOHSCROLL | ES_AUTOVSCROLL | ES_NOHIDESEL | ES_DISABLENOSCROLL;
-    attach(win::Check(::CreateWindowExA(WS_EX_CLIENTEDGE, "RICHEDIT", "", style, 0, 0, 0, 0, parent,
+                        ES_AUTOHSCROLL | ES_AUTOVSCROLL | ES_NOHIDESEL | ES_DISABLENOSCROLL |
+                        ES_NOOLEDRAGDROP;
+    attach(win::Check(::CreateWindowExW(WS_EX_CLIENTEDGE, L"RICHEDIT", L"", style, 0, 0, 0, 0, parent,
                                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                                        ::GetModuleHandleA(nullptr), nullptr)));
+                                        ::GetModuleHandleW(nullptr), nullptr)));
     // In this mode a font is no formatting of the text that Undo would take back.
     send(EM_SETTEXTMODE, TM_PLAINTEXT);
     send(EM_EXLIMITTEXT, 0, kTextLimit);
@@ -59,27 +95,27 @@ void RichEdit::create(HWND parent, int id, const Font& font) {
     send(EM_SETEVENTMASK, 0, ENM_CHANGE | ENM_SELCHANGE);
 }
 
-void RichEdit::load(std::string_view bytes) {
+bool RichEdit::load(std::u16string_view text) {
     const LRESULT events = send(EM_SETEVENTMASK, 0, ENM_NONE);
-    // The control takes EF BB BF at the start of a stream for a mark, drops it and decodes what follows. With
-    // its first byte put back afterwards it is text like any other.
-    const bool looksMarked = bytes.starts_with("\xEF\xBB\xBF");
-    Source source{bytes.substr(looksMarked ? 1 : 0)};
+    Source source;
+    source.rest = text;
     EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&source), 0, Feed};
-    send(EM_STREAMIN, SF_TEXT, reinterpret_cast<LPARAM>(&stream));
-    if (looksMarked) {
-        select(0, 0);
-        send(EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>("\xEF"));
-    }
+    send(EM_STREAMIN, kUnicodeText, reinterpret_cast<LPARAM>(&stream));
     select(0, 0);
     send(EM_EMPTYUNDOBUFFER);
     setChanged(false);
     send(EM_SETEVENTMASK, 0, events);
-    if (stream.dwError != 0 || !source.rest.empty()) throw win::Error(ERROR_OUTOFMEMORY);
+    if (source.tooLarge || stream.dwError != 0 || !source.rest.empty()) throw PageTooLarge();
+    return this->text() == text;
 }
 
-std::string RichEdit::text() const {
-    return StreamOut(hwnd(), SF_TEXT, static_cast<std::size_t>(textLength()));
+std::u16string RichEdit::text() const {
+    return StreamOut(hwnd(), kUnicodeText, static_cast<std::size_t>(textLength()));
+}
+
+long RichEdit::textLength() const {
+    GETTEXTLENGTHEX how{GTL_NUMCHARS | GTL_PRECISE, 1200};
+    return static_cast<long>(send(EM_GETTEXTLENGTHEX, reinterpret_cast<WPARAM>(&how)));
 }
 
 Selection RichEdit::selection() const {
@@ -95,23 +131,36 @@ void RichEdit::select(long start, long end) {
     send(EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&range));
 }
 
-std::string RichEdit::selectedText() const {
-    const long length = selection().length();
+std::u16string RichEdit::selectedText() const {
+    const auto length = static_cast<std::size_t>(selection().length());
     if (length == 0) return {};
-    std::string text = StreamOut(hwnd(), SF_TEXT | SFF_SELECTION, static_cast<std::size_t>(length));
-    text.resize(std::min(text.size(), static_cast<std::size_t>(length)));
+    std::u16string text = StreamOut(hwnd(), kUnicodeText | SFF_SELECTION, length);
+    text.resize(std::min(text.size(), length));
     return text;
 }
 
-void RichEdit::replaceSelection(const std::string& text) {
-    send(EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
+void RichEdit::replaceSelection(std::u16string_view text) {
+    if (isReadOnly()) return;
+    if (text.find(u'\0') != std::u16string_view::npos) throw win::Failure("The text holds a NUL.");
+    if (text.empty()) {
+        send(WM_CLEAR);
+        return;
+    }
+    if (LooksFormatted(text)) {
+        replaceSelection(text.substr(0, 1));
+        text.remove_prefix(1);
+    }
+    const std::u16string terminated(text);
+    win::Check(
+        send(EM_SETTEXTEX, reinterpret_cast<WPARAM>(&kAsEdit), reinterpret_cast<LPARAM>(terminated.c_str())));
 }
 
-std::string RichEdit::textRange(long start, long end) const {
-    std::string text(static_cast<std::size_t>(std::max(0L, end - start)) + 1, '\0');
-    TEXTRANGEA range{{start, end}, text.data()};
-    text.resize(static_cast<std::size_t>(send(EM_GETTEXTRANGE, 0, reinterpret_cast<LPARAM>(&range))));
-    return text;
+void RichEdit::setReadOnly() {
+    send(EM_SETREADONLY, TRUE);
+}
+
+bool RichEdit::isReadOnly() const {
+    return (::GetWindowLongPtrW(hwnd(), GWL_STYLE) & ES_READONLY) != 0;
 }
 
 void RichEdit::setWordWrap(bool wrap) {
@@ -120,18 +169,48 @@ void RichEdit::setWordWrap(bool wrap) {
 }
 
 void RichEdit::setFont(const Font& font) {
-    font_ = font;
-    const bool changed = isChanged();
-    CHARFORMATA format{};
-    format.cbSize = sizeof format;
+    CHARFORMATW format{};
     // Naming the effects in the mask only takes them away: the system's own font may be bold.
     format.dwMask = CFM_FACE | CFM_SIZE | CFM_CHARSET | CFM_BOLD | CFM_ITALIC | CFM_UNDERLINE;
+    apply(font, format);
+}
+
+void RichEdit::setFace(const std::string& face) {
+    CHARFORMATW format{};
+    format.dwMask = CFM_FACE | CFM_CHARSET;
+    apply({face, font_.points}, format);
+}
+
+void RichEdit::setPoints(float points) {
+    CHARFORMATW format{};
+    format.dwMask = CFM_SIZE;
+    apply({font_.face, points}, format);
+}
+
+void RichEdit::apply(const Font& font, CHARFORMATW& format) {
+    font_ = font;
+    const bool changed = isChanged();
+    format.cbSize = sizeof format;
     format.bCharSet = DEFAULT_CHARSET;
     format.yHeight = static_cast<LONG>(font.points * 20.0F);
-    ::lstrcpynA(format.szFaceName, font.face.c_str(), LF_FACESIZE);
+    ::lstrcpynW(format.szFaceName, win::ToWide(font.face).c_str(), LF_FACESIZE);
     send(EM_SETCHARFORMAT, SCF_DEFAULT, reinterpret_cast<LPARAM>(&format));
     send(EM_SETCHARFORMAT, SCF_ALL, reinterpret_cast<LPARAM>(&format));
     setChanged(changed);
+}
+
+LRESULT RichEdit::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    // The control's class is an ANSI one: by itself it hands its text out through the code page.
+    if (message == WM_GETTEXT && wParam > 0) {
+        const std::u16string whole = text();
+        const std::size_t count = std::min(whole.size(), static_cast<std::size_t>(wParam) - 1);
+        auto* buffer = reinterpret_cast<wchar_t*>(lParam);
+        std::copy_n(whole.data(), count, buffer);
+        buffer[count] = L'\0';
+        return static_cast<LRESULT>(count);
+    }
+    if (message == WM_GETTEXTLENGTH) return textLength();
+    return Control::onMessage(message, wParam, lParam);
 }
 
 }  // namespace document

@@ -1,15 +1,17 @@
 // The system's rich-edit control, version 1, used for plain text.
 #pragma once
 
+#include <exception>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "win/control.h"
 
 namespace document {
 
-// Positions and lengths count bytes of the code page, CR LF as two, so that a position in the control is a
-// position in the page.
+// Positions and lengths count UTF-16 units, CR LF as two, so that a position in the control is a position in
+// the page's text.
 struct Selection {
     long start = 0;
     long end = 0;
@@ -22,23 +24,37 @@ struct Font {
     friend bool operator==(const Font&, const Font&) = default;
 };
 
+// The memory does not last for a page.
+class PageTooLarge : public std::exception {
+ public:
+    explicit PageTooLarge(std::string what = "The page is too large.") : what_(std::move(what)) {}
+    const char* what() const noexcept override { return what_.c_str(); }
+
+ private:
+    std::string what_;
+};
+
 class RichEdit : public win::Control {
  public:
     // Creates the control as a child that fills nothing yet. Throws win::Error.
     void create(HWND parent, int id, const Font& font);
 
-    // Puts the bytes into the empty control: none is dropped, parsed or converted. Marks it unchanged.
-    void load(std::string_view bytes);
-    std::string text() const;
-    long textLength() const { return static_cast<long>(send(WM_GETTEXTLENGTH)); }
+    // Puts the text into the empty control and marks it unchanged. False when the control holds it otherwise
+    // than it was given. Throws PageTooLarge as long as there still is memory for all else.
+    bool load(std::u16string_view text);
+    std::u16string text() const;
+    long textLength() const;
 
     Selection selection() const;
     void select(long start, long end);
     void scrollToCaret() const { send(EM_SCROLLCARET); }
-    std::string selectedText() const;
-    // As one step that can be undone. The caret ends behind the text, which holds no NUL.
-    void replaceSelection(const std::string& text);
-    std::string textRange(long start, long end) const;
+    std::u16string selectedText() const;
+    // As one step that can be undone. The caret ends behind the text, which holds no NUL. A read-only control
+    // stays as it is.
+    void replaceSelection(std::u16string_view text);
+
+    void setReadOnly();
+    bool isReadOnly() const;
 
     // Displayed lines, from 0.
     long firstVisibleLine() const { return static_cast<long>(send(EM_GETFIRSTVISIBLELINE)); }
@@ -54,8 +70,15 @@ class RichEdit : public win::Control {
 
     const Font& font() const { return font_; }
     void setFont(const Font& font);
+    void setFace(const std::string& face);
+    void setPoints(float points);
+
+ protected:
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
+    void apply(const Font& font, CHARFORMATW& format);
+
     bool wordWrap_ = false;
     Font font_;
 };

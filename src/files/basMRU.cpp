@@ -11,6 +11,7 @@
 #include "files/open_file.h"
 #include "settings/app_settings.h"
 #include "win/message_box.h"
+#include "win/unicode.h"
 
 namespace basMRU {
 namespace {
@@ -28,9 +29,17 @@ std::vector<std::string> StoredFiles() {
     return files::StoredFiles(settings::Get(kCountSection, "Count"), settings::GetAll(kFilesSection));
 }
 
+// A drive that is empty, gone or asleep may take half a minute to say so: files elsewhere than on the
+// machine's own disks are not asked for until somebody wants them.
+bool MayExist(const std::string& path) {
+    const std::wstring drive = win::ToWide(path.substr(0, 3));
+    const bool isOwn = drive.size() == 3 && drive[1] == L':' && ::GetDriveTypeW(drive.c_str()) == DRIVE_FIXED;
+    return !isOwn || modPubFuncs::FileExists(path);
+}
+
 void ShowInMenu(MainWindow& main, const std::vector<std::string>& paths) {
     for (std::size_t number = 1; number <= kRecentFiles; ++number) {
-        if (number <= paths.size() && modPubFuncs::FileExists(paths[number - 1])) {
+        if (number <= paths.size()) {
             main.menu().show(MenuItem(number), paths[number - 1]);
         } else {
             main.menu().hide(MenuItem(number));
@@ -83,7 +92,7 @@ void Store(const std::vector<std::string>& paths) {
 }
 
 std::vector<std::string> Existing(std::vector<std::string> paths) {
-    std::erase_if(paths, [](const std::string& path) { return !modPubFuncs::FileExists(path); });
+    std::erase_if(paths, [](const std::string& path) { return !MayExist(path); });
     return paths;
 }
 
@@ -115,11 +124,18 @@ void LoadRecentFiles(MainWindow& main) {
                          "WELCOME TO THE QUILLON!");
         return;
     }
-    ShowInMenu(main, StoredFiles());
+    const std::vector<std::string> stored = StoredFiles();
+    for (std::size_t number = 1; number <= kRecentFiles; ++number) {
+        if (number <= stored.size() && MayExist(stored[number - 1])) {
+            main.menu().show(MenuItem(number), stored[number - 1]);
+        } else {
+            main.menu().hide(MenuItem(number));
+        }
+    }
 }
 
 void AddRecentFile(MainWindow& main, const std::string& path) {
-    if (path.find(main.temporaryFolder()) != std::string::npos) return;
+    if (modPubFuncs::IsBelow(path, main.temporaryFolder())) return;
     const auto paths = files::WithNewest(Existing(StoredFiles()), path, modPubFuncs::SamePath);
     Store(paths);
     ShowInMenu(main, paths);
@@ -134,6 +150,8 @@ void PruneRecentFiles(MainWindow& main) {
 void OnFileMRU(MainWindow& main, int index) {
     try {
         OpenRecent(main, main.menu().caption(static_cast<Command>(mnuFileMRU + index)));
+    } catch (const document::PageTooLarge& error) {
+        win::ShowMessage(main.mainHwnd(), error.what(), "Quillon Note:", MB_ICONEXCLAMATION);
     } catch (const std::exception&) {
         win::ShowMessage(main.mainHwnd(), "Error with MRU List", "Quillon");
     }

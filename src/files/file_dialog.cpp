@@ -4,29 +4,33 @@
 
 #include <array>
 
+#include "win/disabled.h"
 #include "win/late.h"
+#include "win/unicode.h"
 
 namespace files {
 namespace {
 
-using Show = BOOL(WINAPI*)(OPENFILENAMEA*);
+using Show = BOOL(WINAPI*)(OPENFILENAMEW*);
 
 constexpr char kDll[] = "comdlg32.dll";
-constexpr win::Late<Show> kGetOpenFileName{kDll, "GetOpenFileNameA"};
-constexpr win::Late<Show> kGetSaveFileName{kDll, "GetSaveFileNameA"};
+constexpr win::Late<Show> kGetOpenFileName{kDll, "GetOpenFileNameW"};
+constexpr win::Late<Show> kGetSaveFileName{kDll, "GetSaveFileNameW"};
 constexpr win::Late<decltype(&::CommDlgExtendedError)> kCommDlgExtendedError{kDll, "CommDlgExtendedError"};
 
-std::string Trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+std::string Trimmed(std::wstring_view text) {
+    const std::size_t first = text.find_first_not_of(L' ');
+    if (first == std::wstring_view::npos) return {};
+    return win::ToUtf8(text.substr(first, text.find_last_not_of(L' ') - first + 1));
 }
 
-std::string Ask(const FileDialog& dialog, const win::Late<Show>& show) {
-    std::array<char, 1024> path{};
-    std::array<char, 512> title{};
-    dialog.proposedName.copy(path.data(), path.size() - 1);
-    OPENFILENAMEA record{};
+std::optional<std::string> Ask(const FileDialog& dialog, const win::Late<Show>& show) {
+    std::array<wchar_t, 1024> path{};
+    std::array<wchar_t, 512> title{};
+    win::ToWide(dialog.proposedName).copy(path.data(), path.size() - 1);
+    const std::wstring folder = win::ToWide(dialog.folder);
+    const std::wstring caption = win::ToWide(dialog.title);
+    OPENFILENAMEW record{};
     record.lStructSize = sizeof record;
     record.hwndOwner = dialog.owner;
     record.lpstrFilter = dialog.filters;
@@ -35,24 +39,25 @@ std::string Ask(const FileDialog& dialog, const win::Late<Show>& show) {
     record.nMaxFile = static_cast<DWORD>(path.size());
     record.lpstrFileTitle = title.data();
     record.nMaxFileTitle = static_cast<DWORD>(title.size());
-    record.lpstrInitialDir = dialog.folder.c_str();
-    record.lpstrTitle = dialog.title;
+    record.lpstrInitialDir = folder.c_str();
+    record.lpstrTitle = caption.c_str();
     record.lpstrDefExt = dialog.extension;
     record.Flags = dialog.flags;
+    const win::Disabled others(dialog.owner);
     if (show(&record)) return Trimmed(path.data());
     // A page may be titled with what is no file name. The system then shows no dialog at all.
-    if (kCommDlgExtendedError() != FNERR_INVALIDFILENAME) return {};
-    path[0] = '\0';
-    return show(&record) ? Trimmed(path.data()) : std::string();
+    if (kCommDlgExtendedError() != FNERR_INVALIDFILENAME) return std::nullopt;
+    path[0] = L'\0';
+    return show(&record) ? std::optional(Trimmed(path.data())) : std::nullopt;
 }
 
 }  // namespace
 
-std::string AskOpenPath(const FileDialog& dialog) {
+std::optional<std::string> AskOpenPath(const FileDialog& dialog) {
     return Ask(dialog, kGetOpenFileName);
 }
 
-std::string AskSavePath(const FileDialog& dialog) {
+std::optional<std::string> AskSavePath(const FileDialog& dialog) {
     return Ask(dialog, kGetSaveFileName);
 }
 

@@ -13,9 +13,7 @@ constexpr DWORD kBlock = 20000;
 // What the edit control can hold.
 constexpr LONGLONG kLargestPage = 0x7FFFFFFE;
 
-}  // namespace
-
-std::optional<std::string> ReadFileBinary(const std::string& path) {
+std::optional<std::string> Read(const std::string& path, void (*afterBlock)()) {
     const win::UniqueFile file(::CreateFileW(win::WidePath(path).c_str(), GENERIC_READ,
                                              FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                                              OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
@@ -29,10 +27,20 @@ std::optional<std::string> ReadFileBinary(const std::string& path) {
         if (!::ReadFile(file.get(), bytes.data() + filled, wanted, &read, nullptr)) return std::nullopt;
         if (read == 0) break;  // the file has been cut short meanwhile
         filled += read;
-        if (read == kBlock) win::RunPending();
+        if (read == kBlock && afterBlock) afterBlock();
     }
     bytes.resize(filled);
     return bytes;
+}
+
+}  // namespace
+
+std::optional<std::string> ReadFileBinary(const std::string& path) {
+    return Read(path, [] { win::RunPending(); });
+}
+
+std::optional<std::string> ReadFileAtOnce(const std::string& path) {
+    return Read(path, nullptr);
 }
 
 }  // namespace mBinOpen

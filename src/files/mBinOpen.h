@@ -10,4 +10,7 @@ namespace mBinOpen {
 // document may be gone afterwards. Nothing when the file cannot be read, is a folder or is locked.
 std::optional<std::string> ReadFileBinary(const std::string& path);
 
+// The same at one go, without handling any message.
+std::optional<std::string> ReadFileAtOnce(const std::string& path);
+
 }  // namespace mBinOpen

@@ -1,6 +1,8 @@
 #include "files/modOpen.h"
 
+#include <algorithm>
 #include <exception>
+#include <optional>
 
 #include "document/frmChild.h"
 #include "files/basMRU.h"
@@ -8,21 +10,31 @@
 #include "files/modPubFuncs.h"
 #include "files/open_file.h"
 #include "files/page_writer.h"
+#include "files/replace_file.h"
 #include "settings/CRegSettings.h"
+#include "win/late_shell.h"
 #include "win/message_box.h"
 #include "win/message_loop.h"
+#include "win/unicode.h"
 
 namespace modOpen {
 namespace {
 
-constexpr char kPageFilters[] =
-    "HTML Files\0*.htm;*.html;*.shtml\0"
-    "Text Files\0*.txt\0"
-    "ASP Files\0*.asp\0"
-    "All Files\0*.*\0";
-constexpr char kDownloadFilters[] =
-    "HTML Files\0*.htm;*.html;*.shtml\0"
-    "All Files\0*.*\0";
+constexpr wchar_t kPageFilters[] =
+    L"HTML Files\0*.htm;*.html;*.shtml\0"
+    L"Text Files\0*.txt\0"
+    L"ASP Files\0*.asp\0"
+    L"All Files\0*.*\0";
+constexpr wchar_t kDownloadFilters[] =
+    L"HTML Files\0*.htm;*.html;*.shtml\0"
+    L"All Files\0*.*\0";
+
+std::string DocumentsFolder() {
+    wchar_t folder[MAX_PATH] = L"";
+    return win::kFolderPath(nullptr, CSIDL_PERSONAL, nullptr, SHGFP_TYPE_CURRENT, folder) == S_OK
+               ? win::ToUtf8(folder)
+               : "C:\\";
+}
 
 constexpr DWORD kOpenFlags = OFN_LONGNAMES | OFN_EXPLORER | OFN_CREATEPROMPT | OFN_HIDEREADONLY;
 constexpr DWORD kSaveFlags = OFN_LONGNAMES | OFN_EXPLORER | OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT;
@@ -35,28 +47,28 @@ DWORD FilterIndex(const char* setting) {
     return type.empty() ? 4 : 0;
 }
 
-const char* DefaultExtension(DWORD filterIndex) {
+const wchar_t* DefaultExtension(DWORD filterIndex) {
     switch (filterIndex) {
         case 1:
-            return "htm";
+            return L"htm";
         case 2:
-            return "txt";
+            return L"txt";
         case 3:
-            return "asp";
+            return L"asp";
         default:
             return nullptr;
     }
 }
 
-// Where the active page lies is where its author most likely wants to go on.
-std::string InitialFolder(const MainWindow& main) {
-    const frmChild* page = main.activeDocument();
-    const std::string path = page ? page->Tag() : std::string();
+// Beside the page; a page without a file goes where the last file was, or where its user keeps documents.
+std::string InitialFolder(const MainWindow& main, const frmChild* page) {
+    std::string path = page ? page->Tag() : std::string();
+    if (path.find('\\') == std::string::npos) path = main.menu().caption(mnuFileMRU + 1);
     const std::size_t end = path.rfind('\\');
-    return end == std::string::npos ? "C:\\" : path.substr(0, end + 1);
+    return end == std::string::npos ? DocumentsFolder() : path.substr(0, end + 1);
 }
 
-int Warn(MainWindow& main, const char* text) {
+int Warn(MainWindow& main, std::string_view text) {
     return win::ShowMessage(main.mainHwnd(), text, "Quillon", MB_ICONEXCLAMATION);
 }
 
@@ -66,9 +78,9 @@ void Open(MainWindow& main) {
     dialog.title = "Open File...";
     dialog.filters = kPageFilters;
     dialog.filterIndex = FilterIndex("default_Open");
-    dialog.folder = InitialFolder(main);
+    dialog.folder = InitialFolder(main, main.activeDocument());
     dialog.flags = kOpenFlags;
-    const std::string path = files::AskOpenPath(dialog);
+    const std::string path = files::AskOpenPath(dialog).value_or("");
     if (path.empty()) return;
     if (!modPubFuncs::FileExists(path)) {
         Warn(main, "That file has been moved or deleted.");
@@ -83,7 +95,12 @@ void Open(MainWindow& main) {
 
 // The document, when it has been saved and is still there.
 frmChild* SaveOrWarn(MainWindow& main, DocumentId id, const std::string& path) {
-    const bool saved = SaveDocument(main, id, path);
+    bool saved = false;
+    try {
+        saved = SaveDocument(main, id, path);
+    } catch (const std::exception&) {
+        // Told below, like a disk that refuses.
+    }
     frmChild* page = main.find(id);
     if (!page || saved) return page;
     Warn(main, "Could not write to the specified file at this time.");
@@ -98,6 +115,13 @@ void WriteAs(MainWindow& main, DocumentId id, const std::string& path) {
     basMRU::AddRecentFile(main, path);
 }
 
+bool IsOpenElsewhere(MainWindow& main, DocumentId id, const std::string& path) {
+    const auto& documents = main.documents();
+    return std::any_of(documents.begin(), documents.end(), [&](const frmChild* document) {
+        return document->id() != id && modPubFuncs::SamePath(document->Tag(), path);
+    });
+}
+
 void AskAndSaveAs(MainWindow& main, DocumentId id) {
     files::FileDialog dialog;
     dialog.owner = main.mainHwnd();
@@ -106,13 +130,19 @@ void AskAndSaveAs(MainWindow& main, DocumentId id) {
     dialog.filterIndex = FilterIndex("default_Save");
     dialog.extension = DefaultExtension(dialog.filterIndex);
     dialog.proposedName = main.find(id)->Caption();
-    dialog.folder = InitialFolder(main);
+    dialog.folder = InitialFolder(main, main.find(id));
     dialog.flags = kSaveFlags;
-    const std::string path = files::AskSavePath(dialog);
+    const std::optional<std::string> path = files::AskSavePath(dialog);
     frmChild* page = main.find(id);
-    if (path.empty() || !page) return;
-    page->setTag(path);
-    WriteAs(main, id, path);
+    if (!page || !path) return;
+    if (path->empty()) {
+        Warn(main, "You must enter a filename for a valid file to save.");
+    } else if (IsOpenElsewhere(main, id, *path)) {
+        Warn(main, "That file is already open.");
+    } else {
+        page->setTag(*path);
+        WriteAs(main, id, *path);
+    }
 }
 
 void SaveTo(MainWindow& main, frmChild& document, const std::string& path) {
@@ -161,9 +191,13 @@ bool SaveDocument(MainWindow& main, DocumentId document, const std::string& path
     win::RunPending();
     frmChild* page = main.find(document);
     if (!page) return false;
+    if (page->txtPad().isReadOnly()) return false;
+    // No message is handled from here on: what is written is what the page holds when it counts as unchanged.
     const win::WaitCursor wait;
-    if (!files::WritePage(page->txtPad(), path)) return false;
-    page->txtPad().setChanged(false);
+    const files::PageFile file = files::FileOf(*page);
+    if (!files::ReplaceFileContents(path, file.bytes, [&] { main.keepCopy(*page); })) return false;
+    if (file.shown) page->replacePage(*file.shown);
+    page->setSaved(file.encoding);
     return true;
 }
 
@@ -177,7 +211,7 @@ std::string ChooseSavePath(MainWindow& main, HWND owner, const std::string& prop
         dialog.proposedName = proposedName + std::string(1024, ' ');
         dialog.folder = "C:";
         dialog.flags = kSaveFlags;
-        return files::AskSavePath(dialog);
+        return files::AskSavePath(dialog).value_or("");
     } catch (const std::exception&) {
         win::ShowMessage(main.mainHwnd(), "Error processing save.", "SAVE ERROR");
         return {};
@@ -187,13 +221,19 @@ std::string ChooseSavePath(MainWindow& main, HWND owner, const std::string& prop
 void OnFileOpen(MainWindow& main, int) {
     try {
         OpenOrSaveAs(main, true);
+    } catch (const document::PageTooLarge& error) {
+        win::ShowMessage(main.mainHwnd(), error.what(), "Quillon Note:", MB_ICONEXCLAMATION);
     } catch (const std::exception&) {
         win::ShowMessage(main.mainHwnd(), "Error While Processing the File.", "Quillon Note:");
     }
 }
 
 void OnFileSave(MainWindow& main, int) {
-    SaveActive(main);
+    try {
+        SaveActive(main);
+    } catch (const std::exception&) {
+        Warn(main, "Could not write to the specified file at this time.");
+    }
 }
 
 void OnFileSaveAs(MainWindow& main, int) {

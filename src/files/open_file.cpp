@@ -12,9 +12,17 @@ frmChild* OpenFile(MainWindow& main, const std::string& path) {
     const auto bytes = mBinOpen::ReadFileBinary(path);
     // Reading lets messages through: the program may be closing, or the file may be open by now.
     if (!bytes || !main.mainHwnd() || modPubFuncs::IsFileOpen(main, path)) return nullptr;
-    frmChild& page = frmChild::open(main, std::string(modPubFuncs::FileNameFromPath(path)), *bytes);
-    page.setTag(path);
-    return &page;
+    const std::string name(modPubFuncs::FileNameFromPath(path));
+    try {
+        frmChild& page = frmChild::open(main, name, document::PageOf(*bytes));
+        page.setTag(path);
+        return &page;
+    } catch (const document::PageTooLarge&) {
+        throw document::PageTooLarge(
+            name + " (" + std::to_string(bytes->size()) +
+            " bytes) is too large to be opened: there is not enough memory for it.\r\n"
+            "Close other pages and try again, or open it in parts.");
+    }
 }
 
 }  // namespace files

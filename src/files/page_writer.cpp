@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "document/mTxtBoxAPI.h"
+#include "document/system_code_pages.h"
 #include "files/core/page_lines.h"
 #include "files/replace_file.h"
 
@@ -14,13 +15,13 @@ class WithoutWrap {
  public:
     explicit WithoutWrap(document::RichEdit& pad) : pad_(pad), wrapped_(pad.wordWrap()) {
         if (!wrapped_) return;
-        ::SendMessageA(pad_.hwnd(), WM_SETREDRAW, FALSE, 0);
+        ::SendMessageW(pad_.hwnd(), WM_SETREDRAW, FALSE, 0);
         pad_.setWordWrap(false);
     }
     ~WithoutWrap() {
         if (!wrapped_) return;
         pad_.setWordWrap(true);
-        ::SendMessageA(pad_.hwnd(), WM_SETREDRAW, TRUE, 0);
+        ::SendMessageW(pad_.hwnd(), WM_SETREDRAW, TRUE, 0);
         ::InvalidateRect(pad_.hwnd(), nullptr, TRUE);
     }
     WithoutWrap(const WithoutWrap&) = delete;
@@ -31,33 +32,45 @@ class WithoutWrap {
     bool wrapped_;
 };
 
-std::string LinesOneByOne(HWND edit, std::string_view text) {
-    std::string bytes;
-    bytes.reserve(text.size() + 2);
+std::u16string LinesOneByOne(HWND edit, std::u16string_view text) {
+    std::u16string lines;
+    lines.reserve(text.size() + 2);
     const long count = mTxtBoxAPI::LineCount(edit);
     for (long line = 0; line < count; ++line) {
         const auto start = static_cast<std::size_t>(mTxtBoxAPI::LineStart(edit, line));
         const auto length = static_cast<std::size_t>(mTxtBoxAPI::LineLength(edit, line));
-        if (start <= text.size()) bytes.append(text.substr(start, length));
-        bytes.append("\r\n");
+        if (start <= text.size()) lines.append(text.substr(start, length));
+        lines.append(u"\r\n");
     }
-    return bytes;
+    return lines;
+}
+
+std::u16string PageLines(document::RichEdit& pad) {
+    const std::u16string text = pad.text();
+    TerminatedLines lines = TerminateLines(text);
+    // Such lines the control cannot lay out unwrapped in any time that one would wait.
+    if (document::HasLongLine(text)) return std::move(lines.text);
+    const WithoutWrap unwrapped(pad);
+    // Asking the control for line after line takes time that grows with the square of the page, so it is
+    // done only where the control sees other breaks than we do.
+    const auto counted = static_cast<std::size_t>(mTxtBoxAPI::LineCount(pad.hwnd()));
+    return lines.count == counted ? std::move(lines.text) : LinesOneByOne(pad.hwnd(), text);
 }
 
 }  // namespace
 
-std::string PageBytes(document::RichEdit& pad) {
-    const WithoutWrap unwrapped(pad);
-    const std::string text = pad.text();
-    TerminatedLines lines = TerminateLines(text);
-    // Asking the control for line after line takes time that grows with the square of the page, so it is
-    // done only where the control sees other breaks than we do.
-    const auto counted = static_cast<std::size_t>(mTxtBoxAPI::LineCount(pad.hwnd()));
-    return lines.count == counted ? std::move(lines.bytes) : LinesOneByOne(pad.hwnd(), text);
+PageFile FileOf(const frmChild& page) {
+    const document::CodePages& pages = document::SystemCodePages();
+    const std::u16string lines = PageLines(page.txtPad());
+    const document::Encoding encoding = document::EncodingToSave(lines, page.encoding(), pages);
+    const std::u16string written = document::WithReferences(encoding, lines, pages);
+    PageFile file{document::Encode(encoding, written, pages), encoding, std::nullopt};
+    if (written != lines) file.shown = document::WithReferences(encoding, page.txtPad().text(), pages);
+    return file;
 }
 
-bool WritePage(document::RichEdit& pad, const std::string& path) {
-    return ReplaceFileContents(path, PageBytes(pad));
+bool WritePage(const frmChild& page, const std::string& path) {
+    return !page.txtPad().isReadOnly() && ReplaceFileContents(path, FileOf(page).bytes);
 }
 
 }  // namespace files

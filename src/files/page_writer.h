@@ -1,16 +1,28 @@
 // Writing a page as a file.
 #pragma once
 
+#include <optional>
 #include <string>
 
-#include "document/rich_edit.h"
+#include "document/frmChild.h"
 
 namespace files {
 
-// The page's lines as its control counts them without word wrap, each followed by CR LF.
-std::string PageBytes(document::RichEdit& pad);
+// A page as a file.
+struct PageFile {
+    std::string bytes;
+    document::Encoding encoding;
+    // What the page is to show once it is saved: where its encoding cannot hold all that is in it, the
+    // numeric character references that stand in the file.
+    std::optional<std::u16string> shown;
+};
 
-// Writes these bytes to the path, whose file is replaced as a whole. False when that fails.
-bool WritePage(document::RichEdit& pad, const std::string& path);
+// The page's lines as its control counts them without word wrap, each followed by CR LF, in the encoding that
+// the page declares by now.
+PageFile FileOf(const frmChild& page);
+
+// Writes the page to the path, whose file is replaced as a whole; the page itself stays as it is. False when
+// that fails.
+bool WritePage(const frmChild& page, const std::string& path);
 
 }  // namespace files

@@ -4,22 +4,31 @@
 #include <optional>
 
 #include "files/mBinOpen.h"
+#include "win/unique.h"
 #include "win/wide_path.h"
 #include "win/windows.h"
 
 namespace files {
 namespace {
 
-// A file of this name that a killed process has left behind is simply written over by the next save there.
-std::wstring NeighbourPath(const std::wstring& target, int number) {
-    const std::size_t folder = target.rfind(L'\\') + 1;
-    return target.substr(0, folder) + L"~quillon" + static_cast<wchar_t>(L'0' + number) + L".tmp";
+// Scanners, indexers and programs that synchronise folders hold a file for moments after every change.
+bool IsHeldForAMoment(DWORD error) {
+    return error == ERROR_ACCESS_DENIED || error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION;
 }
 
-// With INVALID_HANDLE_VALUE for one that cannot be had.
-HANDLE OpenToWrite(const std::wstring& path, DWORD disposition) {
-    return ::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, disposition, FILE_ATTRIBUTE_NORMAL,
-                         nullptr);
+// Does it again until it is done, fails for good, or about a second has passed. GetLastError() is that of the
+// last try.
+template <typename Action>
+bool Persistently(Action action) {
+    constexpr int kTries = 11;
+    constexpr DWORD kPause = 100;  // milliseconds
+    for (int tries = 1; !action(); ++tries) {
+        const DWORD error = ::GetLastError();
+        if (tries == kTries || !IsHeldForAMoment(error)) return false;
+        ::Sleep(kPause);
+        ::SetLastError(error);
+    }
+    return true;
 }
 
 bool Write(HANDLE file, std::string_view bytes) {
@@ -33,58 +42,113 @@ bool Write(HANDLE file, std::string_view bytes) {
     return true;
 }
 
+// A file system that has nothing to flush has not failed.
+bool Flush(HANDLE file) {
+    if (::FlushFileBuffers(file)) return true;
+    const DWORD error = ::GetLastError();
+    return error == ERROR_INVALID_FUNCTION || error == ERROR_NOT_SUPPORTED ||
+           error == ERROR_CALL_NOT_IMPLEMENTED;
+}
+
 bool WriteAndClose(HANDLE file, std::string_view bytes) {
-    const bool done = Write(file, bytes) && ::SetEndOfFile(file) && ::FlushFileBuffers(file);
+    const bool done = Write(file, bytes) && ::SetEndOfFile(file) && Flush(file);
     return ::CloseHandle(file) && done;
 }
 
-struct Neighbour {
+struct TemporaryFile {
     HANDLE file = INVALID_HANDLE_VALUE;
     std::wstring path;
 };
 
-// Several numbers, because a program that just looks at a leftover may keep it from being written.
-Neighbour CreateNeighbour(const std::wstring& target) {
-    Neighbour neighbour;
-    for (int number = 0; number < 4 && neighbour.file == INVALID_HANDLE_VALUE; ++number) {
-        neighbour.path = NeighbourPath(target, number);
-        neighbour.file = OpenToWrite(neighbour.path, CREATE_ALWAYS);
-        if (neighbour.file == INVALID_HANDLE_VALUE && ::GetLastError() != ERROR_SHARING_VIOLATION) break;
+// "~qu" and eight digits that no other page and no other process comes upon at the same time.
+std::wstring TemporaryName() {
+    LARGE_INTEGER count{};
+    ::QueryPerformanceCounter(&count);
+    static LONG made = 0;
+    DWORD number = ::GetCurrentProcessId() * 2654435761U ^ count.LowPart ^
+                   static_cast<DWORD>(::InterlockedIncrement(&made)) << 24U;
+    std::wstring name = L"~qu";
+    for (int digit = 0; digit < 8; ++digit, number >>= 4U) name += L"0123456789abcdef"[number & 0xFU];
+    return name + L".tmp";
+}
+
+// Made new, never opened over a file that is there.
+TemporaryFile CreateBeside(const std::wstring& target) {
+    TemporaryFile made;
+    for (int tries = 0; tries < 100 && made.file == INVALID_HANDLE_VALUE; ++tries) {
+        made.path = target.substr(0, target.rfind(L'\\') + 1) + TemporaryName();
+        made.file = ::CreateFileW(made.path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr);
+        if (made.file == INVALID_HANDLE_VALUE && ::GetLastError() != ERROR_FILE_EXISTS) break;
     }
-    return neighbour;
+    return made;
 }
 
 // The old bytes are read first and put back when the new ones do not go in whole.
 bool OverwriteInPlace(const std::string& path, std::string_view bytes) {
-    const std::optional<std::string> old = mBinOpen::ReadFileBinary(path);
+    const std::optional<std::string> old = mBinOpen::ReadFileAtOnce(path);
     if (!old) return false;
     const std::wstring target = win::WidePath(path);
-    HANDLE file = OpenToWrite(target, OPEN_EXISTING);
-    if (file == INVALID_HANDLE_VALUE) return false;
+    HANDLE file = INVALID_HANDLE_VALUE;
+    const auto open = [&] {
+        file = ::CreateFileW(target.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL,
+                             nullptr);
+        return file != INVALID_HANDLE_VALUE;
+    };
+    if (!Persistently(open)) return false;
     if (WriteAndClose(file, bytes)) return true;
-    file = OpenToWrite(target, OPEN_EXISTING);
-    if (file != INVALID_HANDLE_VALUE) WriteAndClose(file, *old);
+    if (open()) WriteAndClose(file, *old);
     return false;
+}
+
+// A file that takes the place of one with other names, or of a link, would be a file of its own.
+bool HasOtherNames(const std::wstring& target, DWORD attributes) {
+    if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) return true;
+    const win::UniqueFile file(::CreateFileW(target.c_str(), 0,
+                                             FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                             OPEN_EXISTING, 0, nullptr));
+    BY_HANDLE_FILE_INFORMATION information{};
+    return file && ::GetFileInformationByHandle(file.get(), &information) && information.nNumberOfLinks > 1;
+}
+
+// The new file is as old as the one whose place it takes, and as hidden. ReplaceFile would carry over more,
+// but a program that is killed in the middle of it leaves no file under the name at all.
+void TakeOverDetails(HANDLE made, const std::wstring& path, const std::wstring& target) {
+    WIN32_FILE_ATTRIBUTE_DATA old{};
+    if (!::GetFileAttributesExW(target.c_str(), GetFileExInfoStandard, &old)) return;
+    ::SetFileTime(made, &old.ftCreationTime, nullptr, nullptr);
+    ::SetFileAttributesW(path.c_str(), old.dwFileAttributes);
+}
+
+bool TakePlace(const std::wstring& made, const std::wstring& target) {
+    return Persistently([&] {
+        return ::MoveFileExW(made.c_str(), target.c_str(),
+                             MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
+    });
 }
 
 }  // namespace
 
-bool ReplaceFileContents(const std::string& path, std::string_view bytes) {
+bool ReplaceFileContents(const std::string& path, std::string_view bytes,
+                         const std::function<void()>& beforeOverwriting) {
     const std::wstring target = win::WidePath(path);
     if (target.empty()) return false;
     const DWORD attributes = ::GetFileAttributesW(target.c_str());
     const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
     if (exists && (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0) return false;
+    const auto overwrite = [&] {
+        if (beforeOverwriting) beforeOverwriting();
+        return OverwriteInPlace(path, bytes);
+    };
+    if (exists && HasOtherNames(target, attributes)) return overwrite();
 
-    const Neighbour neighbour = CreateNeighbour(target);
-    if (neighbour.file == INVALID_HANDLE_VALUE) {
-        return exists && ::GetLastError() == ERROR_ACCESS_DENIED && OverwriteInPlace(path, bytes);
+    const TemporaryFile made = CreateBeside(target);
+    if (made.file == INVALID_HANDLE_VALUE) {
+        return exists && ::GetLastError() == ERROR_ACCESS_DENIED && overwrite();
     }
-    if (WriteAndClose(neighbour.file, bytes) &&
-        ::MoveFileExW(neighbour.path.c_str(), target.c_str(),
-                      MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-        return true;
-    ::DeleteFileW(neighbour.path.c_str());
+    if (exists) TakeOverDetails(made.file, made.path, target);
+    if (WriteAndClose(made.file, bytes) && TakePlace(made.path, target)) return true;
+    ::DeleteFileW(made.path.c_str());
     return false;
 }
 

@@ -11,6 +11,6 @@ bool frmConnect::onCommand(WORD id, WORD notification) {
     const Dialog* waiting = find(::GetWindow(hwnd(), GW_OWNER), "frmUpload");
     if (id != IDCANCEL || !waiting) return false;
     // It knows what to do with this window.
-    ::SendMessageA(waiting->hwnd(), WM_COMMAND, MAKEWPARAM(id, notification), 0);
+    ::SendMessageW(waiting->hwnd(), WM_COMMAND, MAKEWPARAM(id, notification), 0);
     return true;
 }

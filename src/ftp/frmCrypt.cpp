@@ -1,8 +1,9 @@
 #include "ftp/frmCrypt.h"
 
+#include "document/system_code_pages.h"
 #include "forms/frmCrypt.h"
-#include "ftp/core/scramble.h"
-#include "ftp/core/site_url.h"
+#include "ftp/core/password.h"
+#include "ftp/core/server_text.h"
 #include "ftp/site_store.h"
 #include "win/message_box.h"
 #include "win/modWndPos.h"
@@ -36,7 +37,7 @@ bool frmCrypt::onCommand(WORD id, WORD notification) {
         return true;
     }
     // Where the focus went is known only once it has arrived.
-    if (id == txtURL && notification == EN_KILLFOCUS) ::PostMessageA(hwnd(), kCheckUrl, 0, 0);
+    if (id == txtURL && notification == EN_KILLFOCUS) ::PostMessageW(hwnd(), kCheckUrl, 0, 0);
     return false;
 }
 
@@ -82,7 +83,12 @@ void frmCrypt::SaveSiteEntry(bool savePassword, const std::string& password) {
     ftp::Site site;
     site.url = itemText(txtURL);
     site.name = itemText(txtName);
-    if (savePassword) site.storedPassword = ftp::ScramblePassword(password);
+    if (savePassword) {
+        const document::CodePages& pages = document::SystemCodePages();
+        std::string sent = ftp::SentText(password, pages);
+        site.storedPassword = ftp::StoredPassword(sent, pages);
+        ftp::Wipe(sent);
+    }
     const ftp::SiteAddition addition = ftp::AddSite(ftp::ReadSections(), site);
     ftp::Apply(addition.changes);
     if (!addition.added) {

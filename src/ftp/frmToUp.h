@@ -10,12 +10,11 @@ class frmToUp : public win::Dialog {
  public:
     enum class Choice { none, connect };
 
-    // Shows the dialog for the site at `index`, and deletes the site if the user wants that.
-    static Choice ask(MainWindow& main, const std::string& site, int index);
+    // Shows the dialog for the site with that address, and deletes the site if the user wants that.
+    static Choice ask(MainWindow& main, const std::string& site);
 
  private:
-    frmToUp(MainWindow& main, const std::string& site, int index)
-        : Dialog("frmToUp"), main_(main), site_(site), index_(index) {}
+    frmToUp(MainWindow& main, const std::string& site) : Dialog("frmToUp"), main_(main), site_(site) {}
 
     bool onInit() override;
     bool onCommand(WORD id, WORD notification) override;
@@ -27,5 +26,4 @@ class frmToUp : public win::Dialog {
 
     MainWindow& main_;
     std::string site_;
-    int index_;
 };

@@ -1,17 +1,14 @@
 #include "ftp/frmUpload.h"
 
 #include <exception>
+#include <memory>
 #include <utility>
 
 #include "forms/frmUpload.h"
-#include "ftp/core/remote_listing.h"
-#include "ftp/core/remote_path.h"
-#include "ftp/core/scramble.h"
-#include "ftp/core/site_url.h"
+#include "ftp/core/password.h"
 #include "ftp/frmConnect.h"
 #include "ftp/remote_commands.h"
 #include "ftp/site_store.h"
-#include "ftp/uploads.h"
 #include "win/drop_target.h"
 #include "win/message_box.h"
 #include "win/modWndPos.h"
@@ -21,8 +18,8 @@ namespace {
 
 constexpr UINT kLoad = WM_APP;
 constexpr UINT kUpload = WM_APP + 1;  // what was dropped before
-// How long, in milliseconds, a closed window lets the server finish what it is at: long enough for a page.
-constexpr DWORD kPatience = 1000;
+// How long, in milliseconds, a closed window lets the server finish what it is at.
+constexpr DWORD kTimeout = 1000;
 
 constexpr char kNoConnection[] = "Cannot connect to FTP site...";
 
@@ -42,7 +39,8 @@ constexpr ButtonPicture kPictures[] = {
 frmUpload::Busy::Busy(frmUpload& form, const char* status) : form_(form), focus_(::GetFocus()) {
     if (form_.busy_++ == 0) form_.enableControls();
     if (!status) return;
-    form_.showResult(status);
+    form_.result_.clear();
+    form_.setItemText(txtCurDir, status);
     win::RunPending();
 }
 
@@ -61,7 +59,7 @@ void frmUpload::open(MainWindow& main, int siteIndex, ftp::SessionMaker makeSess
     auto* form = new frmUpload(main, siteIndex, connecting, makeSession);
     form->createModeless(main.mainHwnd());
     // As a message, because the object lasts as long as one of its handlers runs.
-    ::SendMessageA(form->hwnd(), kLoad, 0, 0);
+    ::SendMessageW(form->hwnd(), kLoad, 0, 0);
 }
 
 frmUpload::frmUpload(MainWindow& main, int siteIndex, HWND connecting, ftp::SessionMaker makeSession)
@@ -69,11 +67,7 @@ frmUpload::frmUpload(MainWindow& main, int siteIndex, HWND connecting, ftp::Sess
       main_(main),
       siteIndex_(siteIndex),
       connecting_(connecting),
-      session_(makeSession()) {}
-
-frmUpload::~frmUpload() {
-    ftp::Wipe(password_);
-}
+      session_(makeSession) {}
 
 bool frmUpload::onInit() {
     lstRemoteFiles_.attach(item(lstRemoteFiles));
@@ -81,26 +75,24 @@ bool frmUpload::onInit() {
     showPictures();
     ::CheckRadioButton(hwnd(), upType, upType + 2, upType + 2);
     showIdle();
+    main_.askBeforeClosing([this] { return mayBreakOff(AtEnd::closeProgram); });
     // Until it is shown the keyboard stays with the connecting window, where Esc gives up.
     return false;
 }
 
 void frmUpload::showPictures() {
     icon_ = win::SmallIcon("ftp");
-    ::SendMessageA(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon_.get()));
-    for (std::size_t i = 0; i < pictures_.size(); ++i) {
-        pictures_[i] = win::IconBeforeText(kPictures[i].icon);
-        ::SendMessageA(item(kPictures[i].button), BM_SETIMAGE, IMAGE_ICON,
-                       reinterpret_cast<LPARAM>(pictures_[i].get()));
-    }
+    ::SendMessageW(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon_.get()));
+    for (const auto& [button, icon] : kPictures) pictures_.push_back(win::ShowPicture(item(button), icon));
 }
 
 void frmUpload::onClosing() {
+    main_.askBeforeClosing({});
     unloadConnect();
     if (busy_ > 0) {
-        session_->giveUp(kPatience);
+        session_.giveUp(kTimeout);
     } else {
-        session_->close();
+        session_.close();
     }
     modWndPos::DropTopmost(hwnd());
     ::SetFocus(main_.mainHwnd());
@@ -111,7 +103,7 @@ void frmUpload::load() {
     if (!hwnd()) return;
     win::RunPending();
     if (!hwnd()) return;
-    notConnected = !session_->isConnected();
+    notConnected = !session_.isConnected();
     if (notConnected && noInfoNeeded) {
         close();
         return;
@@ -131,9 +123,8 @@ void frmUpload::openSite() {
             say("Must enter NEW FTP info before you can upload files.", "NO SITES LISTED");
             return;
         }
-        site_ = site->url;
-        user_ = site->name;
-        ReadPassword(site->storedPassword);
+        session_.use(*site);
+        setItemText(lblFtpSite, "Site: " + site->url);
     } catch (const std::exception&) {
         noInfoNeeded = true;
         unloadConnect();
@@ -141,158 +132,141 @@ void frmUpload::openSite() {
             "NO SITE LOADED");
         return;
     }
-    if (password_.empty()) {
+    if (session_.hasPassword()) {
+        Connect();
+    } else {
         unloadConnect();
         txtPassword_.showHint();
-    } else {
-        Connect();
     }
 }
 
-void frmUpload::ReadPassword(const std::string& stored) {
-    password_ = ftp::ScramblePassword(stored);
-}
-
 void frmUpload::cmdPassword_Click() {
-    password_ = txtPassword_.typed();
-    if (password_.empty()) {
+    std::string typed = txtPassword_.typed();
+    session_.setPassword(typed);
+    ftp::Wipe(typed);
+    if (!session_.hasPassword()) {
         say("Must enter PASSWORD to use FTP.", "NO PASSWORD GIVEN");
         if (hwnd()) focusItem(txtPassword);
         return;
     }
     txtPassword_.clear();
-    const Busy busy(*this, ("Connecting to " + site_).c_str());
+    const Busy busy(*this, ("Connecting to " + session_.url()).c_str());
     if (isThere()) Connect();
 }
 
 void frmUpload::Connect() {
+    using Opened = ftp::SiteSession::Opened;
     const Busy busy(*this);
-    if (!session_->dial() && isThere()) {
+    if (!session_.dial() && isThere()) {
         unloadConnect();
         ::ShowWindow(hwnd(), SW_HIDE);
         say("Could not connect to the internet through AutoDial.\r\n"
             "Connect to Internet before attempting to use FTP.",
             "NOT CONNECTED", MB_ICONINFORMATION);
     }
-    if (isThere() && openSession() && isThere()) startInSiteDirectory();
-    ftp::Wipe(password_);
-}
-
-bool frmUpload::openSession() {
-    if (!session_->open()) {
-        endAttempt("Cannot obtain internet handle...");
-    } else if (!session_->connect(ftp::SplitSiteUrl(site_).host, user_, password_)) {
-        endAttempt(kNoConnection);
+    if (!isThere()) return;
+    const Opened opened = session_.open();
+    if (opened != Opened::yes) {
+        endAttempt(opened == Opened::noNetworking ? "Cannot obtain internet handle..." : kNoConnection);
+    } else if (isThere()) {
+        startInSiteDirectory();
     }
-    return session_->isConnected();
 }
 
 void frmUpload::endAttempt(const char* failure) {
     unloadConnect();
     if (!isThere()) return;
-    session_->close();
+    session_.close();
     say(failure, "NOT CONNECTED");
     if (hwnd()) close();
 }
 
 void frmUpload::startInSiteDirectory() {
-    const std::string path = ftp::SplitSiteUrl(site_).path;
-    const bool refused = !path.empty() && !changeDirectory(path);
-    if (refused && isThere() && session_->isConnected()) say("Cannot access Directory!", "Quillon Note:");
+    const bool entered = session_.enterStart();
+    if (!entered && isThere() && session_.isConnected()) say("Cannot access Directory!", "Quillon Note:");
     if (!isThere()) return;
-    root_ = session_->currentDirectory().value_or("/");
-    if (!isThere()) return;
-    current_ = root_;
     ListRemote();
     if (!isThere()) return;
-    if (!session_->isConnected()) {
+    if (!session_.isConnected()) {
         endAttempt(kNoConnection);
         return;
     }
     unloadConnect();
-    ftp::SaveLastSite(main_, siteIndex_, site_);
+    ftp::SaveLastSite(main_, session_.url());
     if (::IsWindowVisible(hwnd())) return;
     place();
     ::ShowWindow(hwnd(), SW_SHOW);
 }
 
+void frmUpload::closeDuringWork() {
+    if (mayBreakOff(AtEnd::close)) giveUp();
+}
+
+bool frmUpload::mayBreakOff(AtEnd otherwise) {
+    if (sending_.empty()) return true;
+    if (asking_) return false;
+    asking_ = true;
+    const int answer =
+        say("Still sending " + sending_ + ".\r\nBreak it off? The server then has only a part.",
+            "UPLOAD NOT FINISHED", MB_YESNO | MB_ICONQUESTION | MB_DEFBUTTON2);
+    asking_ = false;
+    if (answer != IDYES) {
+        atEnd_ = otherwise;
+        return false;
+    }
+    session_.giveUp(kTimeout);
+    return true;
+}
+
 void frmUpload::giveUp() {
     closeWanted_ = !connecting_;
-    session_->giveUp(connecting_ ? 0 : kPatience);
+    session_.giveUp(connecting_ ? 0 : kTimeout);
     unloadConnect();
 }
 
 void frmUpload::CloseSession() {
-    session_->close();
-    current_.clear();
-    lstRemoteFiles_.clear();
+    session_.close();
+    lstRemoteFiles_.show({});
     idle_ = "NO SITE ACTIVE";
     txtPassword_.showHint();
     showIdle();
     focusItem(txtPassword);
 }
 
-bool frmUpload::change(const char* status, ftp::RemoteCommand command, const std::string& first,
-                       const std::string& second) {
-    const Busy busy(*this, status);
-    const bool granted = isThere() && session_->tell(command, first, second);
-    if (granted) ListRemote();
-    return granted;
+std::optional<ftp::Unsent> frmUpload::send(std::vector<ftp::LocalFile> files) {
+    struct Sending {
+        std::string& what;
+        ~Sending() { what.clear(); }
+    } const sending{sending_};
+    sending_ = files.size() == 1 ? files.front().name : std::to_string(files.size()) + " files";
+    const auto shared = std::make_shared<const std::vector<ftp::LocalFile>>(std::move(files));
+    return work("Uploading.....", [shared, directory = session_.directory()](ftp::FtpSession& session) {
+        return ftp::Send(session, *shared, directory);
+    });
 }
 
 void frmUpload::ListRemote() {
     const Busy busy(*this, "Listing Files...");
     if (!isThere()) return;
-    const std::string selected = lstRemoteFiles_.selected();
-    const std::string before = current_;
-    const std::optional<std::string> now = session_->currentDirectory();
-    if (!isThere()) return;
-    current_ = now.value_or(before);
-    lstRemoteFiles_.clear();
-    ftp::RemoteListing listing;
-    auto entry = session_->findFirst("*");
-    while (entry && listing.add(entry->name, entry->attributes)) entry = session_->findNext();
-    session_->endFind();
-    if (!isThere()) return;
-    listLines(listing.lines());
-    if (isThere() && current_ == before) lstRemoteFiles_.select(selected);
-}
-
-void frmUpload::listLines(const std::vector<std::string>& lines) {
-    // A server that has stopped to answer would be waited for once an entry.
-    bool probing = true;
-    for (const std::string& line : lines) {
-        const bool directory = probing && !ftp::IsDirectoryLine(line) && IsRemoteDirectory(line);
-        if (!isThere()) return;
-        probing = probing && session_->answered();
-        lstRemoteFiles_.add(directory ? line + "/" : line);
-        win::RunPending();
-        if (!isThere()) return;
-    }
-}
-
-bool frmUpload::IsRemoteDirectory(const std::string& name) {
-    return changeDirectory(ftp::JoinRemote(current_, name)) && changeDirectory(current_);
-}
-
-bool frmUpload::changeDirectory(const std::string& directory) {
-    return session_->tell(ftp::RemoteCommand::changeDirectory, directory);
-}
-
-std::optional<std::string> frmUpload::directoryAbove() const {
-    return ftp::DirectoryAbove(current_, root_);
+    const ftp::RemoteFile* line = lstRemoteFiles_.selected();
+    const std::string selected = line ? line->name : std::string();
+    const std::string before = session_.directory();
+    lstRemoteFiles_.show({});
+    auto files = session_.readDirectory();
+    if (!isThere() || !files) return;
+    lstRemoteFiles_.show(std::move(*files));
+    if (session_.directory() == before) lstRemoteFiles_.select(selected);
 }
 
 void frmUpload::showMenu(POINT at) {
     if (busy_ > 0 || !lstRemoteFiles_.findMenuPoint(at)) return;
-    const win::UniqueMenu menus(::LoadMenuA(::GetModuleHandleA(nullptr), "frmUpload"));
-    const int position = ftp::IsDirectoryLine(lstRemoteFiles_.selected()) ? 1 : 0;
+    const win::UniqueMenu menus(::LoadMenuW(::GetModuleHandleW(nullptr), L"frmUpload"));
+    const int position = lstRemoteFiles_.selected()->isDirectory() ? 1 : 0;
     ::TrackPopupMenu(::GetSubMenu(menus.get(), position), TPM_RIGHTBUTTON, at.x, at.y, 0, hwnd(), nullptr);
 }
 
-ftp::TransferType frmUpload::transferType(const std::string& name) const {
-    const auto mode = isChecked(upType) ? ftp::TransferMode::binary : ftp::TransferMode::automatic;
-    return ftp::ChooseTransferType(mode, name);
+ftp::TransferMode frmUpload::transferMode() const {
+    return isChecked(upType) ? ftp::TransferMode::binary : ftp::TransferMode::automatic;
 }
 
 int frmUpload::say(const std::string& text, const char* title, UINT style) const {
@@ -300,33 +274,36 @@ int frmUpload::say(const std::string& text, const char* title, UINT style) const
     return win::ShowMessage(owner, text, title, style);
 }
 
-void frmUpload::showResult(const std::string& text) const {
-    setItemText(txtCurDir, text);
+void frmUpload::showResult(const std::string& text) {
+    result_ = text;
+    setItemText(txtCurDir, result_);
 }
 
 void frmUpload::showIdle() {
-    setItemText(txtCurDir, session_->isConnected() ? current_ : idle_);
+    const std::string state = session_.isConnected() ? session_.shownDirectory() : idle_;
+    setItemText(txtCurDir, result_.empty() ? state : result_);
     enableControls();
 }
 
 void frmUpload::enableControls() const {
     const bool idle = busy_ == 0;
-    const bool connected = session_->isConnected();
+    const bool connected = session_.isConnected();
     for (const int id : kSessionControls) enableItem(id, idle && connected);
     for (const int id : kLoginControls) enableItem(id, idle && !connected);
-    enableItem(cmdUpDir, idle && connected && directoryAbove());
+    enableItem(cmdUpDir, idle && connected && session_.directoryAbove());
 }
 
 void frmUpload::finishWork(HWND focus) {
     if (!hwnd()) return;
-    if (closeWanted_) {
+    if (closeWanted_ || atEnd_ != AtEnd::stay) {
+        if (atEnd_ == AtEnd::closeProgram) ::PostMessageW(main_.mainHwnd(), WM_CLOSE, 0, 0);
         close();
         return;
     }
     showIdle();
     // A control that was disabled has lost the keyboard.
     if (::GetActiveWindow() != hwnd() || ::GetFocus()) return;
-    const int fallback = session_->isConnected() ? lstRemoteFiles : txtPassword;
+    const int fallback = session_.isConnected() ? lstRemoteFiles : txtPassword;
     ::SetFocus(::IsChild(hwnd(), focus) && ::IsWindowEnabled(focus) ? focus : item(fallback));
 }
 
@@ -345,44 +322,48 @@ void frmUpload::place() const {
 bool frmUpload::comeForward(int siteIndex) {
     const bool occupied = busy_ > 0 || !::IsWindowEnabled(hwnd());
     const std::optional<ftp::Site> site = ftp::FindSite(ftp::ReadSections(), siteIndex);
-    if (!occupied && !(session_->isConnected() && site && site->url == site_)) {
+    const bool ours = site && site->url == session_.url();
+    if (!occupied && !(ours && session_.isConnected() && !session_.isLost())) {
         close();
         return false;
     }
-    ::SetForegroundWindow(connecting_ ? connecting_ : ::GetLastActivePopup(hwnd()));
+    if (ours) {
+        ::SetForegroundWindow(connecting_ ? connecting_ : ::GetLastActivePopup(hwnd()));
+    } else {
+        win::ShowMessage(main_.mainHwnd(),
+                         session_.url() + " is still busy.\r\nWait until it is done, or close its window.",
+                         "Quillon Note:");
+    }
     return true;
 }
 
 bool frmUpload::onCommand(WORD id, WORD notification) {
     if (id == txtPassword) {
         txtPassword_.onNotification(notification);
-        return true;
-    }
-    if (busy_ > 0) {
-        if (id == IDCANCEL) giveUp();
-        return true;
-    }
-    if (id == lstRemoteFiles) {
+    } else if (busy_ > 0) {
+        if (id == IDCANCEL) closeDuringWork();
+    } else if (id == lstRemoteFiles) {
         if (notification == LBN_DBLCLK) ftp::EnterDirectory(*this, lstRemoteFiles_.selected());
-        return true;
+    } else if (id == IDCANCEL || notification != BN_CLICKED) {
+        return false;
+    } else {
+        onButton(id);
     }
+    return true;
+}
+
+void frmUpload::onButton(WORD id) {
     // The Enter key: there is no default button, what it means depends on where the focus is.
-    if (id == IDOK) {
-        if (::GetFocus() == item(lstRemoteFiles)) {
-            ftp::EnterDirectory(*this, lstRemoteFiles_.selected());
-        }
-        if (::GetFocus() == item(txtPassword)) cmdPassword_Click();
-        return true;
-    }
-    if (notification != BN_CLICKED) return false;
-    if (id == cmdPassword) {
+    const HWND focus = id == IDOK ? ::GetFocus() : nullptr;
+    if (focus && focus == item(lstRemoteFiles)) {
+        ftp::EnterDirectory(*this, lstRemoteFiles_.selected());
+    } else if (id == cmdPassword || (focus && focus == item(txtPassword))) {
         cmdPassword_Click();
     } else if (id == cmdShut) {
         CloseSession();
     } else {
-        return ftp::RunCommand(*this, id, lstRemoteFiles_.selected());
+        ftp::RunCommand(*this, id, lstRemoteFiles_.selected());
     }
-    return true;
 }
 
 INT_PTR frmUpload::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -391,12 +372,15 @@ INT_PTR frmUpload::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             load();
             return TRUE;
         case win::kDropped:
-            // The program that the files come from is not kept waiting for the server.
-            dropped_ = *reinterpret_cast<const std::vector<std::string>*>(lParam);
-            ::PostMessageA(hwnd(), kUpload, 0, 0);
+            // The program that the files come from is not kept waiting for the server, and may take them
+            // back.
+            if (!win::DroppedFiles()) return TRUE;
+            dropped_ = ftp::OpenFiles(*win::DroppedFiles());
+            ::PostMessageW(hwnd(), kUpload, 0, 0);
             return TRUE;
         case kUpload:
-            if (busy_ == 0 && session_->isConnected()) ftp::UploadDropped(*this, std::exchange(dropped_, {}));
+            if (busy_ == 0 && session_.isConnected()) ftp::UploadDropped(*this, std::exchange(dropped_, {}));
+            dropped_.clear();
             return TRUE;
         case WM_CONTEXTMENU:
             if (reinterpret_cast<HWND>(wParam) != item(lstRemoteFiles)) return FALSE;
@@ -404,8 +388,8 @@ INT_PTR frmUpload::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return TRUE;
         case WM_SETCURSOR:
             if (busy_ == 0) return FALSE;
-            ::SetCursor(::LoadCursorA(nullptr, IDC_WAIT));
-            ::SetWindowLongPtrA(hwnd(), DWLP_MSGRESULT, TRUE);
+            ::SetCursor(::LoadCursorW(nullptr, IDC_WAIT));
+            ::SetWindowLongPtrW(hwnd(), DWLP_MSGRESULT, TRUE);
             return TRUE;
         default:
             return FALSE;

@@ -1,18 +1,19 @@
 // The FTP window: one session with a stored site, and the directory that it shows.
 #pragma once
 
-#include <array>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "ftp/ftp_session.h"
 #include "ftp/password_field.h"
 #include "ftp/remote_list.h"
+#include "ftp/site_session.h"
+#include "ftp/transfers.h"
 #include "main_window.h"
 #include "win/dialog.h"
 #include "win/message_loop.h"
+#include "win/picture.h"
 #include "win/unique.h"
 
 class frmUpload : public win::Dialog {
@@ -31,25 +32,35 @@ class frmUpload : public win::Dialog {
     // False once the window is going. To be asked after all that lets messages through: a message box, work.
     bool isThere() const { return hwnd() && !closeWanted_; }
     int say(const std::string& text, const char* title = "Quillon", UINT style = MB_OK) const;
-    // Shows the status while `request` works with the session; unless the window goes before that.
+    // Shows the status while the request works with the session, and gives its answer; nothing when the
+    // window goes before that.
     template <typename Request>
-    void work(const char* status, Request request) {
+    auto work(const char* status, Request request) {
         const Busy busy(*this, status);
-        if (isThere()) request(*session_);
+        decltype(session_.ask(request)) answer;
+        if (isThere()) answer = session_.ask(std::move(request));
+        if (!isThere()) answer.reset();
+        return answer;
     }
-    // Tells the server what changes the directory: lists it anew and gives true when that was granted.
-    bool change(const char* status, ftp::RemoteCommand command, const std::string& first,
-                const std::string& second = {});
+    // The same for a request that changes the directory: lists it anew and gives true when that was granted.
+    template <typename Request>
+    bool change(const char* status, Request request) {
+        const Busy busy(*this, status);
+        const bool granted = isThere() && session_.ask(std::move(request)).value_or(false);
+        if (granted && isThere()) ListRemote();
+        return granted;
+    }
+    // Sends files into the current directory; nothing when the window goes before the end.
+    std::optional<ftp::Unsent> send(std::vector<ftp::LocalFile> files);
     void ListRemote();
-    const std::string& currentDirectory() const { return current_; }
-    std::optional<std::string> directoryAbove() const;  // nothing where the session started
-    ftp::TransferType transferType(const std::string& name) const;
-    void select(const std::string& line) { lstRemoteFiles_.select(line); }
-    void showResult(const std::string& text) const;  // in txtCurDir
+    const ftp::SiteSession& session() const { return session_; }
+    ftp::TransferMode transferMode() const;
+    void select(const std::string& name) { lstRemoteFiles_.select(name); }
+    // In txtCurDir, until the next work.
+    void showResult(const std::string& text);
 
- private:
     // The window while it works: nothing in it can be clicked, the pointer shows it, and closing waits a
-    // moment for the end. The other windows go on: all that a call of the session's lets through can happen.
+    // moment for the end. The other windows go on: all that a request lets through can happen.
     class Busy {
      public:
         explicit Busy(frmUpload& form, const char* status = nullptr);
@@ -63,34 +74,34 @@ class frmUpload : public win::Dialog {
         win::WaitCursor cursor_;
     };
 
+ private:
     frmUpload(MainWindow& main, int siteIndex, HWND connecting, ftp::SessionMaker makeSession);
-    ~frmUpload() override;
 
     bool onInit() override;
     bool onCommand(WORD id, WORD notification) override;
     INT_PTR onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void onClosing() override;
     void showPictures();
+    void onButton(WORD id);
 
     void load();
     void openSite();
-    void ReadPassword(const std::string& stored);
     void cmdPassword_Click();
     void Connect();
-    bool openSession();
     void endAttempt(const char* failure);
     void startInSiteDirectory();
     // The user has closed this window, or the connecting one, while the session works.
+    void closeDuringWork();
+    // Whether what is being sent, if anything is, may be broken off. If not, `otherwise` follows the
+    // work.
+    enum class AtEnd { stay, close, closeProgram };
+    bool mayBreakOff(AtEnd otherwise);
     void giveUp();
     void CloseSession();
     // Whether this window is the one to stay for a site.
     bool comeForward(int siteIndex);
 
-    void listLines(const std::vector<std::string>& lines);
-    bool IsRemoteDirectory(const std::string& name);
-    bool changeDirectory(const std::string& directory);
     void showMenu(POINT at);
-
     void showIdle();
     void enableControls() const;
     void finishWork(HWND focus);
@@ -100,18 +111,17 @@ class frmUpload : public win::Dialog {
     MainWindow& main_;
     int siteIndex_;
     HWND connecting_;
-    std::unique_ptr<ftp::FtpSession> session_;
+    ftp::SiteSession session_;
     ftp::RemoteList lstRemoteFiles_;
     ftp::PasswordField txtPassword_;
     win::UniqueIcon icon_;
-    std::array<win::UniqueIcon, 4> pictures_;
-    std::vector<std::string> dropped_;
-    std::string site_;
-    std::string user_;
-    std::string password_;  // only until the server has it
-    std::string root_;      // the directory that the session started in
-    std::string current_;
+    std::vector<win::UniqueImageList> pictures_;
+    std::vector<ftp::LocalFile> dropped_;
     const char* idle_ = "NOT CONNECTED";  // what txtCurDir says without a session
+    std::string result_;                  // what it says instead
     int busy_ = 0;
+    std::string sending_;  // what is on its way to the server
+    bool asking_ = false;  // whether to break that off
     bool closeWanted_ = false;
+    AtEnd atEnd_ = AtEnd::stay;  // of the work, if it is not broken off
 };

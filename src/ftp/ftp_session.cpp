@@ -1,26 +1,27 @@
 #include "ftp/ftp_session.h"
 
+#include <algorithm>
 #include <array>
-#include <utility>
+#include <atomic>
+#include <string_view>
+#include <vector>
 
 #include <wininet.h>
 
-#include "ftp/core/scramble.h"
 #include "win/late.h"
 #include "win/unique.h"
-#include "win/worker.h"
 
 namespace ftp {
 namespace {
 
+// The ...A functions: names and answers are the server's bytes, which no code page of ours may touch.
 constexpr char kDll[] = "wininet.dll";
 constexpr win::Late<decltype(&::FtpCreateDirectoryA)> kFtpCreateDirectory{kDll, "FtpCreateDirectoryA"};
 constexpr win::Late<decltype(&::FtpDeleteFileA)> kFtpDeleteFile{kDll, "FtpDeleteFileA"};
 constexpr win::Late<decltype(&::FtpFindFirstFileA)> kFtpFindFirstFile{kDll, "FtpFindFirstFileA"};
 constexpr win::Late<decltype(&::FtpGetCurrentDirectoryA)> kFtpGetCurrentDirectory{kDll,
                                                                                   "FtpGetCurrentDirectoryA"};
-constexpr win::Late<decltype(&::FtpGetFileA)> kFtpGetFile{kDll, "FtpGetFileA"};
-constexpr win::Late<decltype(&::FtpPutFileA)> kFtpPutFile{kDll, "FtpPutFileA"};
+constexpr win::Late<decltype(&::FtpOpenFileA)> kFtpOpenFile{kDll, "FtpOpenFileA"};
 constexpr win::Late<decltype(&::FtpRemoveDirectoryA)> kFtpRemoveDirectory{kDll, "FtpRemoveDirectoryA"};
 constexpr win::Late<decltype(&::FtpRenameFileA)> kFtpRenameFile{kDll, "FtpRenameFileA"};
 constexpr win::Late<decltype(&::FtpSetCurrentDirectoryA)> kFtpSetCurrentDirectory{kDll,
@@ -29,7 +30,13 @@ constexpr win::Late<decltype(&::InternetAutodial)> kInternetAutodial{kDll, "Inte
 constexpr win::Late<decltype(&::InternetCloseHandle)> kInternetCloseHandle{kDll, "InternetCloseHandle"};
 constexpr win::Late<decltype(&::InternetConnectA)> kInternetConnect{kDll, "InternetConnectA"};
 constexpr win::Late<decltype(&::InternetFindNextFileA)> kInternetFindNextFile{kDll, "InternetFindNextFileA"};
-constexpr win::Late<decltype(&::InternetOpenA)> kInternetOpen{kDll, "InternetOpenA"};
+constexpr win::Late<decltype(&::InternetGetLastResponseInfoA)> kInternetGetLastResponseInfo{
+    kDll, "InternetGetLastResponseInfoA"};
+constexpr win::Late<decltype(&::InternetOpenW)> kInternetOpen{kDll, "InternetOpenW"};
+constexpr win::Late<decltype(&::InternetReadFile)> kInternetReadFile{kDll, "InternetReadFile"};
+constexpr win::Late<decltype(&::InternetWriteFile)> kInternetWriteFile{kDll, "InternetWriteFile"};
+
+constexpr std::size_t kChunk = 64 * 1024;
 
 void CloseInternet(HINTERNET handle) {
     kInternetCloseHandle(handle);
@@ -37,191 +44,189 @@ void CloseInternet(HINTERNET handle) {
 
 using UniqueInternet = win::Unique<HINTERNET, CloseInternet>;
 
-// The calls that are no RemoteCommand.
-enum class Call { command, dial, connect, currentDirectory, findFirst, findNext };
-
-// One call with what it takes and gives. What comes of it when nobody waits any more is not kept: a
-// connection is closed, a file that has arrived is deleted.
-class Request final : public win::Task {
+// A handle that one thread uses and another may close.
+class SharedInternet {
  public:
-    Request(Call call, HINTERNET handle, const char* first, const char* second = "",
-            RemoteCommand command = {}, DWORD number = 0)
-        : call_(call), command_(command), handle_(handle), first_(first), second_(second), number_(number) {}
+    ~SharedInternet() { reset(); }
 
-    std::string password;
-    bool wanted = true;
-
-    BOOL done = FALSE;
-    UniqueInternet opened;
-    std::array<char, 4096> directory{};
-    WIN32_FIND_DATAA found{};
+    HINTERNET get() const { return handle_; }
+    void reset(HINTERNET handle = nullptr) {
+        if (const HINTERNET old = handle_.exchange(handle)) CloseInternet(old);
+    }
 
  private:
-    ~Request() override {
-        Wipe(password);
-        if (command_ == RemoteCommand::get && !wanted) ::DeleteFileA(second_.c_str());
-    }
-    void run() override;
-    BOOL runCommand();
-
-    const Call call_;
-    const RemoteCommand command_;
-    const HINTERNET handle_;
-    const std::string first_;
-    const std::string second_;
-    DWORD number_;
+    std::atomic<HINTERNET> handle_ = nullptr;
 };
 
-void Request::run() {
-    switch (call_) {
-        case Call::command:
-            done = runCommand();
-            return;
-        case Call::dial:
-            done = kInternetAutodial(INTERNET_AUTODIAL_FORCE_UNATTENDED, nullptr);
-            return;
-        case Call::connect:
-            opened.reset(kInternetConnect(handle_, first_.c_str(), static_cast<INTERNET_PORT>(number_),
-                                          second_.c_str(), password.c_str(), INTERNET_SERVICE_FTP, 0, 0));
-            break;
-        case Call::currentDirectory:
-            number_ = static_cast<DWORD>(directory.size());
-            done = kFtpGetCurrentDirectory(handle_, directory.data(), &number_);
-            return;
-        case Call::findFirst:
-            opened.reset(kFtpFindFirstFile(handle_, first_.c_str(), &found, 0, 0));
-            break;
-        case Call::findNext:
-            done = kInternetFindNextFile(handle_, &found);
-            return;
+// The code of the server's last answer to this thread ("226 Transfer complete."); 0 when there was none.
+int AnswerCode() {
+    std::array<char, 4096> text{};
+    DWORD error = 0;
+    auto size = static_cast<DWORD>(text.size());
+    if (!kInternetGetLastResponseInfo(&error, text.data(), &size)) return 0;
+    std::string_view lines(text.data(), std::min<std::size_t>(size, text.size()));
+    int code = 0;
+    while (!lines.empty()) {
+        const std::string_view line = lines.substr(0, lines.find('\n'));
+        lines.remove_prefix(std::min(lines.size(), line.size() + 1));
+        const bool isAnswer = line.size() >= 3 && line.find_first_not_of("0123456789") >= 3;
+        // All but the last line of an answer have a "-" behind the code (RFC 959, 4.2).
+        if (isAnswer && (line.size() == 3 || line[3] != '-'))
+            code = (line[0] - '0') * 100 + (line[1] - '0') * 10 + (line[2] - '0');
     }
-    done = static_cast<bool>(opened);
+    return code;
 }
 
-BOOL Request::runCommand() {
-    const char* first = first_.c_str();
-    const char* second = second_.c_str();
-    switch (command_) {
-        case RemoteCommand::changeDirectory:
-            return kFtpSetCurrentDirectory(handle_, first);
-        case RemoteCommand::createDirectory:
-            return kFtpCreateDirectory(handle_, first);
-        case RemoteCommand::removeDirectory:
-            return kFtpRemoveDirectory(handle_, first);
-        case RemoteCommand::removeFile:
-            return kFtpDeleteFile(handle_, first);
-        case RemoteCommand::rename:
-            return kFtpRenameFile(handle_, first, second);
-        case RemoteCommand::get:
-            return kFtpGetFile(handle_, first, second, FALSE, 0, number_, 0);
-        case RemoteCommand::put:
-            return kFtpPutFile(handle_, first, second, number_, 0);
-    }
-    return FALSE;
+constexpr bool IsPreliminary(int code) {
+    return code < 200;
 }
-
-void Release(Request* request) {
-    request->release();
+constexpr bool IsSuccess(int code) {
+    return code >= 200 && code < 300;
 }
-
-using UniqueRequest = win::Unique<Request*, Release>;
 
 class WinInetSession final : public FtpSession {
  public:
     explicit WinInetSession(INTERNET_PORT port) : port_(port) {}
-    ~WinInetSession() override { close(); }
 
-    // To the user who does not want to wait there is nothing to tell.
-    bool dial() override { return ask(Call::dial, nullptr) || worker_.isGivenUp(); }
+    bool dial() override {
+        return !stopped_ && kInternetAutodial(INTERNET_AUTODIAL_FORCE_UNATTENDED, nullptr) != FALSE;
+    }
 
     bool open() override {
-        internet_.reset(kInternetOpen("Quillon", INTERNET_OPEN_TYPE_DIRECT, nullptr, nullptr, 0));
-        return static_cast<bool>(internet_);
+        if (stopped_) return false;
+        lost_ = false;
+        internet_.reset(kInternetOpen(L"Quillon", INTERNET_OPEN_TYPE_DIRECT, nullptr, nullptr, 0));
+        return internet_.get() != nullptr;
     }
 
     bool connect(const std::string& host, const std::string& user, const std::string& password) override {
-        const UniqueRequest request(
-            new Request(Call::connect, internet_.get(), host.c_str(), user.c_str(), {}, port_));
-        request.get()->password = password;
-        if (await(*request.get())) server_ = std::move(request.get()->opened);
+        if (stopped_) return false;
+        server_.reset(kInternetConnect(internet_.get(), host.c_str(), port_, user.c_str(), password.c_str(),
+                                       INTERNET_SERVICE_FTP, 0, 0));
         return isConnected();
     }
 
-    bool isConnected() const override { return server_ && !worker_.isGivenUp(); }
-
-    void giveUp(DWORD patience) override { worker_.giveUp(patience); }
+    bool isConnected() const override { return server_.get() && !stopped_; }
+    bool isLost() const override { return lost_; }
+    void stop() override { stopped_ = true; }
 
     void close() override {
-        find_.reset();
         server_.reset();
         internet_.reset();
     }
 
-    bool answered() const override { return answered_; }
-
     std::optional<std::string> currentDirectory() override {
-        const UniqueRequest request = ask(Call::currentDirectory, server());
-        if (!request) return std::nullopt;
-        return request.get()->directory.data();
+        std::array<char, 4096> directory{};
+        auto size = static_cast<DWORD>(directory.size());
+        if (!command(kFtpGetCurrentDirectory, directory.data(), &size)) return std::nullopt;
+        return directory.data();
     }
 
-    std::optional<RemoteEntry> findFirst(const std::string& pattern) override {
-        const UniqueRequest request = ask(Call::findFirst, server(), pattern.c_str());
-        if (request) find_ = std::move(request.get()->opened);
-        return Entry(request);
+    void list(const std::string& pattern, const std::function<bool(const RemoteEntry&)>& take) override {
+        WIN32_FIND_DATAA found{};
+        if (stopped_) return;
+        const UniqueInternet find(kFtpFindFirstFile(server_.get(), pattern.c_str(), &found, 0, 0));
+        bool more = note(static_cast<bool>(find));
+        while (more && take({found.cFileName, found.dwFileAttributes, found.nFileSizeLow}))
+            more = !stopped_ && note(kInternetFindNextFile(find.get(), &found));
     }
 
-    std::optional<RemoteEntry> findNext() override { return Entry(ask(Call::findNext, find_.get())); }
+    bool changeDirectory(const std::string& directory) override {
+        return command(kFtpSetCurrentDirectory, directory.c_str());
+    }
+    bool createDirectory(const std::string& name) override {
+        return command(kFtpCreateDirectory, name.c_str());
+    }
+    bool removeDirectory(const std::string& name) override {
+        return command(kFtpRemoveDirectory, name.c_str());
+    }
+    bool removeFile(const std::string& name) override { return command(kFtpDeleteFile, name.c_str()); }
+    bool rename(const std::string& from, const std::string& to) override {
+        return command(kFtpRenameFile, from.c_str(), to.c_str());
+    }
 
-    void endFind() override { find_.reset(); }
+    bool put(HANDLE from, const std::string& remote, TransferType type) override {
+        UniqueInternet file = openRemote(remote, GENERIC_WRITE, type);
+        if (!file) return false;
+        const bool sent = send(from, file.get());
+        return finish(file) && sent;
+    }
 
-    bool tell(RemoteCommand command, const std::string& first, const std::string& second,
-              TransferType type) override {
-        const UniqueRequest request(new Request(Call::command, server(), first.c_str(), second.c_str(),
-                                                command, static_cast<DWORD>(type)));
-        return await(*request.get());
+    bool get(const std::string& remote, HANDLE to, TransferType type) override {
+        UniqueInternet file = openRemote(remote, GENERIC_READ, type);
+        if (!file) return false;
+        const bool received = receive(file.get(), to);
+        return finish(file) && received;
     }
 
  private:
-    static std::optional<RemoteEntry> Entry(const UniqueRequest& request) {
-        if (!request) return std::nullopt;
-        const WIN32_FIND_DATAA& found = request.get()->found;
-        return RemoteEntry{found.cFileName, found.dwFileAttributes, found.nFileSizeLow};
+    // A call's result, after a look at why it failed.
+    bool note(bool done) {
+        if (done) return true;
+        const DWORD error = ::GetLastError();
+        const bool refused = error == ERROR_INTERNET_EXTENDED_ERROR || error == ERROR_FILE_NOT_FOUND ||
+                             error == ERROR_NO_MORE_FILES || error == ERROR_SUCCESS;
+        constexpr int kClosing = 421;  // what a server says last to one that was idle for too long
+        if (!refused || (error == ERROR_INTERNET_EXTENDED_ERROR && AnswerCode() == kClosing)) lost_ = true;
+        return false;
+    }
+    bool note(BOOL done) { return note(done != FALSE); }
+
+    template <typename Function, typename... Arguments>
+    bool command(const Function& function, Arguments... arguments) {
+        return !stopped_ && note(function(server_.get(), arguments...));
     }
 
-    // Windows refuses a command while a listing is open.
-    HINTERNET server() {
-        find_.reset();
-        return server_.get();
+    UniqueInternet openRemote(const std::string& name, DWORD access, TransferType type) {
+        if (stopped_) return {};
+        UniqueInternet file(kFtpOpenFile(server_.get(), name.c_str(), access, static_cast<DWORD>(type), 0));
+        note(static_cast<bool>(file));
+        return file;
     }
 
-    // What came of a call; nothing when it was refused.
-    UniqueRequest ask(Call call, HINTERNET on, const char* pattern = "") {
-        UniqueRequest request(new Request(call, on, pattern));
-        if (!await(*request.get())) request.reset();
-        return request;
-    }
-
-    bool await(Request& request) {
-        const bool ended = worker_.run(request);
-        const DWORD error = ended && request.done ? ERROR_SUCCESS : ::GetLastError();
-        answered_ = error == ERROR_SUCCESS || error == ERROR_INTERNET_EXTENDED_ERROR ||
-                    error == ERROR_FILE_NOT_FOUND || error == ERROR_NO_MORE_FILES;
-        if (!ended) {
-            request.wanted = false;
-            // Ends the call, where the system can.
-            close();
+    // What breaks off here is the transfer; whether the server has gone too tells its answer.
+    bool send(HANDLE from, HINTERNET to) const {
+        std::vector<char> chunk(kChunk);
+        while (!stopped_) {
+            DWORD size = 0;
+            if (!::ReadFile(from, chunk.data(), static_cast<DWORD>(chunk.size()), &size, nullptr))
+                return false;
+            if (size == 0) return true;
+            for (DWORD sent = 0; sent < size;) {
+                DWORD now = 0;
+                if (!kInternetWriteFile(to, chunk.data() + sent, size - sent, &now)) return false;
+                sent += now;
+            }
         }
-        return ended && request.done;
+        return false;
+    }
+
+    bool receive(HINTERNET from, HANDLE to) const {
+        std::vector<char> chunk(kChunk);
+        while (!stopped_) {
+            DWORD size = 0;
+            DWORD written = 0;
+            if (!kInternetReadFile(from, chunk.data(), static_cast<DWORD>(chunk.size()), &size)) return false;
+            if (size == 0) return true;
+            if (!::WriteFile(to, chunk.data(), size, &written, nullptr) || written != size) return false;
+        }
+        return false;
+    }
+
+    // Closing the file is what the server answers to. Where the system keeps that answer to itself, the next
+    // command meets it, or the end of the connection.
+    bool finish(UniqueInternet& file) {
+        if (!note(kInternetCloseHandle(file.release()))) return false;
+        const int code = AnswerCode();
+        return IsPreliminary(code) ? currentDirectory().has_value() : IsSuccess(code);
     }
 
     INTERNET_PORT port_;
-    win::Worker worker_;
-    // Released last to first, the listing before the connection that it belongs to.
-    UniqueInternet internet_;
-    UniqueInternet server_;
-    UniqueInternet find_;
-    bool answered_ = true;
+    std::atomic<bool> stopped_ = false;
+    std::atomic<bool> lost_ = false;
+    // Closed last to first: the connection belongs to the system's networking.
+    SharedInternet internet_;
+    SharedInternet server_;
 };
 
 }  // namespace

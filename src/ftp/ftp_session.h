@@ -1,11 +1,12 @@
 // One connection to an FTP server.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 
-#include "ftp/core/transfer_type.h"
+#include "ftp/core/remote_names.h"
 #include "win/windows.h"
 
 namespace ftp {
@@ -16,20 +17,9 @@ struct RemoteEntry {
     unsigned long size = 0;        // bytes, the low 32 bits
 };
 
-// What a server can be told to do, and is granted or refused.
-enum class RemoteCommand {
-    changeDirectory,
-    createDirectory,
-    removeDirectory,
-    removeFile,
-    rename,  // from, to
-    get,     // the remote name, the local path
-    put      // the local path, the remote path
-};
-
-// What WinINet offers, behind an interface so that a test can refuse what no server can. Every call waits
-// for the server's answer, letting messages through, and then returns false or nothing on failure; answered()
-// tells a refusal from silence. Names and directories are the server's, in the ANSI code page.
+// What WinINet offers, behind an interface so that a test can refuse what no server can. Every call waits for
+// the server's answer, so that it belongs on a thread which no window lives on, and gives false or nothing
+// on failure. All texts are the server's own bytes.
 class FtpSession {
  public:
     FtpSession() = default;
@@ -42,23 +32,27 @@ class FtpSession {
     // The two steps of connecting: the system's networking, then the server with its login.
     virtual bool open() = 0;
     virtual bool connect(const std::string& host, const std::string& user, const std::string& password) = 0;
+
+    // These may be asked and done on any thread.
     virtual bool isConnected() const = 0;
-    // Not while a call waits; otherwise safe in any state.
+    // Whether the server has gone, or has kept silent: a failure of any other kind is its refusal.
+    virtual bool isLost() const = 0;
+    // Ends a call that waits too, where the system can.
     virtual void close() = 0;
-    // Ends the waiting after these milliseconds at the latest, and with it the session: a call that waits
-    // fails then, and those that follow. A file that was to be fetched is deleted when it has arrived.
-    virtual void giveUp(DWORD patience) = 0;
-    // False when the last failure was no refusal: the server is gone or keeps silent.
-    virtual bool answered() const = 0;
+    // Begins no call any more, and breaks off a transfer and a listing.
+    virtual void stop() = 0;
 
     virtual std::optional<std::string> currentDirectory() = 0;
-    // The entries that match a pattern, in the server's order. Any other command ends the listing too.
-    virtual std::optional<RemoteEntry> findFirst(const std::string& pattern) = 0;
-    virtual std::optional<RemoteEntry> findNext() = 0;
-    virtual void endFind() = 0;
-    // What the command works on, and the type of a transfer.
-    virtual bool tell(RemoteCommand command, const std::string& first, const std::string& second = {},
-                      TransferType type = TransferType::ascii) = 0;
+    // Hands over the entries that match a pattern, in the server's order, until `take` gives false.
+    virtual void list(const std::string& pattern, const std::function<bool(const RemoteEntry&)>& take) = 0;
+    virtual bool changeDirectory(const std::string& directory) = 0;
+    virtual bool createDirectory(const std::string& name) = 0;
+    virtual bool removeDirectory(const std::string& name) = 0;
+    virtual bool removeFile(const std::string& name) = 0;
+    virtual bool rename(const std::string& from, const std::string& to) = 0;
+    // From and into a file that is open for that. True when the server has said that all of it has arrived.
+    virtual bool put(HANDLE from, const std::string& remote, TransferType type) = 0;
+    virtual bool get(const std::string& remote, HANDLE to, TransferType type) = 0;
 };
 
 constexpr unsigned short kFtpPort = 21;

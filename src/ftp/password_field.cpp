@@ -1,6 +1,6 @@
 #include "ftp/password_field.h"
 
-#include "ftp/core/scramble.h"
+#include "ftp/core/password.h"
 #include "win/window.h"
 
 namespace ftp {
@@ -11,11 +11,11 @@ constexpr char kHint[] = "ENTER PASSWORD HERE";
 }  // namespace
 
 void PasswordField::showHint() {
-    ::SetWindowTextA(edit_, kHint);
+    win::ShowText(edit_, kHint);
 }
 
 void PasswordField::clear() {
-    ::SetWindowTextA(edit_, "");
+    win::ShowText(edit_, "");
 }
 
 std::string PasswordField::typed() const {
@@ -24,7 +24,7 @@ std::string PasswordField::typed() const {
 
 bool PasswordField::showsHint() const {
     // A password of another length is not copied about.
-    if (::GetWindowTextLengthA(edit_) != static_cast<int>(sizeof kHint) - 1) return false;
+    if (::GetWindowTextLengthW(edit_) != static_cast<int>(sizeof kHint) - 1) return false;
     std::string text = win::WindowText(edit_);
     const bool hint = text == kHint;
     Wipe(text);
@@ -33,11 +33,11 @@ bool PasswordField::showsHint() const {
 
 void PasswordField::onNotification(WORD notification) const {
     if (notification == EN_UPDATE) {
-        ::SendMessageA(edit_, EM_SETPASSWORDCHAR, showsHint() ? 0 : '*', 0);
+        ::SendMessageW(edit_, EM_SETPASSWORDCHAR, showsHint() ? 0 : '*', 0);
         ::InvalidateRect(edit_, nullptr, TRUE);
     } else if (notification == EN_SETFOCUS && showsHint()) {
         // After the click that brought the focus has put the caret.
-        ::PostMessageA(edit_, EM_SETSEL, 0, -1);
+        ::PostMessageW(edit_, EM_SETSEL, 0, -1);
     }
 }
 

@@ -1,26 +1,43 @@
 #include "ftp/remote_commands.h"
 
 #include <exception>
+#include <optional>
+#include <utility>
 
+#include "document/frmChild.h"
+#include "document/system_code_pages.h"
 #include "files/modOpen.h"
+#include "files/modPubFuncs.h"
 #include "forms/frmUpload.h"
-#include "ftp/core/local_name.h"
-#include "ftp/core/remote_path.h"
-#include "ftp/download.h"
+#include "ftp/core/server_text.h"
 #include "ftp/frmUpload.h"
-#include "ftp/uploads.h"
+#include "ftp/remote_directory.h"
 #include "win/input_box.h"
 
 namespace ftp {
 namespace {
 
 constexpr char kWorking[] = "PROCESSING REQUEST...";
+constexpr char kUploading[] = "Uploading.....";
+constexpr std::size_t kNamesShown = 5;
 
-void AskAndDeleteDirectory(frmUpload& form, const std::string& line) {
+std::string CannotBeSent(const std::string& name) {
+    return "The server cannot be given the name " + name + ".\r\nChoose another name, of plain letters.";
+}
+
+// The name as the server is to get it; says so when it cannot.
+std::optional<std::string> NameForServer(const frmUpload& form, const std::string& typed, const char* title) {
+    std::optional<std::string> name = SentName(typed, document::SystemCodePages());
+    if (!name) form.say(CannotBeSent(typed), title, MB_ICONEXCLAMATION);
+    return name;
+}
+
+void AskAndDeleteDirectory(frmUpload& form, const RemoteFile& directory) {
+    const std::string& line = directory.line;
     const std::string question = "Are you sure you want to delete the folder\r\n" + line + " ?";
     if (form.say(question, "DELETION CONFIRMATION", MB_YESNO) != IDYES || !form.isThere()) return;
-    const std::string name(NameOfLine(line));
-    const bool deleted = form.change(kWorking, RemoteCommand::removeDirectory, name);
+    const bool deleted = form.change(
+        kWorking, [name = directory.name](FtpSession& session) { return session.removeDirectory(name); });
     if (!form.isThere()) return;
     if (deleted) {
         form.say("The Directory:\r\n[ " + line + " ]\r\nwas successfully Deleted.");
@@ -33,136 +50,213 @@ void AskAndDeleteDirectory(frmUpload& form, const std::string& line) {
     }
 }
 
+void DeleteDirectory(frmUpload& form, const RemoteFile& directory) {
+    try {
+        AskAndDeleteDirectory(form, directory);
+    } catch (const std::exception&) {
+        if (form.isThere())
+            form.say("There was a problem deleting " + directory.line + ".", "DELETE DIFFICULTY");
+    }
+}
+
+bool ChangeDirectory(frmUpload& form, const std::string& directory) {
+    return form.change(kWorking,
+                       [directory](FtpSession& session) { return session.changeDirectory(directory); });
+}
+
 void MoveUp(frmUpload& form) {
-    const std::optional<std::string> above = form.directoryAbove();
+    const std::optional<std::string> above = form.session().directoryAbove();
     if (!above) return;
-    const bool moved = form.change(kWorking, RemoteCommand::changeDirectory, *above);
+    const bool moved = ChangeDirectory(form, *above);
     if (form.isThere() && !moved) form.say("Cannot find it!", "Quillon Note:");
 }
 
 void MakeDirectory(frmUpload& form) {
-    const std::string name = win::AskText(form.hwnd(), "Enter a name for the New Directory", "NEW FOLDER");
-    if (name.empty() || !form.isThere()) return;
-    const bool made = form.change(kWorking, RemoteCommand::createDirectory, name);
+    const std::string typed = win::AskText(form.hwnd(), "Enter a name for the New Directory", "NEW FOLDER");
+    if (typed.empty() || !form.isThere()) return;
+    const std::optional<std::string> name = NameForServer(form, typed, "DIRECTORY NOT MADE");
+    if (!name || !form.isThere()) return;
+    const bool made =
+        form.change(kWorking, [name = *name](FtpSession& session) { return session.createDirectory(name); });
     if (!form.isThere()) return;
     if (made) {
-        form.select(name + "/");
-        form.say("New Directory [ " + name + " ] successfully created.", "CONFIRMATION");
+        form.select(*name);
+        form.say("New Directory [ " + typed + " ] successfully created.", "CONFIRMATION");
     } else {
         form.say("Could not create the Directory.", "DIRECTORY NOT MADE", MB_ICONEXCLAMATION);
     }
 }
 
-void CheckFileSize(frmUpload& form, const std::string& line) {
-    std::optional<RemoteEntry> entry;
-    form.work(kWorking, [&](FtpSession& session) {
-        entry = session.findFirst(line);
-        session.endFind();
-    });
+void CheckFileSize(frmUpload& form, const RemoteFile& file) {
+    const auto size =
+        form.work(kWorking, [name = file.name](FtpSession& session) { return SizeOf(session, name); });
     if (!form.isThere()) return;
-    if (entry) {
-        form.say("Approximately " + std::to_string(entry->size) + " Bytes",
-                 ("SIZE of " + line + " is:").c_str());
+    if (size && *size) {
+        form.say("Approximately " + std::to_string(**size) + " Bytes",
+                 ("SIZE of " + file.line + " is:").c_str());
     } else {
         form.say("Could not retrieve requested information.");
     }
 }
 
-void DownloadFile(frmUpload& form, const std::string& line) {
-    const std::string path = modOpen::ChooseSavePath(form.main(), form.hwnd(), ProposedLocalName(line));
+void DownloadFile(frmUpload& form, const RemoteFile& file) {
+    const std::string path = modOpen::ChooseSavePath(form.main(), form.hwnd(), ProposedLocalName(file.line));
     if (path.empty() || !form.isThere()) return;
-    bool done = false;
-    form.work("Downloading.....",
-              [&](FtpSession& session) { done = Download(session, line, path, form.transferType(line)); });
+    const TransferType type = ChooseTransferType(form.transferMode(), file.name);
+    const auto done = form.work("Downloading.....", [name = file.name, path, type](FtpSession& session) {
+        return Download(session, name, path, type);
+    });
     if (!form.isThere()) return;
-    if (done) {
-        form.say("Download of " + line + " is complete.", "TASK COMPLETE", MB_ICONINFORMATION);
+    if (done && *done) {
+        form.say("Download of " + file.line + " is complete.", "TASK COMPLETE", MB_ICONINFORMATION);
     } else {
-        form.say("Unable to download " + line + ".", "DOWNLOAD FAILURE", MB_ICONEXCLAMATION);
+        form.say("Unable to download " + file.line + ".", "DOWNLOAD FAILURE", MB_ICONEXCLAMATION);
     }
 }
 
-void RenameFile(frmUpload& form, const std::string& line) {
-    const std::string name = win::AskText(form.hwnd(), "Enter new file name below", "FILENAME CHANGE");
-    if (name.empty() || !form.isThere()) return;
-    const bool renamed = form.change(kWorking, RemoteCommand::rename, line, name);
+void RenameFile(frmUpload& form, const RemoteFile& file) {
+    const std::string typed = win::AskText(form.hwnd(), "Enter new file name below", "FILENAME CHANGE");
+    if (typed.empty() || !form.isThere()) return;
+    const std::optional<std::string> name = NameForServer(form, typed, "NET GLITCH");
+    if (!name || !form.isThere()) return;
+    const bool renamed = form.change(
+        kWorking, [from = file.name, to = *name](FtpSession& session) { return session.rename(from, to); });
     if (!form.isThere()) return;
     if (renamed) {
-        form.select(name);
+        form.select(*name);
         form.say("File has been Renamed", "CONFIRMATION");
     } else {
         form.say("Unable to rename file...", "NET GLITCH", MB_ICONEXCLAMATION);
     }
 }
 
-void DeleteRemoteFile(frmUpload& form, const std::string& line) {
-    const std::string question = "Are you sure you want to delete " + line + " ?";
+void DeleteRemoteFile(frmUpload& form, const RemoteFile& file) {
+    const std::string question = "Are you sure you want to delete " + file.line + " ?";
     if (form.say(question, "DELETION CONFIRMATION", MB_YESNO) != IDYES || !form.isThere()) return;
-    const bool deleted = form.change(kWorking, RemoteCommand::removeFile, line);
+    const bool deleted =
+        form.change(kWorking, [name = file.name](FtpSession& session) { return session.removeFile(name); });
     if (!form.isThere()) return;
     if (deleted) {
-        form.say("The File [ " + line + " ] was Deleted.", "DELETION CONFIRMATION");
+        form.say("The File [ " + file.line + " ] was Deleted.", "DELETION CONFIRMATION");
     } else {
         form.say("Could not delete file", "FAILED TO DELETE", MB_ICONEXCLAMATION);
     }
 }
 
-void DeleteDirectory(frmUpload& form, const std::string& line) {
-    try {
-        AskAndDeleteDirectory(form, line);
-    } catch (const std::exception&) {
-        if (form.isThere()) form.say("There was a problem deleting " + line + ".", "DELETE DIFFICULTY");
+std::string Enumerated(const std::vector<std::string>& names) {
+    std::string text;
+    for (std::size_t i = 0; i < names.size() && i < kNamesShown; ++i)
+        text.append(text.empty() ? "" : ", ").append(names[i]);
+    if (names.size() > kNamesShown) text += " and " + std::to_string(names.size() - kNamesShown) + " more";
+    return text;
+}
+
+void TellUnsent(const frmUpload& form, const Unsent& unsent) {
+    std::string text;
+    if (!unsent.failed.empty()) text = "There was a problem uploading " + Enumerated(unsent.failed) + ".";
+    if (!unsent.unnameable.empty())
+        text.append(text.empty() ? "" : "\r\n\r\n").append(CannotBeSent(Enumerated(unsent.unnameable)));
+    form.say(text, "UPLOAD DIFFICULTY");
+}
+
+void UploadAll(frmUpload& form, std::vector<LocalFile> files) {
+    const frmUpload::Busy busy(form, kUploading);
+    const std::string done =
+        files.size() == 1 ? "Upload of " + files.front().name + " Complete" : "Uploading Completed.";
+    for (LocalFile& file : files) file.type = ChooseTransferType(form.transferMode(), file.name);
+    const std::optional<Unsent> unsent = form.send(std::move(files));
+    if (!unsent) return;
+    if (unsent->none()) {
+        form.say(done);
+    } else {
+        TellUnsent(form, *unsent);
+    }
+    if (form.isThere()) form.ListRemote();
+}
+
+// Pages are text, so this one goes as text whatever the transfer mode says.
+void UploadPage(frmUpload& form, const std::string& path) {
+    const frmUpload::Busy busy(form, kUploading);
+    const std::optional<Unsent> unsent = form.send(OpenFiles({path}));
+    if (!unsent) return;
+    if (!unsent->unnameable.empty()) {
+        form.say(CannotBeSent(unsent->unnameable.front()), "UPLOAD FAILURE");
+    } else if (!unsent->none()) {
+        form.say("Unable to upload the current file.", "UPLOAD FAILURE");
+    } else {
+        form.ListRemote();
+        if (!form.isThere()) return;
+        form.showResult("Upload Complete");
+        form.say("Upload Complete");
     }
 }
 
-// The menu of a line.
-bool RunMenu(frmUpload& form, int id, const std::string& line) {
+void UploadCurrentDocument(frmUpload& form) {
+    try {
+        const frmChild* page = form.main().activeDocument();
+        const std::string path = page ? page->Tag() : std::string();
+        if (!page) {
+            form.say("No file is currently open.", "NO FILE OPEN");
+        } else if (!modPubFuncs::FileExists(path)) {
+            form.say("The Current page SHOULD BE SAVED before uploading.", "PRECAUTION");
+        } else {
+            UploadPage(form, path);
+        }
+    } catch (const std::exception&) {
+        if (form.isThere()) form.say("Error uploading", "ERROR");
+    }
+}
+
+// The menu of a line. The entry is a copy: listing anew changes what the list holds.
+void RunMenu(frmUpload& form, int id, const RemoteFile entry) {
     switch (id) {
         case mnuRClist:
-            CheckFileSize(form, line);
-            return true;
+            return CheckFileSize(form, entry);
         case mnuRClist + 2:
-            DownloadFile(form, line);
-            return true;
+            return DownloadFile(form, entry);
         case mnuRClist + 3:
-            RenameFile(form, line);
-            return true;
+            return RenameFile(form, entry);
         case mnuRClist + 5:
-            DeleteRemoteFile(form, line);
-            return true;
+            return DeleteRemoteFile(form, entry);
         case mnuDirDelete:
-            DeleteDirectory(form, line);
-            return true;
+            return DeleteDirectory(form, entry);
         default:
-            return false;
+            return;
     }
 }
 
 }  // namespace
 
-void EnterDirectory(frmUpload& form, const std::string& line) {
-    if (line.empty() || !OpensOnDoubleClick(line)) return;
-    const std::string name(NameOfLine(line));
-    const bool entered = form.change(kWorking, RemoteCommand::changeDirectory, name);
+void EnterDirectory(frmUpload& form, const RemoteFile* selected) {
+    if (!selected || !OpensOnDoubleClick(selected->line)) return;
+    const bool entered = ChangeDirectory(form, std::string(selected->name));
     if (form.isThere() && !entered) form.say("Cannot access Directory!", "Quillon Note:");
 }
 
-bool RunCommand(frmUpload& form, int id, const std::string& line) {
+void UploadDropped(frmUpload& form, std::vector<LocalFile> files) {
+    try {
+        if (files.empty()) {
+            form.say("Unknown Object", "Quillon Note:");
+        } else {
+            UploadAll(form, std::move(files));
+        }
+    } catch (const std::exception&) {
+        if (form.isThere()) form.say("Could not upload files.");
+    }
+}
+
+void RunCommand(frmUpload& form, int id, const RemoteFile* selected) {
     switch (id) {
         case cmdUp:
-            UploadCurrentDocument(form);
-            return true;
+            return UploadCurrentDocument(form);
         case cmdRefresh:
-            form.ListRemote();
-            return true;
+            return form.ListRemote();
         case cmdUpDir:
-            MoveUp(form);
-            return true;
+            return MoveUp(form);
         case cmdMakeDir:
-            MakeDirectory(form);
-            return true;
+            return MakeDirectory(form);
         default:
-            return !line.empty() && RunMenu(form, id, line);
+            if (selected) RunMenu(form, id, *selected);
     }
 }
 

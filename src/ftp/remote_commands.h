@@ -2,17 +2,23 @@
 // know, does its work, lists the directory anew and says what came of it.
 #pragma once
 
-#include <string>
+#include <vector>
+
+#include "ftp/core/remote_names.h"
+#include "ftp/transfers.h"
 
 class frmUpload;
 
 namespace ftp {
 
-// `line` is a line of the list, that of a directory with its "/". An empty one opens nothing.
-void EnterDirectory(frmUpload& form, const std::string& line);
+// `selected` is an entry of the list; null opens nothing.
+void EnterDirectory(frmUpload& form, const RemoteFile* selected);
 
-// Runs a button or a menu item of the window. `line` is the selected line, empty when there is none. False
-// when the window has no such command, or it needs a line.
-bool RunCommand(frmUpload& form, int id, const std::string& line);
+// Files that were dropped on the list; none when something else was.
+void UploadDropped(frmUpload& form, std::vector<LocalFile> files);
+
+// Runs a button or a menu item of the window. `selected` is null when no line is; a command that needs one
+// does nothing then.
+void RunCommand(frmUpload& form, int id, const RemoteFile* selected);
 
 }  // namespace ftp

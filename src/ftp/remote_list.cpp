@@ -1,9 +1,12 @@
 #include "ftp/remote_list.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "win/drop_target.h"
+#include "win/unicode.h"
 #include "win/units.h"
+#include "win/window.h"
 
 namespace ftp {
 
@@ -13,57 +16,46 @@ void RemoteList::attach(HWND listBox) {
 }
 
 LRESULT RemoteList::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == win::kDropped) return ::SendMessageA(::GetParent(hwnd()), message, wParam, lParam);
+    if (message == win::kDropped) return ::SendMessageW(::GetParent(hwnd()), message, wParam, lParam);
     if (message == WM_DESTROY) win::RefuseDrops(hwnd());
     return Control::onMessage(message, wParam, lParam);
 }
 
-void RemoteList::clear() {
+void RemoteList::show(std::vector<RemoteFile> files) {
+    files_ = std::move(files);
+    send(WM_SETREDRAW, FALSE);
     send(LB_RESETCONTENT);
-    width_ = 0;
-    send(LB_SETHORIZONTALEXTENT);
+    for (const RemoteFile& file : files_) win::AddListRow(hwnd(), file.line);
+    fitWidth();
+    send(WM_SETREDRAW, TRUE);
+    ::InvalidateRect(hwnd(), nullptr, TRUE);
 }
 
-void RemoteList::add(const std::string& line) {
-    send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line.c_str()));
-    widen(line);
-}
-
-void RemoteList::widen(const std::string& line) {
+void RemoteList::fitWidth() const {
     const HDC dc = ::GetDC(hwnd());
     const HGDIOBJ old = ::SelectObject(dc, reinterpret_cast<HFONT>(send(WM_GETFONT)));
-    SIZE size{};
-    ::GetTextExtentPoint32A(dc, line.c_str(), static_cast<int>(line.size()), &size);
+    LONG width = 0;
+    for (const RemoteFile& file : files_) {
+        SIZE size{};
+        const std::wstring wide = win::ToWide(file.line);
+        ::GetTextExtentPoint32W(dc, wide.c_str(), static_cast<int>(wide.size()), &size);
+        width = std::max(width, size.cx);
+    }
     ::SelectObject(dc, old);
     ::ReleaseDC(hwnd(), dc);
-    const int width = static_cast<int>(size.cx) + win::Scaled(8);
-    if (width <= width_) return;
-    width_ = width;
-    send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width));
+    send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width + win::Scaled(8)));
 }
 
-std::string RemoteList::line(WPARAM index) const {
-    const LRESULT length = send(LB_GETTEXTLEN, index);
-    if (length == LB_ERR) return {};
-    std::string text(static_cast<std::size_t>(length) + 1, '\0');
-    text.resize(static_cast<std::size_t>(
-        std::max<LRESULT>(0, send(LB_GETTEXT, index, reinterpret_cast<LPARAM>(text.data())))));
-    return text;
-}
-
-std::string RemoteList::selected() const {
+const RemoteFile* RemoteList::selected() const {
     const LRESULT index = send(LB_GETCURSEL);
-    return index == LB_ERR ? std::string() : line(static_cast<WPARAM>(index));
+    return index == LB_ERR ? nullptr : &files_[static_cast<std::size_t>(index)];
 }
 
-// The list box's own search takes no notice of case, which names on a server differ by.
-void RemoteList::select(const std::string& wanted) {
-    const auto count = static_cast<WPARAM>(send(LB_GETCOUNT));
-    for (WPARAM index = 0; index < count; ++index) {
-        if (line(index) != wanted) continue;
-        send(LB_SETCURSEL, index);
-        return;
-    }
+// By the name: two lines may read alike.
+void RemoteList::select(const std::string& name) {
+    const auto file = std::find_if(files_.begin(), files_.end(),
+                                   [&name](const RemoteFile& candidate) { return candidate.name == name; });
+    if (file != files_.end()) send(LB_SETCURSEL, static_cast<WPARAM>(file - files_.begin()));
 }
 
 bool RemoteList::findMenuPoint(POINT& at) {

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
+#include "ftp/core/remote_names.h"
 #include "win/control.h"
 
 namespace ftp {
@@ -12,12 +14,12 @@ class RemoteList : public win::Control {
  public:
     void attach(HWND listBox);
 
-    void clear();
-    void add(const std::string& line);
-    // The selected line, empty when there is none.
-    std::string selected() const;
-    // Selects the line and scrolls to it; nothing happens when it is not there.
-    void select(const std::string& line);
+    // Instead of what it shows.
+    void show(std::vector<RemoteFile> files);
+    const RemoteFile* selected() const;  // null when there is none
+    // Selects the entry with this name, of the server's bytes, and scrolls to it; nothing happens when there
+    // is none.
+    void select(const std::string& name);
 
     // Where a menu for a line opens. `at` is a point of the screen, whose line becomes the selected one, or
     // -1 twice for the keyboard's menu key. False where there is no line.
@@ -25,10 +27,9 @@ class RemoteList : public win::Control {
 
  private:
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-    std::string line(WPARAM index) const;
-    void widen(const std::string& line);
+    void fitWidth() const;
 
-    int width_ = 0;  // of the widest line, pixels
+    std::vector<RemoteFile> files_;  // one a line
 };
 
 }  // namespace ftp

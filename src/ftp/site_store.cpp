@@ -50,10 +50,10 @@ void ShowSites(MainWindow& main) {
     Show(main, MenuRows(ReadSections()));
 }
 
-void SaveLastSite(MainWindow& main, int index, const std::string& url) {
-    const std::optional<Site> site = FindSite(ReadSections(), index);
-    if (!site || site->url != url) return;
-    settings::Save(SectionName(SiteSection::names), kLastUsedKey, std::to_string(index));
+void SaveLastSite(MainWindow& main, const std::string& url) {
+    const std::optional<Site> site = FindSite(ReadSections(), url);
+    if (!site) return;
+    settings::Save(SectionName(SiteSection::names), kLastUsedKey, std::to_string(site->index));
     LoadSiteMenu(main);
 }
 

@@ -13,9 +13,10 @@ void OnUploadFile(MainWindow& main, int) {
 
 void OnUploadSites(MainWindow& main, int index) {
     const std::string site = main.menu().caption(static_cast<Command>(mnuUploadSites + index));
-    if (frmToUp::ask(main, site, index) == frmToUp::Choice::connect && main.mainHwnd()) {
-        frmUpload::open(main, index, MakeOrdinarySession);
-    }
+    if (frmToUp::ask(main, site) != frmToUp::Choice::connect || !main.mainHwnd()) return;
+    // Another site may stand at that index by now.
+    const std::optional<Site> chosen = FindSite(ReadSections(), site);
+    frmUpload::open(main, chosen ? chosen->index : kNoSite, MakeOrdinarySession);
 }
 
 void OnUploadSite(MainWindow& main, int) {

@@ -4,6 +4,7 @@
 #include "help/core/help_texts.h"
 #include "tool_buttons.h"
 #include "win/system_colours.h"
+#include "win/unicode.h"
 #include "win/units.h"
 
 namespace {
@@ -14,15 +15,15 @@ constexpr int kTop = 9;
 constexpr COLORREF kWordsColour = RGB(102, 102, 102);
 
 win::UniqueFont Arial(int points, int weight) {
-    return win::UniqueFont(::CreateFontA(
+    return win::UniqueFont(::CreateFontW(
         -::MulDiv(points, win::SystemDpi(), 72), 0, 0, 0, weight, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
-        OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, VARIABLE_PITCH | FF_SWISS, "Arial"));
+        OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, VARIABLE_PITCH | FF_SWISS, L"Arial"));
 }
 
 }  // namespace
 
 bool frmHelp::Words::fits() const {
-    const auto length = static_cast<WPARAM>(::GetWindowTextLengthA(hwnd()));
+    const auto length = static_cast<WPARAM>(::GetWindowTextLengthW(hwnd()));
     if (length == 0) return true;
     const auto bottom = static_cast<short>(HIWORD(send(EM_POSFROMCHAR, length - 1)));
     const auto second =
@@ -35,7 +36,7 @@ bool frmHelp::Words::fits() const {
 
 void frmHelp::Words::show(const std::string& text) const {
     ::ShowScrollBar(hwnd(), SB_VERT, FALSE);
-    ::SetWindowTextA(hwnd(), text.c_str());
+    ::SetWindowTextW(hwnd(), win::ToWide(text).c_str());
     if (!fits()) ::ShowScrollBar(hwnd(), SB_VERT, TRUE);
 }
 
@@ -57,11 +58,11 @@ void frmHelp::show(MainWindow& main) {
 
 bool frmHelp::onInit() {
     showProgramIcon();
-    Picture1_.open(hwnd(), win::Scaled(kMargin), win::Scaled(kTop));
-    int id = Picture1;
-    for (const ToolButton& button : kToolbar)
-        Picture1_.add(id++, button.tip, button.picture, button.beginsGroup);
-    Picture1_.useTips();
+    Picture1_.create(hwnd(), Picture1, kToolbar);
+    RECT area{};
+    ::GetClientRect(hwnd(), &area);
+    const int margin = win::Scaled(kMargin);
+    Picture1_.place(margin, win::Scaled(kTop), area.right - 2 * margin);
     lblWords_.attach(item(lblWords));
     useFonts();
     show(heading_, text_);
@@ -73,9 +74,9 @@ void frmHelp::useFonts() {
     headingFont_ = Arial(13, FW_BOLD);
     textFont_ = Arial(9, FW_NORMAL);
     for (const int id : {Label1, lblWords}) {
-        ::SendMessageA(item(id), WM_SETFONT, reinterpret_cast<WPARAM>(textFont_.get()), TRUE);
+        ::SendMessageW(item(id), WM_SETFONT, reinterpret_cast<WPARAM>(textFont_.get()), TRUE);
     }
-    ::SendMessageA(item(lblHead), WM_SETFONT, reinterpret_cast<WPARAM>(headingFont_.get()), TRUE);
+    ::SendMessageW(item(lblHead), WM_SETFONT, reinterpret_cast<WPARAM>(headingFont_.get()), TRUE);
 }
 
 void frmHelp::show(const std::string& heading, const std::string& words) {
@@ -108,7 +109,8 @@ LRESULT frmHelp::paintWords(HDC dc) const {
 }
 
 INT_PTR frmHelp::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_DRAWITEM) return Picture1_.draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+    if (message == WM_SYSCOLORCHANGE || message == WM_SETTINGCHANGE)
+        win::PassToControls(hwnd(), message, wParam, lParam);
     if (message == WM_CTLCOLORSTATIC && reinterpret_cast<HWND>(lParam) == lblWords_.hwnd()) {
         return paintWords(reinterpret_cast<HDC>(wParam));
     }

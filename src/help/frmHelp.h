@@ -6,7 +6,7 @@
 #include "main_window.h"
 #include "win/control.h"
 #include "win/dialog.h"
-#include "win/picture_buttons.h"
+#include "win/tool_bar.h"
 #include "win/unique.h"
 
 class frmHelp : public win::Dialog {
@@ -37,7 +37,7 @@ class frmHelp : public win::Dialog {
 
     std::string heading_;
     std::string text_;
-    win::PictureButtons Picture1_;
+    win::ToolBar Picture1_;
     Words lblWords_;
     win::UniqueFont headingFont_;
     win::UniqueFont textFont_;

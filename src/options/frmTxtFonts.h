@@ -19,7 +19,7 @@ class frmTxtFonts : public win::Dialog {
     void fillFonts() const;
     void fillSizes() const;
     std::string chosen(int combo) const;
-    void preview(const document::Font& font) const;
+    void showChoice(WORD combo, WORD notification) const;
     void accept();
     void cancel();
 

@@ -55,7 +55,7 @@ void OnWordWrap(MainWindow& main, int) {
     const win::WaitCursor wait;
     document::RichEdit& pad = page->txtPad();
     pad.setWordWrap(!pad.wordWrap());
-    ::SendMessageA(pad.hwnd(), EM_SCROLLCARET, 0, 0);
+    ::SendMessageW(pad.hwnd(), EM_SCROLLCARET, 0, 0);
     page->showLine();
     ShowWordWrap(main, page);
 }

@@ -2,12 +2,18 @@
 
 #include <winspool.h>
 
+#include <algorithm>
+#include <iterator>
+#include <utility>
+#include <vector>
+
 #include "document/frmChild.h"
 #include "print/core/print_layout.h"
 #include "win/error.h"
 #include "win/late.h"
 #include "win/message_box.h"
 #include "win/message_loop.h"
+#include "win/unicode.h"
 #include "win/unique.h"
 #include "win/units.h"
 
@@ -17,22 +23,38 @@ namespace {
 constexpr int kSmallestFont = 8;  // points; what a printer has as its default may be made for a screen
 constexpr int kLargestFont = 14;
 constexpr int kOwnFont = 10;
+constexpr WORD kNoGlyph = 0xFFFF;
+// The default one holds the letters of Europe.
+constexpr DWORD kCharsets[] = {DEFAULT_CHARSET, SHIFTJIS_CHARSET, GB2312_CHARSET, CHINESEBIG5_CHARSET,
+                               HANGUL_CHARSET,  ARABIC_CHARSET,   THAI_CHARSET};
 
-constexpr win::Late<decltype(&::GetDefaultPrinterA)> kGetDefaultPrinter{"winspool.drv", "GetDefaultPrinterA"};
+constexpr win::Late<decltype(&::GetDefaultPrinterW)> kGetDefaultPrinter{"winspool.drv", "GetDefaultPrinterW"};
 
 win::UniqueDc DefaultPrinter() {
     DWORD size = 0;
     kGetDefaultPrinter(nullptr, &size);
-    std::string name(size, '\0');
+    std::wstring name(size, L'\0');
     win::Check(kGetDefaultPrinter(name.data(), &size));
-    return win::UniqueDc(win::Check(::CreateDCA("WINSPOOL", name.c_str(), nullptr, nullptr)));
+    return win::UniqueDc(win::Check(::CreateDCW(L"WINSPOOL", name.c_str(), nullptr, nullptr)));
 }
 
-// A printer as the layout sees it: in twips, with its own default font where that can be read.
+// Each character beyond ASCII once. Those beyond U+FFFF are left out, whose glyphs cannot be asked for.
+std::u16string SpecialCharacters(std::u16string_view text) {
+    std::u16string characters;
+    std::copy_if(text.begin(), text.end(), std::back_inserter(characters),
+                 [](char16_t c) { return c >= 0x80 && (c < 0xD800 || c > 0xDFFF); });
+    std::sort(characters.begin(), characters.end());
+    characters.erase(std::unique(characters.begin(), characters.end()), characters.end());
+    return characters;
+}
+
+// A printer as the layout sees it: in twips, with its own default font where that can be read and has the
+// characters of the text.
 class Printer {
  public:
-    Printer() : dc_(DefaultPrinter()) {
-        if (!hasReadableFont()) useOwnFont();
+    explicit Printer(std::u16string_view text) : dc_(DefaultPrinter()) {
+        const std::u16string characters = SpecialCharacters(text);
+        if (!hasReadableFont() || countMissing(characters) > 0) useOwnFont(characters);
         ::SetBkMode(dc(), TRANSPARENT);
     }
 
@@ -43,35 +65,56 @@ class Printer {
                 ::MulDiv(::GetDeviceCaps(dc(), VERTRES), 1440, dpi(LOGPIXELSY)),
                 ::MulDiv(metrics().tmHeight + metrics().tmExternalLeading, 1440, dpi(LOGPIXELSY))};
     }
-    int width(std::string_view text) const {
+    int width(std::u16string_view text) const {
         SIZE size{};
-        ::GetTextExtentPoint32A(dc(), text.data(), static_cast<int>(text.size()), &size);
+        ::GetTextExtentPoint32W(dc(), win::AsWide(text).data(), static_cast<int>(text.size()), &size);
         return ::MulDiv(size.cx, 1440, dpi(LOGPIXELSX));
     }
     void print(const PlacedLine& line) const {
-        win::Check(::TextOutA(dc(), ::MulDiv(line.left, dpi(LOGPIXELSX), 1440),
-                              ::MulDiv(line.top, dpi(LOGPIXELSY), 1440), line.text.data(),
+        win::Check(::TextOutW(dc(), ::MulDiv(line.left, dpi(LOGPIXELSX), 1440),
+                              ::MulDiv(line.top, dpi(LOGPIXELSY), 1440), win::AsWide(line.text).data(),
                               static_cast<int>(line.text.size())));
     }
 
  private:
     int dpi(int axis) const { return ::GetDeviceCaps(dc(), axis); }
-    TEXTMETRICA metrics() const {
-        TEXTMETRICA result{};
-        ::GetTextMetricsA(dc(), &result);
+    TEXTMETRICW metrics() const {
+        TEXTMETRICW result{};
+        ::GetTextMetricsW(dc(), &result);
         return result;
     }
     bool hasReadableFont() const {
-        const TEXTMETRICA font = metrics();
+        const TEXTMETRICW font = metrics();
         const int points = ::MulDiv(font.tmHeight, 72, dpi(LOGPIXELSY));
         return points >= kSmallestFont && points <= kLargestFont && font.tmCharSet != OEM_CHARSET &&
                font.tmCharSet != SYMBOL_CHARSET;
     }
-    void useOwnFont() {
-        font_.reset(::CreateFontA(-::MulDiv(kOwnFont, dpi(LOGPIXELSY), 72), 0, 0, 0, FW_NORMAL, FALSE, FALSE,
-                                  FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS,
-                                  DEFAULT_QUALITY, FIXED_PITCH | FF_MODERN, "Courier New"));
-        ::SelectObject(dc(), font_.get());
+    std::size_t countMissing(std::u16string_view characters) const {
+        std::vector<WORD> glyphs(characters.size(), kNoGlyph);
+        ::GetGlyphIndicesW(dc(), win::AsWide(characters).data(), static_cast<int>(characters.size()),
+                           glyphs.data(), GGI_MARK_NONEXISTING_GLYPHS);
+        return static_cast<std::size_t>(std::count(glyphs.begin(), glyphs.end(), kNoGlyph));
+    }
+    void selectFont(DWORD charset) {
+        win::UniqueFont font(::CreateFontW(-::MulDiv(kOwnFont, dpi(LOGPIXELSY), 72), 0, 0, 0, FW_NORMAL,
+                                           FALSE, FALSE, FALSE, charset, OUT_DEFAULT_PRECIS,
+                                           CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, FIXED_PITCH | FF_MODERN,
+                                           L"Courier New"));
+        ::SelectObject(dc(), font.get());
+        font_ = std::move(font);
+    }
+    // Where the system has no such face for a character set, it takes another one of the same kind.
+    void useOwnFont(std::u16string_view characters) {
+        DWORD best = DEFAULT_CHARSET;
+        std::size_t fewest = characters.size() + 1;
+        for (const DWORD charset : kCharsets) {
+            selectFont(charset);
+            const std::size_t missing = countMissing(characters);
+            if (missing < fewest) best = charset;
+            fewest = std::min(fewest, missing);
+            if (missing == 0) return;
+        }
+        selectFont(best);
     }
 
     win::UniqueFont font_;  // goes after the device that has it selected
@@ -87,10 +130,11 @@ void CheckJob(int result) {
 class Job {
  public:
     Job(HDC dc, const std::string& name) : dc_(dc) {
-        DOCINFOA info{};
+        const std::wstring wide = win::ToWide(name);
+        DOCINFOW info{};
         info.cbSize = sizeof info;
-        info.lpszDocName = name.c_str();
-        CheckJob(::StartDocA(dc, &info));
+        info.lpszDocName = wide.c_str();
+        CheckJob(::StartDocW(dc, &info));
     }
     ~Job() {
         if (!ended_) ::AbortDoc(dc_);
@@ -122,12 +166,11 @@ bool UserCancelled(const win::Error& error) {
 
 }  // namespace
 
-void PrintText(const std::string& text, const std::string& title, std::size_t tabLength) {
+void PrintText(std::u16string_view text, const std::string& title, std::size_t tabLength) {
     if (text.empty()) return;
-    const Printer printer;
-    const Measure measure{[&printer](std::string_view piece) { return printer.width(piece); },
-                          [](unsigned char byte) { return ::IsDBCSLeadByte(byte) != FALSE; }};
-    PrintLayout layout(text, title, printer.paper(), measure, tabLength);
+    const Printer printer(text);
+    const Measure measure{[&printer](std::u16string_view piece) { return printer.width(piece); }};
+    PrintLayout layout(text, win::Utf16FromUtf8(title), printer.paper(), measure, tabLength);
     Job job(printer.dc(), title.empty() ? "Quillon" : title);
     while (const auto line = layout.next()) {
         if (line->startsPage) job.startPage();
@@ -139,16 +182,16 @@ void PrintText(const std::string& text, const std::string& title, std::size_t ta
 void OnFilePrint(MainWindow& main, int) {
     const frmChild* page = main.activeDocument();
     if (!page) return;
-    const std::string text = page->txtPad().text();
-    const std::string title = page->Tag();
-    const std::size_t tabLength = page->tabText().size();
     try {
         const win::WaitCursor hourglass;
-        PrintText(text, title, tabLength);
+        PrintText(page->txtPad().text(), std::string(page->Tag()), page->tabText().size());
+        return;
     } catch (const win::Error& error) {
-        if (!UserCancelled(error))
-            win::ShowMessage(main.mainHwnd(), "Printer Error", "Quillon", MB_ICONEXCLAMATION);
+        if (UserCancelled(error)) return;
+    } catch (...) {
+        // As any other.
     }
+    win::ShowMessage(main.mainHwnd(), "Printer Error", "Quillon", MB_ICONEXCLAMATION);
 }
 
 }  // namespace modPrint

@@ -2,17 +2,17 @@
 
 #include <algorithm>
 
-#include "authoring/frmColors.h"
-#include "authoring/frmFind.h"
-#include "authoring/frmReplace.h"
-#include "authoring/mTemplateLoad.h"
-#include "authoring/modPreview.h"
-#include "authoring/modSpell.h"
-#include "authoring/page_reset.h"
-#include "authoring/tag_menus.h"
+#include "authoring/colours/frmColors.h"
+#include "authoring/find/frmFind.h"
+#include "authoring/find/frmReplace.h"
+#include "authoring/preview/modPreview.h"
+#include "authoring/spelling/modSpell.h"
+#include "authoring/tags/tag_menus.h"
+#include "authoring/templates/mTemplateLoad.h"
 #include "document/edit_commands.h"
 #include "files/basMRU.h"
 #include "files/modOpen.h"
+#include "files/page_reset.h"
 #include "ftp/core/site_list.h"
 #include "ftp/upload_commands.h"
 #include "help/frmAbout.h"
@@ -93,7 +93,7 @@ constexpr auto kHandlers = std::to_array<Handler>({
     One(mnuHelpOnline, OnHelpOnline),
     One(tbrFind, authoring::OnFind),
     One(tbrReplace, authoring::OnReplace),
-    One(tbrReset, authoring::OnReset),
+    One(tbrReset, files::OnReset),
     One(tbrPreview, modPreview::OnPreview),
     One(tbrSpelling, modSpell::OnSpelling),
     One(tbrColor, authoring::OnColor),
@@ -113,7 +113,8 @@ constexpr bool IsCommand(const MenuRow& row) {
 
 static_assert(std::ranges::all_of(kMenu, [](const MenuRow& row) { return !IsCommand(row) || Find(row.id); }),
               "every menu item is in the table of handlers");
-static_assert(std::ranges::all_of(kToolbar, [](const ToolButton& button) { return Find(button.command); }),
+static_assert(std::ranges::all_of(kToolbar,
+                                  [](const win::ToolButton& button) { return Find(button.command); }),
               "every toolbar button is in the table of handlers");
 
 }  // namespace

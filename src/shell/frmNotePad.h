@@ -1,9 +1,11 @@
 // The main window: an MDI frame with the menu, the toolbar, the documents and the status strip.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
+#include "files/recovery.h"
 #include "main_window.h"
 #include "shell/menu_pictures.h"
 #include "shell/status_strip.h"
@@ -14,10 +16,14 @@ class frmNotePad : public win::Window, public MainWindow {
  public:
     // Creates the window, not shown yet.
     static frmNotePad& open();
+    // Opens the changed pages that a program which did not end by itself has left behind, below the active
+    // one.
+    void restorePages();
 
     HWND mainHwnd() const override { return hwnd(); }
     HWND mdiClient() const override { return mdiClient_; }
     win::MenuBar& menu() override { return menu_; }
+    const win::MenuBar& menu() const override { return menu_; }
     const std::string& temporaryFolder() const override { return temporaryFolder_; }
     frmChild* activeDocument() const override;
     const std::vector<frmChild*>& documents() const override { return documents_; }
@@ -28,12 +34,16 @@ class frmNotePad : public win::Window, public MainWindow {
     void enableNew(bool state) override;
     bool isEnabled(Command command) const override;
     void postCommand(Command command) override;
+    void askBeforeClosing(std::function<bool()> mayClose) override { mayClose_ = std::move(mayClose); }
     void saveAs(frmChild& document) override;
     DocumentId documentCreated(frmChild& document) override;
     void documentClosed(frmChild& document) override;
     void documentRenamed(frmChild& document) override;
+    void documentChanged(frmChild& document) override;
+    void documentSaved(frmChild& document) override;
+    void keepCopy(frmChild& document) override;
     void documentActivated(frmChild& document) override;
-    void filesDropped(DocumentId document, const std::vector<std::string>& paths) override;
+    std::function<void()> filesDropped(DocumentId document, const std::vector<std::string>& paths) override;
 
  private:
     frmNotePad();
@@ -41,13 +51,16 @@ class frmNotePad : public win::Window, public MainWindow {
 
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     LRESULT defaultHandling(UINT message, WPARAM wParam, LPARAM lParam) override;
+    bool onPreTranslate(MSG& message) override;
     void createParts();
     void layOut() const;
+    void followSystem(UINT message, WPARAM wParam, LPARAM lParam);
     void run(Command command);
     void clickTool(int index);
     void refreshWindowList();
     void restoreDocuments() const;
-    bool preTranslate(MSG& message) const;
+    void writeDueCopies();
+    void writeAllCopies();
     void close();
     bool closeDocuments();
 
@@ -55,11 +68,13 @@ class frmNotePad : public win::Window, public MainWindow {
     shell::MenuPictures menuPictures_;
     win::UniqueAccelerators accelerators_;
     std::string temporaryFolder_;
+    files::Recovery recovery_;
     HWND mdiClient_ = nullptr;
     shell::Toolbar* Picture2_ = nullptr;
     shell::StatusStrip* Picture3_ = nullptr;
     std::vector<frmChild*> documents_;
     DocumentId lastId_ = 0;
     long untitled_ = 0;
+    std::function<bool()> mayClose_;
     bool closing_ = false;
 };

@@ -5,6 +5,8 @@
 #include "menu_ids.h"
 #include "win/picture.h"
 
+#include <shlwapi.h>
+
 namespace shell {
 namespace {
 
@@ -24,11 +26,16 @@ constexpr auto kPictures = std::to_array<Row>({
     {mnuUploadFile, "ftp"},
 });
 
-// Menus of Windows Vista and later blend a bitmap with its alpha. Older ones, and Wine's, copy it in the
-// size of a check mark.
+// The menus of Windows Vista and later, whose common controls are of version 6.10 and up, blend a bitmap with
+// its alpha. Older ones copy it in the size of a check mark.
 bool MenusBlend() {
-    return LOBYTE(LOWORD(::GetVersion())) >= 6 &&
-           !::GetProcAddress(::GetModuleHandleA("ntdll.dll"), "wine_get_version");
+    void* const found =
+        reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(L"comctl32.dll"), "DllGetVersion"));
+    const auto ask = reinterpret_cast<DLLGETVERSIONPROC>(found);
+    DLLVERSIONINFO version{};
+    version.cbSize = sizeof version;
+    if (!ask || FAILED(ask(&version))) return false;
+    return version.dwMajorVersion > 6 || (version.dwMajorVersion == 6 && version.dwMinorVersion >= 10);
 }
 
 // A bitmap of the screen's depth with what `paint` draws into a memory device context.
@@ -44,13 +51,13 @@ win::UniqueBitmap Painted(int size, Paint paint) {
     return bitmap;
 }
 
-win::UniqueBitmap OnMenuColour(const win::Picture& picture) {
-    const int full = picture.size();
+win::UniqueBitmap OnMenuColour(HICON picture) {
+    const int full = win::PictureSize();
     const int check = ::GetSystemMetrics(SM_CXMENUCHECK);
     const win::UniqueBitmap large = Painted(full, [&](HDC dc) {
         const RECT area{0, 0, full, full};
         ::FillRect(dc, &area, ::GetSysColorBrush(COLOR_MENU));
-        picture.draw(dc, 0, 0);
+        ::DrawIconEx(dc, 0, 0, picture, full, full, 0, nullptr, DI_NORMAL);
     });
     return Painted(check, [&](HDC dc) {
         const win::UniqueDc source(::CreateCompatibleDC(dc));
@@ -62,17 +69,13 @@ win::UniqueBitmap OnMenuColour(const win::Picture& picture) {
     });
 }
 
-win::UniqueBitmap MenuBitmap(const char* icon) {
-    win::Picture picture(icon, win::PictureSize());
-    return MenusBlend() ? picture.release() : OnMenuColour(picture);
-}
-
 }  // namespace
 
 void MenuPictures::addTo(win::MenuBar& menu) {
+    const bool blend = MenusBlend();
     std::vector<win::UniqueBitmap> made;
     for (const auto& [item, icon] : kPictures) {
-        made.push_back(MenuBitmap(icon));
+        made.push_back(blend ? win::PictureBitmap(icon) : OnMenuColour(win::Picture(icon).get()));
         menu.setPicture(item, made.back().get());
     }
     bitmaps_ = std::move(made);

@@ -7,12 +7,10 @@
 
 namespace shell {
 
-// Made when a menu is first opened: a start of the program does not wait for them.
 class MenuPictures {
  public:
-    bool empty() const { return bitmaps_.empty(); }
     // Puts them into the menu, which must not outlive this object. Again after a change of the system's
-    // colours.
+    // colours or measures.
     void addTo(win::MenuBar& menu);
 
  private:

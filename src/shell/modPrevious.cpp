@@ -1,33 +1,50 @@
 #include "shell/modPrevious.h"
 
+#include <algorithm>
+#include <iterator>
+#include <utility>
 #include <vector>
 
-#include "files/modPubFuncs.h"
 #include "shell/core/wildcard.h"
+#include "win/message_box.h"
 #include "win/message_loop.h"
-#include "win/wide_path.h"
+#include "win/unicode.h"
 
 namespace modPrevious {
 namespace {
 
-constexpr char kTitle[] = "Quillon";
-constexpr DWORD kDialogPatience = 5000;  // milliseconds until the open dialog must have come
-constexpr DWORD kPollInterval = 20;
+constexpr DWORD kReadyWait = 5000;   // milliseconds for the running instance to be there and to take input
+constexpr DWORD kKeyWait = 10000;    // for its answer to a key
+constexpr DWORD kTurnWait = 120000;  // for other starts that hand their files over
+constexpr DWORD kInterval = 20;
+constexpr std::size_t kMostText = 4096;
+constexpr std::size_t kChunk = 16;  // characters typed at once
 
 std::string TitleOf(HWND window) {
-    char title[255];
-    return {title, static_cast<std::size_t>(::GetWindowTextA(window, title, sizeof title))};
+    wchar_t title[255];
+    const int length = ::GetWindowTextW(window, title, static_cast<int>(std::size(title)));
+    return win::ToUtf8({title, static_cast<std::size_t>(length)});
 }
 
 std::string ClassOf(HWND window) {
-    char name[255];
-    return {name, static_cast<std::size_t>(::GetClassNameA(window, name, sizeof name))};
+    wchar_t name[255];
+    const int length = ::GetClassNameW(window, name, static_cast<int>(std::size(name)));
+    return win::ToUtf8({name, static_cast<std::size_t>(length)});
 }
 
-// As the main window's title reads also while a maximised page adds its name.
-HWND FindByTitle() {
-    const HWND exact = ::FindWindowA(nullptr, kTitle);
-    return exact ? exact : FindWindowLike(std::string(kTitle) + "*", "*");
+// By its class as well: a folder in the Explorer, say, may have such a title too.
+HWND FindMain() {
+    return FindWindowLike("*Quillon*", "frmNotePad");
+}
+
+template <typename Condition>
+bool WaitUntil(const Condition& holds, DWORD wait = kKeyWait) {
+    const DWORD start = ::GetTickCount();
+    while (!holds()) {
+        if (::GetTickCount() - start >= wait) return false;
+        ::Sleep(kInterval);
+    }
+    return true;
 }
 
 void Send(std::vector<INPUT>& keys) {
@@ -40,19 +57,16 @@ void PressKey(WORD virtualKey) {
     for (INPUT& key : keys) {
         key.type = INPUT_KEYBOARD;
         key.ki.wVk = virtualKey;
-        key.ki.wScan = static_cast<WORD>(::MapVirtualKeyA(virtualKey, 0));
+        key.ki.wScan = static_cast<WORD>(::MapVirtualKeyW(virtualKey, 0));
     }
     keys[1].ki.dwFlags = KEYEVENTF_KEYUP;
     Send(keys);
 }
 
-// As characters and not as keys, so that no layout and no sign with a meaning of its own changes the path.
-void TypeText(const std::string& text) {
-    std::wstring wide(text.size(), L'\0');
-    wide.resize(static_cast<std::size_t>(::MultiByteToWideChar(
-        CP_ACP, 0, text.data(), static_cast<int>(text.size()), wide.data(), static_cast<int>(wide.size()))));
+// As characters and not as keys, so that no layout and no sign with a meaning of its own changes the text.
+void TypeText(std::wstring_view text) {
     std::vector<INPUT> keys;
-    for (const wchar_t c : wide) {
+    for (const wchar_t c : text) {
         INPUT key{};
         key.type = INPUT_KEYBOARD;
         key.ki.wScan = c;
@@ -64,39 +78,157 @@ void TypeText(const std::string& text) {
     Send(keys);
 }
 
-bool BelongsTo(HWND window, HWND main) {
-    DWORD processOfWindow = 0;
-    DWORD processOfMain = 0;
-    ::GetWindowThreadProcessId(window, &processOfWindow);
-    ::GetWindowThreadProcessId(main, &processOfMain);
-    return processOfWindow == processOfMain;
-}
-
-// The edit box that has the focus in the foreground window, once that is a dialog of the running instance.
-bool WaitForDialog(HWND main) {
-    for (DWORD waited = 0; waited < kDialogPatience; waited += kPollInterval) {
-        const HWND front = ::GetForegroundWindow();
-        if (front != main && BelongsTo(front, main) && ClassOf(front) == "#32770") {
-            GUITHREADINFO info{};
-            info.cbSize = sizeof info;
-            ::GetGUIThreadInfo(::GetWindowThreadProcessId(front, nullptr), &info);
-            if (info.hwndFocus && ClassOf(info.hwndFocus).find("Edit") != std::string::npos) return true;
-        }
-        ::Sleep(kPollInterval);
+// F3 with one of them is another key.
+bool ModifiersAreUp() {
+    for (const int key : {VK_SHIFT, VK_CONTROL, VK_MENU, VK_LWIN, VK_RWIN}) {
+        if (::GetAsyncKeyState(key) < 0) return false;
     }
-    return false;
+    return true;
 }
 
-// This instance's folder need not be the other's.
-std::string PathForOther(const std::string& commandLine) {
-    return modPubFuncs::FileExists(commandLine) ? win::FullPath(commandLine) : commandLine;
+std::vector<HWND> DialogsOf(HWND main) {
+    std::vector<HWND> dialogs;
+    HWND dialog = nullptr;
+    while ((dialog = ::FindWindowExW(nullptr, dialog, L"#32770", nullptr))) {
+        if (::GetWindow(dialog, GW_OWNER) == main) dialogs.push_back(dialog);
+    }
+    return dialogs;
+}
+
+// The open dialog of the running instance, and its box for the file's name.
+struct OpenDialog {
+    HWND window = nullptr;
+    HWND edit = nullptr;
+
+    bool isInFront() const {
+        GUITHREADINFO info{};
+        info.cbSize = sizeof info;
+        return window && ::GetForegroundWindow() == window &&
+               ::GetGUIThreadInfo(::GetWindowThreadProcessId(window, nullptr), &info) &&
+               info.hwndFocus == edit;
+    }
+    std::wstring text() const {
+        std::wstring text(kMostText, L'\0');
+        DWORD_PTR length = 0;
+        ::SendMessageTimeoutW(edit, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()),
+                              SMTO_ABORTIFHUNG, kKeyWait, &length);
+        text.resize(std::min<std::size_t>(length, text.size()));
+        return text;
+    }
+};
+
+// A dialog of the main window's that is in front with the focus in an edit box and was not there before. The
+// main window waits for it, as it does not for the dialogs of Find and Replace.
+OpenDialog NewDialog(HWND main, const std::vector<HWND>& before) {
+    const HWND front = ::GetForegroundWindow();
+    const std::vector<HWND> now = DialogsOf(main);
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    const bool isNew = std::find(now.begin(), now.end(), front) != now.end() &&
+                       std::find(before.begin(), before.end(), front) == before.end();
+    if (!isNew || ::IsWindowEnabled(main)) return {};
+    if (!::GetGUIThreadInfo(::GetWindowThreadProcessId(front, nullptr), &info)) return {};
+    if (!info.hwndFocus || ClassOf(info.hwndFocus).find("Edit") == std::string::npos) return {};
+    return {front, info.hwndFocus};
+}
+
+OpenDialog CallOpenDialog(HWND main) {
+    const std::vector<HWND> before = DialogsOf(main);
+    if (!WaitUntil(ModifiersAreUp) || ::GetForegroundWindow() != main || !::IsWindowEnabled(main)) return {};
+    PressKey(VK_F3);
+    OpenDialog dialog;
+    WaitUntil([&] { return (dialog = NewDialog(main, before)).window != nullptr; });
+    return dialog;
+}
+
+// In pieces, each only while the dialog has the keyboard: the user's hands may be quicker.
+bool TypeInto(const OpenDialog& dialog, std::wstring_view path) {
+    std::wstring_view typed;
+    while (typed.size() < path.size()) {
+        if (!dialog.isInFront()) return false;
+        const std::size_t from = typed.size();
+        typed = path.substr(0, from + kChunk);
+        // Never half of a character.
+        if (typed.back() >= 0xD800 && typed.back() < 0xDC00) typed = path.substr(0, typed.size() + 1);
+        TypeText(typed.substr(from));
+        // The system may complete what is typed; the completion is selected, and goes with the next key.
+        if (!WaitUntil([&] { return dialog.text().starts_with(typed) || !dialog.isInFront(); })) return false;
+    }
+    if (!dialog.isInFront()) return false;
+    if (dialog.text() != path) PressKey(VK_DELETE);
+    return WaitUntil([&] { return dialog.text() == path || !dialog.isInFront(); }) && dialog.isInFront();
+}
+
+bool OpenInOther(HWND main, const std::string& path) {
+    const OpenDialog dialog = CallOpenDialog(main);
+    if (!dialog.window) return false;
+    if (!TypeInto(dialog, win::ToWide(path))) {
+        if (dialog.isInFront()) PressKey(VK_ESCAPE);
+        return false;
+    }
+    PressKey(VK_RETURN);
+    // The next start waits for its turn until this dialog is no longer there to be typed into.
+    WaitUntil([&] { return !::IsWindow(dialog.window) || !dialog.isInFront(); });
+    return true;
+}
+
+// One start at a time: two that type at once would mix their paths.
+class Turn {
+ public:
+    Turn() : mutex_(::CreateMutexW(nullptr, FALSE, L"Quillon.HandOver")) {
+        const DWORD result = ::WaitForSingleObject(mutex_.get(), kTurnWait);
+        isMine_ = result == WAIT_OBJECT_0 || result == WAIT_ABANDONED;
+    }
+    ~Turn() {
+        if (isMine_) ::ReleaseMutex(mutex_.get());
+    }
+    Turn(const Turn&) = delete;
+    Turn& operator=(const Turn&) = delete;
+    bool isMine() const { return isMine_; }
+
+ private:
+    win::UniqueHandle mutex_;
+    bool isMine_ = false;
+};
+
+enum class Outcome { done, failed, isFirst };
+
+// Waits for a main window that is still to come, and for one that a dialog keeps waiting.
+Outcome Transfer(InstanceMark& mark, const std::string& path) {
+    const Turn turn;
+    HWND main = nullptr;
+    bool shown = false;
+    const bool ready = turn.isMine() && WaitUntil(
+                                            [&] {
+                                                if (mark.isFirst()) return true;
+                                                main = FindMain();
+                                                if (!main || !::IsWindowVisible(main)) return false;
+                                                if (!std::exchange(shown, true)) ActivateWindow(main);
+                                                return path.empty() || ::IsWindowEnabled(main) != FALSE;
+                                            },
+                                            kReadyWait);
+    if (mark.isFirst()) return Outcome::isFirst;
+    if (path.empty()) return Outcome::done;
+    if (!ready) return Outcome::failed;
+    ActivateWindow(main);
+    const bool inFront = WaitUntil([main] { return ::GetForegroundWindow() == main; });
+    return inFront && OpenInOther(main, path) ? Outcome::done : Outcome::failed;
 }
 
 }  // namespace
 
-InstanceMark::InstanceMark()
-    : mutex_(::CreateMutexA(nullptr, FALSE, "Quillon.Instance")),
-      first_(::GetLastError() != ERROR_ALREADY_EXISTS) {}
+InstanceMark::InstanceMark() : mutex_(::CreateMutexW(nullptr, FALSE, L"Quillon.Instance")) {}
+
+InstanceMark::~InstanceMark() {
+    if (first_) ::ReleaseMutex(mutex_.get());
+}
+
+bool InstanceMark::isFirst() {
+    if (first_) return true;
+    const DWORD result = ::WaitForSingleObject(mutex_.get(), 0);
+    first_ = result == WAIT_OBJECT_0 || result == WAIT_ABANDONED;
+    return first_;
+}
 
 HWND FindWindowLike(const std::string& titlePattern, const std::string& classPattern, HWND start) {
     HWND window = ::GetWindow(start ? start : ::GetDesktopWindow(), GW_CHILD);
@@ -121,17 +253,16 @@ bool ActivateWindow(HWND window) {
     return done;
 }
 
-void HandOver(const std::string& commandLine) {
-    ActivateWindow(FindWindowLike("*Quillon*", "*"));
-    const HWND main = FindByTitle();
-    ActivateWindow(main);
-    win::RunPending();
-    if (commandLine.empty()) return;
-    PressKey(VK_F3);
-    // Where no dialog came and a page has the keyboard, the path would be typed into that page.
-    if (!WaitForDialog(main) && ::GetForegroundWindow() == main && ::IsWindowEnabled(main)) return;
-    TypeText(PathForOther(commandLine));
-    PressKey(VK_RETURN);
+bool HandOver(InstanceMark& mark, const std::string& path) {
+    const Outcome outcome = Transfer(mark, path);
+    if (outcome == Outcome::failed) {
+        win::ShowMessage(nullptr,
+                         path +
+                             "\r\nwas not opened: the Quillon that is running could not take it.\r\n\r\n"
+                             "Close any dialog or message there, then open the file with F3.",
+                         "Quillon", MB_ICONEXCLAMATION | MB_SETFOREGROUND);
+    }
+    return outcome != Outcome::isFirst;
 }
 
 }  // namespace modPrevious

@@ -7,15 +7,20 @@
 
 namespace modPrevious {
 
-// Holds the mark that says to later starts that this instance runs.
+// What says to later starts that this instance runs: a mutex that the first one owns until it ends.
 class InstanceMark {
  public:
     InstanceMark();
-    bool isFirst() const { return first_; }
+    ~InstanceMark();
+    InstanceMark(const InstanceMark&) = delete;
+    InstanceMark& operator=(const InstanceMark&) = delete;
+
+    // Asks anew: the instance that was first may have ended.
+    bool isFirst();
 
  private:
     win::UniqueHandle mutex_;
-    bool first_;
+    bool first_ = false;
 };
 
 // The first child of `start` (the desktop when null) whose title and class match the patterns, in which *
@@ -27,7 +32,8 @@ HWND FindWindowLike(const std::string& titlePattern, const std::string& classPat
 bool ActivateWindow(HWND window);
 
 // Brings the running instance to the front and has it open the file, as if its user had typed the path into
-// its open dialog. `commandLine` is empty for no file.
-void HandOver(const std::string& commandLine);
+// its open dialog; says so when that cannot be done. `path` is empty for no file. False when that instance
+// has ended meanwhile, so that this one is the first.
+bool HandOver(InstanceMark& mark, const std::string& path);
 
 }  // namespace modPrevious

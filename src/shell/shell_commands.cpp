@@ -6,6 +6,7 @@
 #include "shell/menu_table.h"
 #include "win/error.h"
 #include "win/shell_open.h"
+#include "win/unicode.h"
 
 namespace shell {
 namespace {
@@ -16,15 +17,16 @@ constexpr char kOnlineHelp[] = "http://www.example.com/quillon/help.html";
 
 void OnFileNew(MainWindow& main, int) {
     const std::string type = CRegSettings().GetRegSetting("Files", "default_Open");
-    frmChild::open(main, "Untitled" + std::to_string(main.nextUntitled()) + type, document::kPageOutline);
+    frmChild::open(main, "Untitled" + std::to_string(main.nextUntitled()) + type,
+                   document::NewPage(document::kPageOutline));
 }
 
 void OnFileClose(MainWindow& main, int) {
-    if (const frmChild* page = main.activeDocument()) ::SendMessageA(page->hwnd(), WM_CLOSE, 0, 0);
+    if (const frmChild* page = main.activeDocument()) ::SendMessageW(page->hwnd(), WM_CLOSE, 0, 0);
 }
 
 void OnFileExit(MainWindow& main, int) {
-    ::SendMessageA(main.mainHwnd(), WM_CLOSE, 0, 0);
+    ::SendMessageW(main.mainHwnd(), WM_CLOSE, 0, 0);
 }
 
 void OnHelpOnline(MainWindow&, int) {
@@ -33,9 +35,10 @@ void OnHelpOnline(MainWindow&, int) {
 
 void OnToolList(MainWindow& main, int) {
     const win::UniqueMenu list(win::Check(::CreatePopupMenu()));
-    for (const ToolButton& button : kToolbar) {
+    for (const win::ToolButton& button : kToolbar) {
         const UINT state = main.isEnabled(button.command) ? MF_ENABLED : MF_GRAYED;
-        ::AppendMenuA(list.get(), static_cast<UINT>(MF_STRING) | state, button.command, button.tip);
+        ::AppendMenuW(list.get(), static_cast<UINT>(MF_STRING) | state, button.command,
+                      win::ToWide(button.tip).c_str());
     }
     RECT area{};
     ::GetClientRect(main.mainHwnd(), &area);

@@ -7,11 +7,12 @@
 
 namespace shell {
 
-// The text after the program's own name on the command line, without the blanks around it.
+// The text after the program's own name on the command line, without the blanks around it: one path, absolute
+// if there is such a file.
 std::string CommandLineFile();
 
-// Places the main window, shows it and opens the start document: the file, or a new page when `file` is empty
-// or names none.
+// Places the main window, shows it and opens the start document: the file, or a new page when there is none
+// of that name.
 void Load(MainWindow& main, const std::string& file);
 
 }  // namespace shell

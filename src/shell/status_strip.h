@@ -10,19 +10,21 @@ class StatusStrip : public win::Window {
  public:
     static StatusStrip& open(HWND parent);
 
-    static int height();  // pixels
-    void setResults(const std::string& text) const { ::SetWindowTextA(lblResults_, text.c_str()); }
-    void setLineNo(const std::string& text) const { ::SetWindowTextA(lblLineNo_, text.c_str()); }
+    int height() const;  // pixels: the least that its font takes
+    void setResults(const std::string& text) const;
+    void setLineNo(const std::string& text) const;
 
  private:
     StatusStrip() = default;
     ~StatusStrip() override = default;
 
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-    HWND makeLabel(const char* text, DWORD style) const;
+    HWND makeLabel(const wchar_t* text, DWORD style) const;
+    void useFont();
     void layOut() const;
 
     win::UniqueFont font_;
+    int lineHeight_ = 0;
     HWND lblResults_ = nullptr;
     HWND lblLineNo_ = nullptr;
 };

@@ -1,6 +1,7 @@
 #include "shell/toolbar.h"
 
 #include "tool_buttons.h"
+#include "win/system_colours.h"
 #include "win/units.h"
 
 namespace shell {
@@ -14,32 +15,33 @@ bool NeedsDocument(int index) {
 
 }  // namespace
 
-Toolbar& Toolbar::open(HWND parent, std::function<void(int)> onClick) {
-    auto* self = new Toolbar(std::move(onClick));
-    WNDCLASSEXA cls{};
-    cls.lpszClassName = "Picture2";
+Toolbar& Toolbar::open(HWND parent) {
+    auto* self = new Toolbar;
+    WNDCLASSEXW cls{};
+    cls.lpszClassName = L"Picture2";
     cls.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
     self->create(cls, "Toolbar", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT, {0, 0, 0, 0},
                  parent);
     return *self;
 }
 
-int Toolbar::height() {
-    return win::PictureButtons::height() + 2 * win::Scaled(kMargin);
+void Toolbar::makeButtons() {
+    Picture1_.create(hwnd(), tbrPicture1, kToolbar);
+    setDocumentOpen(false);
 }
 
-void Toolbar::makeButtons() {
-    Picture1_.open(hwnd(), win::Scaled(kMargin), win::Scaled(kMargin));
-    int index = 0;
-    for (const ToolButton& button : kToolbar) {
-        Picture1_.add(index, button.tip, button.picture, button.beginsGroup, !NeedsDocument(index));
-        ++index;
-    }
+int Toolbar::layOut() {
+    RECT area{};
+    ::GetClientRect(::GetParent(hwnd()), &area);
+    const int margin = win::Scaled(kMargin);
+    const int height = Picture1_.place(margin, margin, area.right - 2 * margin) + 2 * margin;
+    ::SetWindowPos(hwnd(), nullptr, 0, 0, area.right, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    return height;
 }
 
 void Toolbar::setDocumentOpen(bool open) const {
     for (int index = 0; index < static_cast<int>(kToolbar.size()); ++index) {
-        if (NeedsDocument(index)) ::EnableWindow(button(index), open);
+        if (NeedsDocument(index)) Picture1_.enable(index, open);
     }
 }
 
@@ -50,15 +52,12 @@ LRESULT Toolbar::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_COMMAND:
             // The button shows that it was pressed before a long command runs.
-            ::UpdateWindow(reinterpret_cast<HWND>(lParam));
-            onClick_(LOWORD(wParam));
-            return 0;
-        case WM_SETCURSOR:
-            // The buttons pass it on, and disabled ones leave the mouse to this window.
-            Picture1_.useTips();
+            ::UpdateWindow(Picture1_.hwnd());
+            return ::SendMessageW(::GetParent(hwnd()), message, wParam, lParam);
+        case WM_SYSCOLORCHANGE:
+        case WM_SETTINGCHANGE:
+            win::PassToControls(hwnd(), message, wParam, lParam);
             break;
-        case WM_DRAWITEM:
-            return Picture1_.draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
         default:
             break;
     }

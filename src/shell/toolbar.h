@@ -1,34 +1,32 @@
-// The toolbar: a strip of picture buttons.
+// The toolbar: the strip below the menu and the system's tool bar in it.
 #pragma once
 
-#include <functional>
-
-#include "win/picture_buttons.h"
+#include "win/tool_bar.h"
 #include "win/window.h"
 
 namespace shell {
 
 class Toolbar : public win::Window {
  public:
-    // Creates the strip as a child of `parent`. `onClick` gets the index of a button that was clicked.
-    static Toolbar& open(HWND parent, std::function<void(int index)> onClick);
+    // Creates the strip as a child of `parent`, which gets the WM_COMMAND of its buttons: tbrPicture1 +
+    // index.
+    static Toolbar& open(HWND parent);
 
-    static int height();  // pixels
+    // Moves it to the top of its parent, as wide as that, and returns its height in pixels: the buttons take
+    // several rows where one is too long.
+    int layOut();
     // The buttons that need a document are disabled until one opens.
     void setDocumentOpen(bool open) const;
-    bool isEnabled(int index) const { return ::IsWindowEnabled(button(index)) != FALSE; }
-    bool owns(HWND window) const { return ::GetParent(window) == hwnd(); }
+    bool isEnabled(int index) const { return Picture1_.isEnabled(index); }
 
  private:
-    explicit Toolbar(std::function<void(int)> onClick) : onClick_(std::move(onClick)) {}
+    Toolbar() = default;
     ~Toolbar() override = default;
 
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void makeButtons();
-    HWND button(int index) const { return Picture1_.button(static_cast<std::size_t>(index)); }
 
-    std::function<void(int)> onClick_;
-    win::PictureButtons Picture1_;
+    win::ToolBar Picture1_;
 };
 
 }  // namespace shell

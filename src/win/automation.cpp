@@ -2,33 +2,58 @@
 
 #include <new>
 
-#include "win/error.h"
 #include "win/late.h"
+#include "win/message_loop.h"
 #include "win/unicode.h"
 
 namespace win {
 namespace {
 
 constexpr char kDll[] = "oleaut32.dll";
+constexpr Late<decltype(&::GetActiveObject)> kGetActiveObject{kDll, "GetActiveObject"};
 constexpr Late<decltype(&::SysAllocStringLen)> kSysAllocStringLen{kDll, "SysAllocStringLen"};
 constexpr Late<decltype(&::SysFreeString)> kSysFreeString{kDll, "SysFreeString"};
 constexpr Late<decltype(&::SysStringLen)> kSysStringLen{kDll, "SysStringLen"};
 constexpr Late<decltype(&::VariantChangeType)> kVariantChangeType{kDll, "VariantChangeType"};
 constexpr Late<decltype(&::VariantClear)> kVariantClear{kDll, "VariantClear"};
 
-void CheckResult(HRESULT result) {
-    if (FAILED(result)) throw Error(static_cast<DWORD>(result));
+// A program that shows a dialog or prints turns calls away without having run them.
+bool IsBusy(HRESULT result) {
+    return result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER;
+}
+
+// Calls again while the program is busy.
+template <typename Call>
+void CheckCall(const Call& call) {
+    constexpr DWORD kLongest = 10000;  // milliseconds
+    constexpr DWORD kPause = 100;
+    const DWORD start = ::GetTickCount();
+    HRESULT result = call();
+    while (IsBusy(result) && ::GetTickCount() - start < kLongest) {
+        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, kPause, QS_ALLINPUT);
+        if (!RunPending()) break;
+        result = call();
+    }
+    CheckResult(result);
 }
 
 }  // namespace
+
+bool IsAutomationRunning(const wchar_t* progId) {
+    CLSID id{};
+    IUnknown* object = nullptr;
+    if (FAILED(::CLSIDFromProgID(progId, &id)) || FAILED(kGetActiveObject(id, nullptr, &object)))
+        return false;
+    return ComPtr<IUnknown>(object) ? true : false;
+}
 
 Variant::Variant(long number) : Variant() {
     value_.vt = VT_I4;
     value_.lVal = number;
 }
 
-Variant::Variant(std::string_view text) : Variant() {
-    const std::wstring wide = ToWide(text);
+Variant::Variant(std::u16string_view text) : Variant() {
+    const std::wstring_view wide = AsWide(text);
     value_.bstrVal = kSysAllocStringLen(wide.data(), static_cast<UINT>(wide.size()));
     if (!value_.bstrVal) throw std::bad_alloc();
     value_.vt = VT_BSTR;
@@ -38,12 +63,12 @@ Variant::~Variant() {
     if (value_.vt != VT_EMPTY) kVariantClear(&value_);
 }
 
-std::string Variant::text() const {
+std::u16string Variant::text() const {
     Variant converted;
     CheckResult(
         kVariantChangeType(converted.out(), const_cast<VARIANT*>(&value_), USHORT{0}, VARTYPE{VT_BSTR}));
     const BSTR wide = converted.value_.bstrVal;
-    return ToAnsi({wide ? wide : L"", kSysStringLen(wide)});
+    return std::u16string(AsUtf16({wide ? wide : L"", kSysStringLen(wide)}));
 }
 
 std::optional<AutomationObject> AutomationObject::create(const wchar_t* progId) {
@@ -59,18 +84,20 @@ std::optional<AutomationObject> AutomationObject::create(const wchar_t* progId) 
 Variant AutomationObject::invoke(const wchar_t* method, VARIANT* reversedArguments, UINT count) {
     DISPID id = 0;
     auto* name = const_cast<OLECHAR*>(method);
-    CheckResult(object_.get()->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &id));
+    CheckCall([&] { return object_.get()->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &id); });
     DISPPARAMS parameters{reversedArguments, nullptr, count, 0};
     Variant result;
-    EXCEPINFO failure{};
-    // As a Basic program calls what gives a value: such an object may hold it to be a property.
-    const HRESULT done =
-        object_.get()->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD | DISPATCH_PROPERTYGET,
-                              &parameters, result.out(), &failure, nullptr);
-    kSysFreeString(failure.bstrSource);
-    kSysFreeString(failure.bstrDescription);
-    kSysFreeString(failure.bstrHelpFile);
-    CheckResult(done);
+    CheckCall([&] {
+        EXCEPINFO failure{};
+        // As a Basic program calls what gives a value: such an object may hold it to be a property.
+        const HRESULT done =
+            object_.get()->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD | DISPATCH_PROPERTYGET,
+                                  &parameters, result.out(), &failure, nullptr);
+        kSysFreeString(failure.bstrSource);
+        kSysFreeString(failure.bstrDescription);
+        kSysFreeString(failure.bstrHelpFile);
+        return done;
+    });
     return result;
 }
 

@@ -1,6 +1,6 @@
 #include "win/clipboard.h"
 
-#include <cstring>
+#include <algorithm>
 
 #include "win/error.h"
 
@@ -10,7 +10,7 @@ namespace {
 class OpenClipboard {
  public:
     explicit OpenClipboard(HWND owner) {
-        // Clipboard viewers hold it for moments only, so a short patience is enough.
+        // Clipboard viewers hold it for moments only, so a short time-out is enough.
         for (int attempt = 0; attempt < 20; ++attempt) {
             if (::OpenClipboard(owner)) return;
             ::Sleep(10);
@@ -24,37 +24,36 @@ class OpenClipboard {
 
 }  // namespace
 
-void SetClipboardText(HWND owner, std::string_view text) {
-    const HGLOBAL memory = Check(::GlobalAlloc(GMEM_MOVEABLE, text.size() + 1));
-    auto* bytes = static_cast<char*>(::GlobalLock(memory));
-    std::memcpy(bytes, text.data(), text.size());
-    bytes[text.size()] = '\0';
+void SetClipboardText(HWND owner, std::u16string_view text) {
+    const HGLOBAL memory = Check(::GlobalAlloc(GMEM_MOVEABLE, (text.size() + 1) * sizeof(char16_t)));
+    auto* units = static_cast<char16_t*>(Check(::GlobalLock(memory)));
+    std::copy(text.begin(), text.end(), units);
+    units[text.size()] = u'\0';
     ::GlobalUnlock(memory);
     try {
         const OpenClipboard open(owner);
         ::EmptyClipboard();
-        Check(::SetClipboardData(CF_TEXT, memory));
+        Check(::SetClipboardData(CF_UNICODETEXT, memory));
     } catch (...) {
         ::GlobalFree(memory);
         throw;
     }
 }
 
-std::string ClipboardText(HWND owner) {
+std::u16string ClipboardText(HWND owner) {
     const OpenClipboard open(owner);
-    const HANDLE memory = ::GetClipboardData(CF_TEXT);
+    const HANDLE memory = ::GetClipboardData(CF_UNICODETEXT);
     if (!memory) return {};
-    const auto* bytes = static_cast<const char*>(::GlobalLock(memory));
-    if (!bytes) return {};
-    const std::size_t size = ::GlobalSize(memory);
-    const void* end = std::memchr(bytes, '\0', size);
-    std::string text(bytes, end ? static_cast<std::size_t>(static_cast<const char*>(end) - bytes) : size);
+    const auto* units = static_cast<const char16_t*>(::GlobalLock(memory));
+    if (!units) return {};
+    const char16_t* end = units + ::GlobalSize(memory) / sizeof(char16_t);
+    std::u16string text(units, std::find(units, end, u'\0'));
     ::GlobalUnlock(memory);
     return text;
 }
 
 bool ClipboardHasText() {
-    return ::IsClipboardFormatAvailable(CF_TEXT) != FALSE;
+    return ::IsClipboardFormatAvailable(CF_UNICODETEXT) != FALSE;
 }
 
 }  // namespace win

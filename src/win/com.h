@@ -1,6 +1,7 @@
-// Owners of what COM hands out.
+// Owners of what COM hands out, and its results.
 #pragma once
 
+#include "win/error.h"
 #include "win/unique.h"
 
 namespace win {
@@ -13,5 +14,9 @@ template <typename Interface>
 using ComPtr = Unique<Interface*, ReleaseInterface>;
 
 using UniqueTaskText = Unique<wchar_t*, ::CoTaskMemFree>;
+
+inline void CheckResult(HRESULT result) {
+    if (FAILED(result)) throw Error(static_cast<DWORD>(result));
+}
 
 }  // namespace win

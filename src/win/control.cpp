@@ -12,28 +12,28 @@ Control::~Control() {
 
 void Control::attach(HWND control) {
     hwnd_ = control;
-    ::SetWindowLongPtrA(control, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    ::SetWindowLongPtrW(control, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     original_ = reinterpret_cast<WNDPROC>(
-        ::SetWindowLongPtrA(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
+        ::SetWindowLongPtrW(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
 }
 
 void Control::detach() {
-    ::SetWindowLongPtrA(hwnd_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original_));
-    ::SetWindowLongPtrA(hwnd_, GWLP_USERDATA, 0);
+    ::SetWindowLongPtrW(hwnd_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original_));
+    ::SetWindowLongPtrW(hwnd_, GWLP_USERDATA, 0);
     hwnd_ = nullptr;
 }
 
 LRESULT Control::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    return ::CallWindowProcA(original_, hwnd_, message, wParam, lParam);
+    return ::CallWindowProcW(original_, hwnd_, message, wParam, lParam);
 }
 
 LRESULT CALLBACK Control::procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
-    auto* self = reinterpret_cast<Control*>(::GetWindowLongPtrA(hwnd, GWLP_USERDATA));
-    if (!self) return ::DefWindowProcA(hwnd, message, wParam, lParam);
+    auto* self = reinterpret_cast<Control*>(::GetWindowLongPtrW(hwnd, GWLP_USERDATA));
+    if (!self) return ::DefWindowProcW(hwnd, message, wParam, lParam);
     if (message == WM_NCDESTROY) {
         const WNDPROC original = self->original_;
         self->detach();
-        return ::CallWindowProcA(original, hwnd, message, wParam, lParam);
+        return ::CallWindowProcW(original, hwnd, message, wParam, lParam);
     }
     try {
         return self->onMessage(message, wParam, lParam);

@@ -20,7 +20,7 @@ class Control {
     void attach(HWND control);
     virtual LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);  // passes it on
     LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
-        return ::SendMessageA(hwnd_, message, wParam, lParam);
+        return ::SendMessageW(hwnd_, message, wParam, lParam);
     }
 
  private:

@@ -2,25 +2,28 @@
 
 #include <exception>
 
+#include "win/disabled.h"
 #include "win/error.h"
 #include "win/message_box.h"
-#include "win/message_loop.h"
+#include "win/unicode.h"
 #include "win/window.h"
 
 namespace win {
 
 INT_PTR Dialog::showModal(HWND owner) {
     modal_ = true;
-    const INT_PTR result = ::DialogBoxParamA(::GetModuleHandleA(nullptr), templateName_, owner, procedure,
-                                             reinterpret_cast<LPARAM>(this));
+    const Disabled others(owner);
+    const INT_PTR result = ::DialogBoxParamW(::GetModuleHandleW(nullptr), ToWide(templateName_).c_str(),
+                                             owner, procedure, reinterpret_cast<LPARAM>(this));
     if (result == -1) ThrowLastError();
     return result;
 }
 
 void Dialog::createModeless(HWND owner) {
-    const HWND window = Check(::CreateDialogParamA(::GetModuleHandleA(nullptr), templateName_, owner,
+    const std::wstring name = ToWide(templateName_);
+    const HWND window = Check(::CreateDialogParamW(::GetModuleHandleW(nullptr), name.c_str(), owner,
                                                    procedure, reinterpret_cast<LPARAM>(this)));
-    ::SetPropA(owner, templateName_, window);
+    ::SetPropW(owner, name.c_str(), window);
 }
 
 void Dialog::showModeless(HWND owner) {
@@ -29,8 +32,8 @@ void Dialog::showModeless(HWND owner) {
 }
 
 Dialog* Dialog::find(HWND owner, const char* templateName) {
-    const auto window = static_cast<HWND>(::GetPropA(owner, templateName));
-    return window ? reinterpret_cast<Dialog*>(::GetWindowLongPtrA(window, DWLP_USER)) : nullptr;
+    const auto window = static_cast<HWND>(::GetPropW(owner, ToWide(templateName).c_str()));
+    return window ? reinterpret_cast<Dialog*>(::GetWindowLongPtrW(window, DWLP_USER)) : nullptr;
 }
 
 void Dialog::close(INT_PTR result) {
@@ -45,13 +48,17 @@ std::string Dialog::itemText(int id) const {
     return WindowText(item(id));
 }
 
+void Dialog::setItemText(int id, std::string_view text) const {
+    ShowText(item(id), text);
+}
+
 void Dialog::showProgramIcon() const {
-    const auto icon = reinterpret_cast<LPARAM>(::LoadIconA(::GetModuleHandleA(nullptr), "quillon"));
-    ::SendMessageA(hwnd_, WM_SETICON, ICON_SMALL, icon);
+    const auto icon = reinterpret_cast<LPARAM>(::LoadIconW(::GetModuleHandleW(nullptr), L"quillon"));
+    ::SendMessageW(hwnd_, WM_SETICON, ICON_SMALL, icon);
 }
 
 void Dialog::focusItem(int id) const {
-    ::SendMessageA(hwnd_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(item(id)), TRUE);
+    ::SendMessageW(hwnd_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(item(id)), TRUE);
 }
 
 bool Dialog::onCommand(WORD, WORD) {
@@ -62,12 +69,16 @@ INT_PTR Dialog::onMessage(UINT, WPARAM, LPARAM) {
     return FALSE;
 }
 
+bool Dialog::isDialog(HWND window) {
+    return reinterpret_cast<DLGPROC>(::GetWindowLongPtrW(window, DWLP_DLGPROC)) == procedure;
+}
+
 INT_PTR CALLBACK Dialog::procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_INITDIALOG) {
-        ::SetWindowLongPtrA(hwnd, DWLP_USER, lParam);
+        ::SetWindowLongPtrW(hwnd, DWLP_USER, lParam);
         reinterpret_cast<Dialog*>(lParam)->hwnd_ = hwnd;
     }
-    auto* self = reinterpret_cast<Dialog*>(::GetWindowLongPtrA(hwnd, DWLP_USER));
+    auto* self = reinterpret_cast<Dialog*>(::GetWindowLongPtrW(hwnd, DWLP_USER));
     return self ? self->dispatch(message, wParam, lParam) : FALSE;
 }
 
@@ -81,8 +92,8 @@ INT_PTR Dialog::dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
     }
     if (message == WM_NCDESTROY) {
         const HWND owner = ::GetWindow(hwnd_, GW_OWNER);
-        if (find(owner, templateName_) == this) ::RemovePropA(owner, templateName_);
-        ::SetWindowLongPtrA(hwnd_, DWLP_USER, 0);
+        if (find(owner, templateName_) == this) ::RemovePropW(owner, ToWide(templateName_).c_str());
+        ::SetWindowLongPtrW(hwnd_, DWLP_USER, 0);
         hwnd_ = nullptr;
     }
     if (--depth_ == 0 && !hwnd_ && !modal_) delete this;
@@ -101,10 +112,6 @@ INT_PTR Dialog::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_DESTROY:
             onClosing();
             return onMessage(message, wParam, lParam);
-        case kPreTranslate:
-            ::SetWindowLongPtrA(hwnd_, DWLP_MSGRESULT,
-                                ::IsDialogMessageA(hwnd_, reinterpret_cast<MSG*>(lParam)));
-            return TRUE;
         default:
             return onMessage(message, wParam, lParam);
     }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "win/windows.h"
 
@@ -18,7 +19,11 @@ class Dialog {
     // The modeless dialog of this template that was shown last for `owner`; null when it is not open.
     static Dialog* find(HWND owner, const char* templateName);
 
-    // Runs the dialog over `owner` and returns what close() was given. The object belongs to the caller.
+    // Whether this window is a dialog of ours.
+    static bool isDialog(HWND window);
+
+    // Runs the dialog over `owner` and returns what close() was given; no other window of the program can be
+    // used meanwhile. The object belongs to the caller.
     INT_PTR showModal(HWND owner);
     // Creates and shows the dialog. The object, made with new, deletes itself after the window.
     void showModeless(HWND owner);
@@ -42,7 +47,7 @@ class Dialog {
 
     HWND item(int id) const { return ::GetDlgItem(hwnd_, id); }
     std::string itemText(int id) const;
-    void setItemText(int id, const std::string& text) const { ::SetDlgItemTextA(hwnd_, id, text.c_str()); }
+    void setItemText(int id, std::string_view text) const;
     void enableItem(int id, bool enabled) const { ::EnableWindow(item(id), enabled); }
     bool isChecked(int id) const { return ::IsDlgButtonChecked(hwnd_, id) == BST_CHECKED; }
     // Has the caption show the program's icon, where the system would show one of its own.

@@ -1,22 +1,21 @@
 #include "win/drop_target.h"
 
-#include <exception>
-#include <string>
-#include <vector>
+#include <utility>
 
 #include "win/error.h"
 #include "win/late_shell.h"
+#include "win/unicode.h"
 
 namespace win {
 namespace {
 
 std::string DroppedPath(HDROP files, UINT index) {
-    std::string path(kDragQueryFile(files, index, nullptr, 0) + 1U, '\0');
+    std::wstring path(kDragQueryFile(files, index, nullptr, 0) + 1U, L'\0');
     path.resize(kDragQueryFile(files, index, path.data(), static_cast<UINT>(path.size())));
-    return path;
+    return ToUtf8(path);
 }
 
-std::vector<std::string> DroppedFiles(IDataObject& data) {
+std::vector<std::string> FilesOf(IDataObject& data) {
     FORMATETC format{CF_HDROP, nullptr, DVASPECT_CONTENT, -1, TYMED_HGLOBAL};
     STGMEDIUM medium{};
     std::vector<std::string> paths;
@@ -26,6 +25,12 @@ std::vector<std::string> DroppedFiles(IDataObject& data) {
     for (UINT i = 0; i < count; ++i) paths.push_back(DroppedPath(files, i));
     ::ReleaseStgMedium(&medium);
     return paths;
+}
+
+// The drop that is being told.
+const std::vector<std::string>*& Current() {
+    static const std::vector<std::string>* current = nullptr;
+    return current;
 }
 
 // Owned by the system's references alone: a program that drags may hold one when the window has gone.
@@ -63,11 +68,11 @@ class DropTarget : public IDropTarget {
         *effect = taken == DROPEFFECT_MOVE ? DROPEFFECT_NONE : taken;
         if (taken == DROPEFFECT_NONE || !data) return S_OK;
         try {
-            const std::vector<std::string> paths = DroppedFiles(*data);
+            const std::vector<std::string> paths = FilesOf(*data);
             if (paths.empty()) *effect = DROPEFFECT_NONE;
-            ::SendMessageA(window_, kDropped, 0, reinterpret_cast<LPARAM>(&paths));
+            SendDropped(window_, paths);
             return S_OK;
-        } catch (const std::exception&) {
+        } catch (...) {
             return E_OUTOFMEMORY;
         }
     }
@@ -88,6 +93,16 @@ class DropTarget : public IDropTarget {
 };
 
 }  // namespace
+
+const std::vector<std::string>* DroppedFiles() {
+    return Current();
+}
+
+void SendDropped(HWND window, const std::vector<std::string>& paths) {
+    const auto* outer = std::exchange(Current(), &paths);
+    ::SendMessageW(window, kDropped, 0, 0);
+    Current() = outer;
+}
 
 void AcceptDrops(HWND window) {
     auto* target = new DropTarget(window);

@@ -1,14 +1,18 @@
 #include "win/error.h"
 
+#include <iterator>
+
+#include "win/unicode.h"
+
 namespace win {
 namespace {
 
 std::string SystemText(DWORD code) {
-    char text[512];
-    DWORD length = ::FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, code,
-                                    0, text, sizeof text, nullptr);
-    while (length > 0 && (text[length - 1] == '\r' || text[length - 1] == '\n')) --length;
-    return length > 0 ? std::string(text, length) : "System error " + std::to_string(code) + ".";
+    wchar_t text[512];
+    DWORD length = ::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, code,
+                                    0, text, static_cast<DWORD>(std::size(text)), nullptr);
+    while (length > 0 && (text[length - 1] == L'\r' || text[length - 1] == L'\n')) --length;
+    return length > 0 ? ToUtf8({text, length}) : "System error " + std::to_string(code) + ".";
 }
 
 }  // namespace

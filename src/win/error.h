@@ -3,23 +3,23 @@
 
 #include <exception>
 #include <string>
+#include <utility>
 
 #include "win/windows.h"
 
 namespace win {
 
-// Something of our own that went wrong, told in a fixed text.
+// Something of our own that went wrong.
 class Failure : public std::exception {
  public:
-    explicit Failure(const char* what) : what_(what) {}
-    const char* what() const noexcept override { return what_; }
+    explicit Failure(std::string what) : what_(std::move(what)) {}
+    const char* what() const noexcept override { return what_.c_str(); }
 
  private:
-    const char* what_;
+    std::string what_;
 };
 
-// A failed system call. what() is the system's own text for the code, without its line break, in the ANSI
-// code page.
+// A failed system call. what() is the system's own text for the code, without its line break.
 class Error : public std::exception {
  public:
     explicit Error(DWORD code);

@@ -2,6 +2,7 @@
 
 #include "forms/InputBox.h"
 #include "win/dialog.h"
+#include "win/window.h"
 
 namespace win {
 namespace {
@@ -15,9 +16,9 @@ class InputBox : public Dialog {
 
  private:
     bool onInit() override {
-        ::SetWindowTextA(hwnd(), title_.c_str());
+        ShowText(hwnd(), title_);
         setItemText(lblPrompt, prompt_);
-        if (kind_ == Reply::masked) ::SendMessageA(item(txtReply), EM_SETPASSWORDCHAR, '*', 0);
+        if (kind_ == Reply::masked) ::SendMessageW(item(txtReply), EM_SETPASSWORDCHAR, '*', 0);
         focusItem(txtReply);
         return false;
     }

@@ -1,12 +1,21 @@
 // Functions of DLLs that most runs of the program never need.
 #pragma once
 
+#include <string>
+
 #include "win/windows.h"
 
 namespace win {
 
-// Loads a DLL of the system's, which then stays, and never one of that name beside the program: in a folder
-// of downloads it could be anybody's. Throws win::Error.
+// From now on the program's own folder and the current one are not searched for a DLL, as far as the system
+// lets that be said: in a folder of downloads one could be anybody's.
+void SearchSystemDllsOnly();
+
+// Without a backslash at its end.
+std::wstring SystemFolder();
+
+// Loads a DLL of the system's, which then stays, and never one of that name beside the program. Throws
+// win::Error.
 HMODULE LoadSystemDll(const char* dll);
 
 // The function itself.

@@ -3,12 +3,15 @@
 
 #include "win/late.h"
 
+#include <shlobj.h>
+
 namespace win {
 
 inline constexpr char kShellDll[] = "shell32.dll";
-inline constexpr Late<decltype(&::DragQueryFileA)> kDragQueryFile{kShellDll, "DragQueryFileA"};
-inline constexpr Late<decltype(&::FindExecutableA)> kFindExecutable{kShellDll, "FindExecutableA"};
-inline constexpr Late<decltype(&::SHFileOperationA)> kFileOperation{kShellDll, "SHFileOperationA"};
-inline constexpr Late<decltype(&::ShellExecuteA)> kShellExecute{kShellDll, "ShellExecuteA"};
+inline constexpr Late<decltype(&::DragQueryFileW)> kDragQueryFile{kShellDll, "DragQueryFileW"};
+inline constexpr Late<decltype(&::SHGetFolderPathW)> kFolderPath{kShellDll, "SHGetFolderPathW"};
+inline constexpr Late<decltype(&::FindExecutableW)> kFindExecutable{kShellDll, "FindExecutableW"};
+inline constexpr Late<decltype(&::SHFileOperationW)> kFileOperation{kShellDll, "SHFileOperationW"};
+inline constexpr Late<decltype(&::ShellExecuteW)> kShellExecute{kShellDll, "ShellExecuteW"};
 
 }  // namespace win

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "win/error.h"
+#include "win/unicode.h"
 
 namespace win {
 namespace {
@@ -105,15 +106,15 @@ int MenuBar::position(const Entry& entry) const {
 }
 
 void MenuBar::insert(const Entry& entry) {
-    const std::string text = MenuText(entry.caption, entry.row->shortcut);
-    MENUITEMINFOA info{};
+    std::wstring text = ToWide(MenuText(entry.caption, entry.row->shortcut));
+    MENUITEMINFOW info{};
     info.cbSize = sizeof info;
     info.fMask = MIIM_ID | MIIM_FTYPE | MIIM_STRING | MIIM_STATE | MIIM_CHECKMARKS;
     info.fState = (isEnabled(entry) ? MFS_ENABLED : MFS_GRAYED) | (entry.checked ? MFS_CHECKED : 0U);
     info.hbmpChecked = entry.picture;
     info.hbmpUnchecked = entry.picture;
     info.wID = entry.row->id;
-    info.dwTypeData = const_cast<char*>(text.c_str());
+    info.dwTypeData = text.data();
     if (IsSeparator(*entry.row)) {
         info.fMask = MIIM_ID | MIIM_FTYPE;
         info.fType = MFT_SEPARATOR;
@@ -122,7 +123,7 @@ void MenuBar::insert(const Entry& entry) {
         info.fMask |= MIIM_SUBMENU;
         info.hSubMenu = entry.popup;
     }
-    ::InsertMenuItemA(entry.parent, static_cast<UINT>(position(entry)), TRUE, &info);
+    ::InsertMenuItemW(entry.parent, static_cast<UINT>(position(entry)), TRUE, &info);
 }
 
 bool MenuBar::isEnabled(const Entry& entry) const {
@@ -196,7 +197,8 @@ void MenuBar::setList(std::uint16_t popupId, std::uint16_t firstId, const std::v
     while (::RemoveMenu(list, 0, MF_BYPOSITION)) continue;
     for (std::size_t i = 0; i < captions.size(); ++i) {
         const UINT state = static_cast<int>(i) == checked ? MF_CHECKED : MF_UNCHECKED;
-        ::AppendMenuA(list, static_cast<UINT>(MF_STRING) | state, firstId + i, Escaped(captions[i]).c_str());
+        ::AppendMenuW(list, static_cast<UINT>(MF_STRING) | state, firstId + i,
+                      ToWide(Escaped(captions[i])).c_str());
     }
 }
 

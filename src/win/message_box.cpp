@@ -1,10 +1,25 @@
 #include "win/message_box.h"
 
-namespace win {
+#include "win/disabled.h"
+#include "win/unicode.h"
 
-int ShowMessage(HWND owner, const std::string& text, const char* title, UINT style) {
+namespace win {
+namespace {
+
+// A window that a dialog keeps waiting cannot have a box of its own: it would be disabled when the box goes,
+// and another program would come to the front.
+HWND OwnerOfBox(HWND owner) {
     const HWND top = owner ? ::GetAncestor(owner, GA_ROOT) : nullptr;
-    return ::MessageBoxA(top, text.c_str(), title, style);
+    const HWND popup = top && !::IsWindowEnabled(top) ? ::GetLastActivePopup(top) : nullptr;
+    return popup && ::IsWindowEnabled(popup) ? popup : top;
+}
+
+}  // namespace
+
+int ShowMessage(HWND owner, std::string_view text, std::string_view title, UINT style) {
+    const HWND top = OwnerOfBox(owner);
+    const Disabled others(top);
+    return ::MessageBoxW(top, ToWide(text).c_str(), ToWide(title).c_str(), style);
 }
 
 }  // namespace win

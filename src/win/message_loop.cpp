@@ -1,5 +1,8 @@
 #include "win/message_loop.h"
 
+#include "win/dialog.h"
+#include "win/window.h"
+
 namespace win {
 namespace {
 
@@ -8,28 +11,32 @@ bool IsInput(UINT message) {
            (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST);
 }
 
-void Handle(MSG& message) {
+// The top-level window of a key or of the mouse comes first: accelerators and the keys of dialogs are its.
+bool PreTranslate(MSG& message) {
     const HWND top = IsInput(message.message) ? ::GetAncestor(message.hwnd, GA_ROOT) : nullptr;
-    // A window that its own key has closed cannot answer any more.
-    const bool done =
-        top &&
-        (::SendMessageA(top, kPreTranslate, 0, reinterpret_cast<LPARAM>(&message)) != 0 || !::IsWindow(top));
-    if (done) return;
+    if (!top) return false;
+    if (Dialog::isDialog(top)) return ::IsDialogMessageW(top, &message) != FALSE;
+    Window* window = Window::of(top);
+    return window && window->preTranslate(message);
+}
+
+void Handle(MSG& message) {
+    if (PreTranslate(message)) return;
     ::TranslateMessage(&message);
-    ::DispatchMessageA(&message);
+    ::DispatchMessageW(&message);
 }
 
 }  // namespace
 
 int RunMessageLoop() {
     MSG message{};
-    while (::GetMessageA(&message, nullptr, 0, 0) > 0) Handle(message);
+    while (::GetMessageW(&message, nullptr, 0, 0) > 0) Handle(message);
     return static_cast<int>(message.wParam);
 }
 
 bool RunPending() {
     MSG message{};
-    while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
         if (message.message == WM_QUIT) {
             ::PostQuitMessage(static_cast<int>(message.wParam));
             return false;

@@ -5,10 +5,6 @@
 
 namespace win {
 
-// Sent to the top-level window of a key or mouse message before it is translated: lParam points to the MSG, a
-// result other than 0 says that the window has dealt with it (accelerators, dialog keys).
-inline constexpr UINT kPreTranslate = WM_APP + 0x100;
-
 // Runs until WM_QUIT and returns its exit code.
 int RunMessageLoop();
 
@@ -19,7 +15,7 @@ bool RunPending();
 // The hourglass, until the scope ends.
 class WaitCursor {
  public:
-    WaitCursor() : old_(::SetCursor(::LoadCursorA(nullptr, IDC_WAIT))) {}
+    WaitCursor() : old_(::SetCursor(::LoadCursorW(nullptr, IDC_WAIT))) {}
     ~WaitCursor() { ::SetCursor(old_); }
     WaitCursor(const WaitCursor&) = delete;
     WaitCursor& operator=(const WaitCursor&) = delete;

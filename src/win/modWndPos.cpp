@@ -10,7 +10,7 @@ namespace {
 RECT WorkArea(HMONITOR monitor) {
     MONITORINFO info{};
     info.cbSize = sizeof info;
-    if (::GetMonitorInfoA(monitor, &info)) return info.rcWork;
+    if (::GetMonitorInfoW(monitor, &info)) return info.rcWork;
     return {0, 0, ::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN)};
 }
 
@@ -25,12 +25,12 @@ RECT Inside(RECT rect, const RECT& area) {
 BOOL CALLBACK KeepOnScreen(HWND window, LPARAM) {
     // A maximised window is fitted by the system; a minimised one is when it comes back.
     if (!::IsWindowVisible(window) || ::IsIconic(window) || ::IsZoomed(window)) return TRUE;
-    if ((::GetWindowLongPtrA(window, GWL_STYLE) & WS_CAPTION) != WS_CAPTION) return TRUE;
+    if ((::GetWindowLongPtrW(window, GWL_STYLE) & WS_CAPTION) != WS_CAPTION) return TRUE;
     RECT rect{};
     ::GetWindowRect(window, &rect);
     const RECT area = WorkArea(::MonitorFromRect(&rect, MONITOR_DEFAULTTONEAREST));
     RECT moved = Inside(rect, area);
-    if (::GetWindowLongPtrA(window, GWL_STYLE) & WS_THICKFRAME) {
+    if (::GetWindowLongPtrW(window, GWL_STYLE) & WS_THICKFRAME) {
         moved.right = std::min(moved.right, area.right);
         moved.bottom = std::min(moved.bottom, area.bottom);
     }

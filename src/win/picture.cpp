@@ -1,18 +1,26 @@
 #include "win/picture.h"
 
 #include <algorithm>
-#include <vector>
+#include <span>
 
+#include "win/error.h"
+#include "win/unicode.h"
 #include "win/units.h"
 
 namespace win {
 namespace {
 
-constexpr int kGap = 4;     // pixels of a 96-dpi screen
 constexpr int kSmall = 16;  // the only size whose icons are bitmaps; Windows XP cannot read the others' PNG
+constexpr int kGap = 4;     // pixels of a 96-dpi screen
 
+UniqueIcon Load(const char* name, int width, int height) {
+    return UniqueIcon(static_cast<HICON>(::LoadImageW(::GetModuleHandleW(nullptr), ToWide(name).c_str(),
+                                                      IMAGE_ICON, width, height, LR_DEFAULTCOLOR)));
+}
+
+// 32 bits each. None where the memory is short.
 struct Pixels {
-    Pixels(int width, int height) {
+    Pixels(int columns, int rows) : width(columns), height(rows) {
         BITMAPINFO info{};
         info.bmiHeader.biSize = sizeof info.bmiHeader;
         info.bmiHeader.biWidth = width;
@@ -21,112 +29,114 @@ struct Pixels {
         info.bmiHeader.biBitCount = 32;
         void* bits = nullptr;
         bitmap.reset(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-        if (bitmap) first = static_cast<RGBQUAD*>(bits);
+        if (bitmap) all = {static_cast<RGBQUAD*>(bits), static_cast<std::size_t>(width * height)};
     }
 
     UniqueBitmap bitmap;
-    RGBQUAD* first = nullptr;
+    std::span<RGBQUAD> all;
+    int width;
+    int height;
 };
 
-// The icon on black or on white.
-Pixels DrawnOn(DWORD ground, HICON icon, int size) {
-    Pixels pixels(size, size);
-    if (!pixels.first) return pixels;
+// The pictures side by side on black or on white.
+Pixels DrawnOn(DWORD ground, const std::vector<UniqueIcon>& icons) {
+    const int size = PictureSize();
+    Pixels pixels(size * static_cast<int>(icons.size()), size);
     const UniqueDc memory(::CreateCompatibleDC(nullptr));
     const HGDIOBJ old = ::SelectObject(memory.get(), pixels.bitmap.get());
-    ::PatBlt(memory.get(), 0, 0, size, size, ground);
-    ::DrawIconEx(memory.get(), 0, 0, icon, size, size, 0, nullptr, DI_NORMAL);
+    ::PatBlt(memory.get(), 0, 0, pixels.width, pixels.height, ground);
+    int left = 0;
+    for (const UniqueIcon& icon : icons) {
+        ::DrawIconEx(memory.get(), left, 0, icon.get(), size, size, 0, nullptr, DI_NORMAL);
+        left += size;
+    }
     ::GdiFlush();
     ::SelectObject(memory.get(), old);
     return pixels;
 }
 
-// Grey, and half gone into the ground below.
-void Disable(RGBQUAD& pixel) {
-    const int grey = (30 * pixel.rgbRed + 59 * pixel.rgbGreen + 11 * pixel.rgbBlue) / 200;
-    pixel.rgbRed = pixel.rgbGreen = pixel.rgbBlue = static_cast<BYTE>(grey);
-    pixel.rgbReserved = static_cast<BYTE>(pixel.rgbReserved / 2);
-}
-
-UniqueIcon Load(const char* name, int width, int height) {
-    return UniqueIcon(static_cast<HICON>(
-        ::LoadImageA(::GetModuleHandleA(nullptr), name, IMAGE_ICON, width, height, LR_DEFAULTCOLOR)));
-}
-
-// An icon of the resources, its colours multiplied by their alpha; in a smaller `size` where the system
-// cannot read this one, and empty where it cannot read any.
-Pixels Blended(const char* name, int& size) {
-    UniqueIcon icon = Load(name, size, size);
-    if (!icon) {
-        size = kSmall;
-        icon = Load(name, size, size);
-    }
-    if (!icon) return {0, 0};
+// The pictures side by side, their colours multiplied by their alpha.
+Pixels Blended(const std::vector<const char*>& names) {
+    std::vector<UniqueIcon> icons;
+    for (const char* name : names) icons.push_back(Picture(name));
     // On black an icon shows its colours times their alpha, and how much lighter it gets on white is what
     // its alpha lacks. So any icon will do, whatever the depth of the screen has made of it.
-    Pixels black = DrawnOn(BLACKNESS, icon.get(), size);
-    const Pixels white = DrawnOn(WHITENESS, icon.get(), size);
-    if (!black.first || !white.first) return {0, 0};
-    for (int i = 0; i < size * size; ++i) {
-        RGBQUAD& pixel = black.first[i];
-        pixel.rgbReserved = static_cast<BYTE>(255 - (white.first[i].rgbGreen - pixel.rgbGreen));
+    Pixels black = DrawnOn(BLACKNESS, icons);
+    Pixels white = DrawnOn(WHITENESS, icons);
+    if (white.all.empty()) return white;
+    for (std::size_t i = 0; i < black.all.size(); ++i) {
+        RGBQUAD& pixel = black.all[i];
+        pixel.rgbReserved = static_cast<BYTE>(255 - (white.all[i].rgbGreen - pixel.rgbGreen));
     }
     return black;
 }
 
-// The colour itself, as an icon wants it, where there is any.
-BYTE Divided(BYTE colour, BYTE alpha) {
-    return static_cast<BYTE>(std::min(255, colour * 255 / alpha));
+// The colours themselves, which is how image lists take them.
+void Divide(RGBQUAD& pixel) {
+    const int alpha = std::max<int>(pixel.rgbReserved, 1);
+    for (BYTE* colour : {&pixel.rgbRed, &pixel.rgbGreen, &pixel.rgbBlue})
+        *colour = static_cast<BYTE>(std::min(255, *colour * 255 / alpha));
+}
+
+// Grey, and half gone into the ground below.
+void Disable(RGBQUAD& pixel) {
+    const int grey = (30 * pixel.rgbRed + 59 * pixel.rgbGreen + 11 * pixel.rgbBlue) / 100;
+    pixel.rgbRed = pixel.rgbGreen = pixel.rgbBlue = static_cast<BYTE>(grey);
+    pixel.rgbReserved = static_cast<BYTE>(pixel.rgbReserved / 2);
+}
+
+// All at once: to add an icon to an image list takes several times as long as to load and draw it.
+UniqueImageList ListOf(const Pixels& pixels) {
+    const int size = PictureSize();
+    UniqueImageList list(Check(::ImageList_Create(size, size, ILC_COLOR32, pixels.width / size, 0)));
+    if (::ImageList_Add(list.get(), pixels.bitmap.get(), nullptr) < 0)
+        ::ImageList_SetImageCount(list.get(), static_cast<UINT>(pixels.width / size));
+    return list;
 }
 
 }  // namespace
 
 int PictureSize() {
-    const int room = Scaled(kSmall);
-    return room >= 32 ? 32 : room >= 24 ? 24 : kSmall;
+    static const int known = [] {
+        const int room = Scaled(kSmall);
+        const int size = room >= 32 ? 32 : room >= 24 ? 24 : kSmall;
+        return Load("new", size, size) ? size : kSmall;
+    }();
+    return known;
 }
 
-Picture::Picture(const char* name, int size, Look look) : size_(size) {
-    Pixels pixels = Blended(name, size_);
-    if (!pixels.first) return;
-    if (look == Look::disabled) std::for_each(pixels.first, pixels.first + size_ * size_, Disable);
-    bitmap_ = std::move(pixels.bitmap);
+UniqueIcon Picture(const char* name) {
+    return Load(name, PictureSize(), PictureSize());
 }
 
-void Picture::draw(HDC dc, int left, int top) const {
-    if (!bitmap_) return;
-    const UniqueDc memory(::CreateCompatibleDC(dc));
-    const HGDIOBJ old = ::SelectObject(memory.get(), bitmap_.get());
-    const BLENDFUNCTION blend{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
-    ::GdiAlphaBlend(dc, left, top, size_, size_, memory.get(), 0, 0, size_, size_, blend);
-    ::SelectObject(memory.get(), old);
+UniqueBitmap PictureBitmap(const char* name) {
+    return std::move(Blended({name}).bitmap);
 }
 
 UniqueIcon SmallIcon(const char* name) {
     return Load(name, ::GetSystemMetrics(SM_CXSMICON), ::GetSystemMetrics(SM_CYSMICON));
 }
 
-UniqueIcon IconBeforeText(const char* name) {
-    int size = PictureSize();
-    const Pixels picture = Blended(name, size);
-    const int width = size + Scaled(kGap);
-    const Pixels wide(width, size);
-    if (!picture.first || !wide.first) return {};
-    const int maskRow = (width + 15) / 16 * 2;  // bytes
-    std::vector<BYTE> mask(static_cast<std::size_t>(maskRow * size), BYTE{0xFF});
-    for (int i = 0; i < size * size; ++i) {
-        const RGBQUAD& from = picture.first[i];
-        const BYTE alpha = from.rgbReserved;
-        if (alpha == 0) continue;
-        const int x = i % size;
-        const int y = i / size;
-        wide.first[y * width + x] = {Divided(from.rgbBlue, alpha), Divided(from.rgbGreen, alpha),
-                                     Divided(from.rgbRed, alpha), alpha};
-        mask[static_cast<std::size_t>(y * maskRow + x / 8)] &= static_cast<BYTE>(~(0x80 >> x % 8));
+PictureLists::PictureLists(const std::vector<const char*>& names) {
+    const Pixels pixels = Blended(names);
+    std::ranges::for_each(pixels.all, Divide);
+    normal = ListOf(pixels);
+    std::ranges::for_each(pixels.all, Disable);
+    disabled = ListOf(pixels);
+}
+
+UniqueImageList ShowPicture(HWND button, const char* name) {
+    // A button's states in their order: normal, hot, pressed, disabled, default, under a pen.
+    const Pixels states = Blended(std::vector<const char*>(6, name));
+    std::ranges::for_each(states.all, Divide);
+    const int size = PictureSize();
+    for (std::size_t i = 0; i < states.all.size(); ++i) {
+        if (static_cast<int>(i) % states.width / size == 3) Disable(states.all[i]);
     }
-    const UniqueBitmap transparent(::CreateBitmap(width, size, 1, 1, mask.data()));
-    ICONINFO info{TRUE, 0, 0, transparent.get(), wide.bitmap.get()};
-    return UniqueIcon(::CreateIconIndirect(&info));
+    UniqueImageList list = ListOf(states);
+    BUTTON_IMAGELIST images{list.get(), {Scaled(kGap), 0, Scaled(kGap), 0}, BUTTON_IMAGELIST_ALIGN_LEFT};
+    ::SendMessageW(button, BCM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(&images));
+    return list;
 }
 
 }  // namespace win

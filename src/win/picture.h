@@ -1,38 +1,34 @@
-// The pictures of buttons and menu items.
+// The pictures of buttons, menu items and captions: icons of the resources.
 #pragma once
+
+#include <vector>
 
 #include "win/unique.h"
 
 namespace win {
 
-// 16, 24 or 32 pixels: the largest size drawn for pictures that the system's DPI has room for.
+using UniqueImageList = Unique<HIMAGELIST, ::ImageList_Destroy>;
+
+// 16, 24 or 32 pixels: the largest size drawn for pictures that the system's DPI has room for and the system
+// can read.
 int PictureSize();
 
-// An icon of the resources as a bitmap with its transparency.
-class Picture {
- public:
-    enum class Look { normal, disabled };
-
-    // `name` is the resource's. Where the system cannot read a size, the picture is smaller; empty where it
-    // cannot read any.
-    Picture(const char* name, int size, Look look = Look::normal);
-
-    int size() const { return size_; }  // pixels, width and height alike
-    // 32 bits a pixel, the colours multiplied by their alpha.
-    UniqueBitmap release() { return std::move(bitmap_); }
-    void draw(HDC dc, int left, int top) const;
-
- private:
-    int size_ = 0;
-    UniqueBitmap bitmap_;
-};
-
-// An icon of the resources for the caption of a window. Not a shared one: those keep the size at which they
-// were asked for first. Null where it cannot be had.
+// Of that size. Null where it cannot be had.
+UniqueIcon Picture(const char* name);
+// The same as a bitmap with 32 bits a pixel, its colours multiplied by their alpha.
+UniqueBitmap PictureBitmap(const char* name);
+// For the caption of a window. Not a shared icon: those keep the size at which they were asked for first.
 UniqueIcon SmallIcon(const char* name);
 
-// An icon of the resources with a gap at its right, for a button that draws its text right behind it. Null
-// where it cannot be had.
-UniqueIcon IconBeforeText(const char* name);
+// Pictures in their order, and the same as they look while what they stand for is disabled. One that cannot
+// be had is left empty.
+struct PictureLists {
+    explicit PictureLists(const std::vector<const char*>& names);
+    UniqueImageList normal;
+    UniqueImageList disabled;
+};
+
+// Puts a picture before the text of a push button, which shows it for as long as the list lives.
+UniqueImageList ShowPicture(HWND button, const char* name);
 
 }  // namespace win

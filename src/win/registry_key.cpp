@@ -1,84 +1,104 @@
 #include "win/registry_key.h"
 
+#include "win/unicode.h"
+
 namespace win {
 namespace {
 
-void DropTerminator(std::string& bytes) {
-    if (!bytes.empty() && bytes.back() == '\0') bytes.pop_back();
+// A value's name; null for the unnamed one.
+class ValueName {
+ public:
+    explicit ValueName(const char* name) : named_(name != nullptr), name_(ToWide(named_ ? name : "")) {}
+    const wchar_t* get() const { return named_ ? name_.c_str() : nullptr; }
+
+ private:
+    bool named_;
+    std::wstring name_;
+};
+
+// A value is stored with the NUL that ends it, which is no part of it.
+std::string TextOf(std::wstring_view stored) {
+    if (stored.ends_with(L'\0')) stored.remove_suffix(1);
+    return ToUtf8(stored);
 }
 
-const BYTE* Bytes(const std::string& text) {
-    return reinterpret_cast<const BYTE*>(text.c_str());
+DWORD ByteCount(const std::wstring& text) {
+    return static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
 }
 
 }  // namespace
 
 RegistryKey RegistryKey::open(const std::string& path) {
     HKEY key = nullptr;
-    ::RegOpenKeyExA(HKEY_CURRENT_USER, path.c_str(), 0, KEY_ALL_ACCESS, &key);
+    ::RegOpenKeyExW(HKEY_CURRENT_USER, ToWide(path).c_str(), 0, KEY_ALL_ACCESS, &key);
     return RegistryKey(key);
 }
 
 RegistryKey RegistryKey::create(const std::string& path) {
     HKEY key = nullptr;
-    ::RegCreateKeyExA(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key, nullptr);
+    ::RegCreateKeyExW(HKEY_CURRENT_USER, ToWide(path).c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key,
+                      nullptr);
     return RegistryKey(key);
 }
 
 std::optional<std::string> RegistryKey::read(const char* name) const {
     if (!key_) return std::nullopt;
+    const ValueName value(name);
     DWORD size = 0;
-    if (::RegQueryValueExA(key_.get(), name, nullptr, nullptr, nullptr, &size) != ERROR_SUCCESS) {
+    if (::RegQueryValueExW(key_.get(), value.get(), nullptr, nullptr, nullptr, &size) != ERROR_SUCCESS) {
         return std::nullopt;
     }
-    std::string bytes(size, '\0');
-    auto* data = reinterpret_cast<BYTE*>(bytes.data());
-    if (::RegQueryValueExA(key_.get(), name, nullptr, nullptr, data, &size) != ERROR_SUCCESS) {
+    std::wstring text((size + 1) / sizeof(wchar_t), L'\0');
+    auto* data = reinterpret_cast<BYTE*>(text.data());
+    if (::RegQueryValueExW(key_.get(), value.get(), nullptr, nullptr, data, &size) != ERROR_SUCCESS) {
         return std::nullopt;
     }
-    bytes.resize(size);
-    DropTerminator(bytes);
-    return bytes;
+    text.resize(size / sizeof(wchar_t));
+    return TextOf(text);
 }
 
-bool RegistryKey::write(const char* name, const std::string& bytes) const {
-    const auto size = static_cast<DWORD>(bytes.size() + 1);
-    return key_ && ::RegSetValueExA(key_.get(), name, 0, REG_SZ, Bytes(bytes), size) == ERROR_SUCCESS;
+bool RegistryKey::write(const char* name, std::string_view text) const {
+    const std::wstring wide = ToWide(text);
+    return key_ &&
+           ::RegSetValueExW(key_.get(), ValueName(name).get(), 0, REG_SZ,
+                            reinterpret_cast<const BYTE*>(wide.c_str()), ByteCount(wide)) == ERROR_SUCCESS;
 }
 
 bool RegistryKey::writeNothing(const char* name) const {
-    return key_ && ::RegSetValueExA(key_.get(), name, 0, REG_SZ, Bytes(""), 0) == ERROR_SUCCESS;
+    const BYTE none{};
+    return key_ && ::RegSetValueExW(key_.get(), ValueName(name).get(), 0, REG_SZ, &none, 0) == ERROR_SUCCESS;
 }
 
 bool RegistryKey::remove(const char* name) const {
-    return key_ && ::RegDeleteValueA(key_.get(), name) == ERROR_SUCCESS;
+    return key_ && ::RegDeleteValueW(key_.get(), ValueName(name).get()) == ERROR_SUCCESS;
 }
 
 bool RegistryKey::removeSubkey(const std::string& name) const {
-    return key_ && ::RegDeleteKeyA(key_.get(), name.c_str()) == ERROR_SUCCESS;
+    return key_ && ::RegDeleteKeyW(key_.get(), ToWide(name).c_str()) == ERROR_SUCCESS;
 }
 
 std::vector<std::pair<std::string, std::string>> RegistryKey::values() const {
     std::vector<std::pair<std::string, std::string>> rows;
-    DWORD longestName = 0;
-    DWORD longestValue = 0;
-    if (!key_ || ::RegQueryInfoKeyA(key_.get(), nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+    DWORD longestName = 0;   // in UTF-16 units
+    DWORD longestValue = 0;  // in bytes
+    if (!key_ || ::RegQueryInfoKeyW(key_.get(), nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
                                     &longestName, &longestValue, nullptr, nullptr) != ERROR_SUCCESS) {
         return rows;
     }
-    // The lengths are counted in UTF-16 units, of which a byte of the code page may need fewer or more.
-    std::string name(longestName * 2 + 1, '\0');
-    std::string value(longestValue * 2 + 2, '\0');
+    std::wstring name(longestName + 1, L'\0');
+    std::wstring value(longestValue / sizeof(wchar_t) + 1, L'\0');
+    // A value that cannot be read, one that has grown meanwhile for example, is passed over; other errors end
+    // the list.
     for (DWORD index = 0;; ++index) {
         auto nameSize = static_cast<DWORD>(name.size());
-        auto valueSize = static_cast<DWORD>(value.size());
-        const LONG result = ::RegEnumValueA(key_.get(), index, name.data(), &nameSize, nullptr, nullptr,
+        auto valueSize = static_cast<DWORD>(value.size() * sizeof(wchar_t));
+        const LONG result = ::RegEnumValueW(key_.get(), index, name.data(), &nameSize, nullptr, nullptr,
                                             reinterpret_cast<BYTE*>(value.data()), &valueSize);
-        if (result == ERROR_NO_MORE_ITEMS) return rows;
-        if (result != ERROR_SUCCESS || nameSize == 0) continue;
-        std::string bytes = value.substr(0, valueSize);
-        DropTerminator(bytes);
-        rows.emplace_back(name.substr(0, nameSize), std::move(bytes));
+        if (result == ERROR_MORE_DATA) continue;
+        if (result != ERROR_SUCCESS) return rows;
+        if (nameSize == 0) continue;
+        rows.emplace_back(ToUtf8({name.data(), nameSize}),
+                          TextOf({value.data(), valueSize / sizeof(wchar_t)}));
     }
 }
 

@@ -1,8 +1,9 @@
-// String values of a registry key, as bytes of known length.
+// String values of a registry key.
 #pragma once
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -22,9 +23,9 @@ class RegistryKey {
     // `name` is null for the key's unnamed value. The terminating NUL is not part of the result, any other
     // NUL is. Nothing when there is no such value.
     std::optional<std::string> read(const char* name) const;
-    // Stores the bytes and a terminating NUL, so that bytes that end in NUL come back whole.
-    bool write(const char* name, const std::string& bytes) const;
-    // Stores no byte at all, not even a terminator.
+    // Stores the text and a terminating NUL, so that a text that ends in NUL comes back whole.
+    bool write(const char* name, std::string_view text) const;
+    // Stores nothing at all, not even a terminator.
     bool writeNothing(const char* name) const;
     bool remove(const char* name) const;
     bool removeSubkey(const std::string& name) const;

@@ -3,10 +3,15 @@
 namespace win {
 
 bool IsHighContrast() {
-    HIGHCONTRASTA setting{};
+    HIGHCONTRASTW setting{};
     setting.cbSize = sizeof setting;
-    return ::SystemParametersInfoA(SPI_GETHIGHCONTRAST, sizeof setting, &setting, 0) &&
+    return ::SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof setting, &setting, 0) &&
            (setting.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
+void PassToControls(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    for (HWND control = ::GetWindow(window, GW_CHILD); control; control = ::GetWindow(control, GW_HWNDNEXT))
+        ::SendMessageW(control, message, wParam, lParam);
 }
 
 }  // namespace win

@@ -8,4 +8,8 @@ namespace win {
 // The user needs strong contrast: only the system's own colours are shown.
 bool IsHighContrast();
 
+// Passes WM_SYSCOLORCHANGE and WM_SETTINGCHANGE, which the system sends to main windows only, on to the
+// controls in a window.
+void PassToControls(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
 }  // namespace win

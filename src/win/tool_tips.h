@@ -1,6 +1,8 @@
 // The system's tool tips for the controls of a form.
 #pragma once
 
+#include <string>
+
 #include "win/windows.h"
 
 namespace win {
@@ -9,9 +11,8 @@ class ToolTips {
  public:
     // `form` owns the tips' window, which goes with it.
     void create(HWND form);
-    bool exist() const { return tips_ != nullptr; }
     // Shown over the control, also while it is disabled.
-    void add(HWND control, const char* text) const;
+    void add(HWND control, const std::string& text) const;
 
  private:
     HWND form_ = nullptr;

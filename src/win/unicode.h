@@ -1,13 +1,22 @@
-// Text between the system's ANSI code page, in which the program holds it, and UTF-16.
+// The program's UTF-8 at the edge of the system, whose calls take UTF-16.
 #pragma once
 
 #include <string>
 #include <string_view>
 
+#include "win/core/utf.h"
+
 namespace win {
 
-std::wstring ToWide(std::string_view text);
-// What the code page lacks becomes the system's nearest character or a question mark.
-std::string ToAnsi(std::wstring_view wide);
+std::wstring ToWide(std::string_view utf8);
+std::string ToUtf8(std::wstring_view wide);
+
+// The same units: on Windows wchar_t has 16 bits.
+inline std::wstring_view AsWide(std::u16string_view text) {
+    return {reinterpret_cast<const wchar_t*>(text.data()), text.size()};
+}
+inline std::u16string_view AsUtf16(std::wstring_view text) {
+    return {reinterpret_cast<const char16_t*>(text.data()), text.size()};
+}
 
 }  // namespace win

@@ -28,7 +28,7 @@ std::wstring WidePath(const std::string& path) {
 }
 
 std::string FullPath(const std::string& path) {
-    return path.empty() ? path : ToAnsi(FullWidePath(ToWide(path)));
+    return path.empty() ? path : ToUtf8(FullWidePath(ToWide(path)));
 }
 
 }  // namespace win

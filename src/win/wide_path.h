@@ -5,7 +5,7 @@
 
 namespace win {
 
-// The path, given in the ANSI code page, made absolute and in UTF-16; one that is too long for the ordinary
+// The path made absolute and in UTF-16; one that is too long for the ordinary
 // file calls (259 characters) gets the prefix \\?\ that lifts the limit. Empty for an empty path.
 std::wstring WidePath(const std::string& path);
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "win/windows.h"
 
@@ -19,6 +20,12 @@ class Window {
     std::string text() const;
     void setText(const std::string& text);
 
+    // The object of a window of ours; null for any other.
+    static Window* of(HWND window);
+    // Shows the window a key or mouse message of its own or of a window in it before that is translated. True
+    // when it has dealt with it, as with an accelerator.
+    bool preTranslate(MSG& message);
+
  protected:
     struct Place {
         int left = CW_USEDEFAULT;  // pixels
@@ -30,28 +37,42 @@ class Window {
     Window() = default;
     virtual ~Window() = default;
 
-    // Registers the class on first use. `cls.lpszClassName` names it; its procedure is set here.
-    void create(WNDCLASSEXA cls, const std::string& text, DWORD style, DWORD exStyle, Place place,
+    // Registers the class on first use. `cls.lpszClassName` names it; its procedure is set here. What is
+    // thrown while the window is made makes its creation fail: the object is gone then, and a win::Failure
+    // thrown.
+    void create(WNDCLASSEXW cls, const std::string& text, DWORD style, DWORD exStyle, Place place,
                 HWND parent);
     // The same for a child of an MDI client.
-    void createMdiChild(WNDCLASSEXA cls, const std::string& text, DWORD style, HWND mdiClient);
+    void createMdiChild(WNDCLASSEXW cls, const std::string& text, DWORD style, HWND mdiClient);
 
     virtual LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) = 0;
-    // What the system does with a message: DefWindowProcA unless the window is a frame or an MDI child.
+    virtual bool onPreTranslate(MSG&) { return false; }
+    // What the system does with a message: DefWindowProcW unless the window is a frame or an MDI child.
     virtual LRESULT defaultHandling(UINT message, WPARAM wParam, LPARAM lParam);
 
  private:
+    struct Creation;
+
+    static void finish(const Creation& creation, HWND made);
     static LRESULT CALLBACK procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
     static Window* bind(HWND hwnd, UINT message, LPARAM lParam);
-    static void registerOnce(WNDCLASSEXA& cls);
+    static void registerOnce(WNDCLASSEXW& cls);
     LRESULT dispatch(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT fail(UINT message, const char* what);
+    void leave();
 
     HWND hwnd_ = nullptr;
-    int depth_ = 0;      // handlers of this object on the stack
-    bool dead_ = false;  // WM_NCDESTROY has passed
+    Creation* creation_ = nullptr;  // while the window is being made
+    int depth_ = 0;                 // handlers of this object on the stack
+    bool dead_ = false;             // WM_NCDESTROY has passed
 };
 
 // The text of any window of this process, of any length.
 std::string WindowText(HWND window);
+void ShowText(HWND window, std::string_view text);
+
+// A row of a list box or the list of a combo box; empty when there is no such row.
+std::string ListRow(HWND list, LRESULT row);
+void AddListRow(HWND list, std::string_view text);
 
 }  // namespace win

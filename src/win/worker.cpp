@@ -1,47 +1,56 @@
 #include "win/worker.h"
 
+#include <algorithm>
+#include <exception>
+#include <memory>
+#include <utility>
+
 #include "win/error.h"
 #include "win/message_loop.h"
+#include "win/unique.h"
 
 namespace win {
+namespace {
 
-Task::Task() : done_(Check(::CreateEventA(nullptr, TRUE, FALSE, nullptr))) {}
+// Shared by the thread that works and the one that waits, whichever of them ends first.
+struct Running {
+    std::function<void()> job;
+    UniqueHandle done{Check(::CreateEventW(nullptr, TRUE, FALSE, nullptr))};
+    std::exception_ptr thrown;
+};
 
-void Task::release() {
-    if (::InterlockedDecrement(&owners_) == 0) delete this;
-}
-
-DWORD WINAPI Task::perform(void* task) {
-    auto* self = static_cast<Task*>(task);
+DWORD WINAPI Perform(void* shared) {
+    const std::unique_ptr<std::shared_ptr<Running>> owner(static_cast<std::shared_ptr<Running>*>(shared));
+    Running& running = **owner;
     try {
-        self->run();
-        self->lastError_ = ::GetLastError();
-    } catch (const Error& error) {
-        self->thrown_ = error.code();
+        running.job();
     } catch (...) {
-        self->thrown_ = ERROR_NOT_ENOUGH_MEMORY;
+        running.thrown = std::current_exception();
     }
-    ::SetEvent(self->done_.get());
-    self->release();
+    running.job = nullptr;
+    ::SetEvent(running.done.get());
     return 0;
 }
 
-bool Worker::run(Task& task) {
-    ::InterlockedIncrement(&task.owners_);
-    if (!::QueueUserWorkItem(Task::perform, &task, WT_EXECUTELONGFUNCTION)) {
-        task.release();
-        ThrowLastError();
-    }
-    const bool done = await(task.done_.get());
-    if (done && task.thrown_) throw Error(task.thrown_);
-    ::SetLastError(done ? task.lastError_ : ERROR_CANCELLED);
-    return done;
+}  // namespace
+
+bool Worker::run(std::function<void()> job) {
+    if (givenUp_) return false;
+    const auto running = std::make_shared<Running>();
+    running->job = std::move(job);
+    auto owner = std::make_unique<std::shared_ptr<Running>>(running);
+    Check(::QueueUserWorkItem(Perform, owner.get(), WT_EXECUTELONGFUNCTION));
+    static_cast<void>(owner.release());
+    if (!await(running->done.get())) return false;
+    if (running->thrown) std::rethrow_exception(running->thrown);
+    return true;
 }
 
-void Worker::giveUp(DWORD patience) {
-    if (givenUp_) return;
+void Worker::giveUp(DWORD timeout) {
+    const DWORD now = ::GetTickCount();
+    // Whoever wants to wait shorter has it their way.
+    deadline_ = givenUp_ ? now + std::min(timeout, left()) : now + timeout;
     givenUp_ = true;
-    deadline_ = ::GetTickCount() + patience;
 }
 
 DWORD Worker::left() const {

@@ -1,42 +1,20 @@
 // Waiting for others without keeping the windows waiting.
 #pragma once
 
-#include "win/unique.h"
+#include <functional>
+
 #include "win/windows.h"
 
 namespace win {
 
-// Something to do on another thread. It owns all that it works with: when nobody waits for its end any more,
-// it goes on alone and deletes itself. Made with new, and given up by release().
-class Task {
- public:
-    Task(const Task&) = delete;
-    Task& operator=(const Task&) = delete;
-    void release();
-
- protected:
-    Task();
-    virtual ~Task() = default;
-
- private:
-    friend class Worker;
-    // On the other thread. What it throws comes through to the waiting thread as a win::Error.
-    virtual void run() = 0;
-    static DWORD WINAPI perform(void* task);
-
-    UniqueHandle done_;
-    LONG owners_ = 1;
-    DWORD lastError_ = ERROR_SUCCESS;
-    DWORD thrown_ = ERROR_SUCCESS;
-};
-
 class Worker {
  public:
-    // Has the task run on another thread and handles the messages of this one until it has: anything can
-    // happen meanwhile. GetLastError() is then the task's. False, with ERROR_CANCELLED, when it was given up.
-    bool run(Task& task);
-    // From then on run() waits for no longer than these milliseconds, the one that waits already too.
-    void giveUp(DWORD patience);
+    // Runs the job on another thread and handles the messages of this one until it has ended: anything can
+    // happen meanwhile. What the job throws is thrown here. False when the job was not waited for, or not
+    // even begun: it then goes on alone, so it owns, or shares, all that it works with.
+    bool run(std::function<void()> job);
+    // From then on jobs are not begun any more, and one that runs is waited for these milliseconds at most.
+    void giveUp(DWORD timeout);
     bool isGivenUp() const { return givenUp_; }
 
  private:

@@ -2,7 +2,7 @@
 #include <cstdio>
 #include <string>
 
-#include "authoring/core/modScripts.h"
+#include "authoring/tags/core/modScripts.h"
 
 int main(int count, char** words) {
     const std::string menu = modScripts::MakeDropMenu(count > 1 ? words[1] : "");

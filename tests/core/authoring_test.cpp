@@ -3,9 +3,8 @@
 #include <array>
 #include <set>
 
-#include "authoring/core/preview_path.h"
-#include "authoring/core/spell_text.h"
-#include "authoring/core/web_colors.h"
+#include "authoring/colours/core/web_colors.h"
+#include "authoring/preview/core/preview_path.h"
 
 namespace {
 
@@ -20,34 +19,22 @@ TEST(WebColors, EachColorOnceInItsBox) {
     EXPECT_EQ(texts.size(), 216U) << "a colour comes twice";
 }
 
-TEST(Preview, AnEditedPageIsShownFromACopyBesideItWhoseNameABrowserKnows) {
-    // The page's own file, and what is shown of it when it is edited and when it is not.
-    const std::array<const char*, 3> kPages[] = {
-        {"C:\\site\\index.htm", "C:\\site\\$$index.htm", "C:\\site\\index.htm"},
-        {"C:\\index.htm\\index.htm", "C:\\index.htm\\$$index.htm", "C:\\index.htm\\index.htm"},
-        {"C:/site/a.html", "C:/site/$$a.html", "C:/site/a.html"},
-        {"C:index.htm", "C:$$index.htm", "C:index.htm"},
-        {"C:\\my.site\\ab", "C:\\my.site\\$$ab.htm", "C:\\my.site\\ab.htm"},
-        {"C:\\a.xhtml", "C:\\$$a.xhtml.htm", "C:\\a.xhtml.htm"},
-        {"", "", ""}};
-    const auto nothing = [](const std::string&) { return false; };
-    for (const auto& [path, edited, unchanged] : kPages) {
-        EXPECT_EQ(authoring::PreviewFile(path, true, nothing), edited);
-        EXPECT_EQ(authoring::PreviewFile(path, false, nothing), unchanged);
+TEST(Preview, ACopyLiesBesideThePageUnderANameThatABrowserKnows) {
+    // The page's own file, what is shown of it when it is edited and when it is not, and where that is
+    // another's.
+    const std::array<const char*, 4> kPages[] = {
+        {"C:\\site\\index.htm", "C:\\site\\$$index.htm", "C:\\site\\$$index.htm", "C:\\site\\$$$index.htm"},
+        {"C:\\index.htm\\index.htm", "C:\\index.htm\\$$index.htm", "C:\\index.htm\\$$index.htm",
+         "C:\\index.htm\\$$$index.htm"},
+        {"C:/site/a.html", "C:/site/$$a.html", "C:/site/$$a.html", "C:/site/$$$a.html"},
+        {"C:index.htm", "C:$$index.htm", "C:$$index.htm", "C:$$$index.htm"},
+        {"C:\\my.site\\ab", "C:\\my.site\\$$ab.htm", "C:\\my.site\\ab.htm", "C:\\my.site\\$$ab.htm"},
+        {"C:\\a.xhtml", "C:\\$$a.xhtml.htm", "C:\\a.xhtml.htm", "C:\\$$a.xhtml.htm"}};
+    for (const auto& [path, edited, unedited, taken] : kPages) {
+        EXPECT_EQ(authoring::PreviewCopy(path, true, 0), edited);
+        EXPECT_EQ(authoring::PreviewCopy(path, false, 0), unedited);
+        EXPECT_EQ(authoring::PreviewCopy(path, false, 1), taken);
     }
-    const auto users = [](const std::string& file) { return file == "C:\\readme.htm"; };
-    EXPECT_EQ(authoring::PreviewFile("C:\\readme", false, users), "C:\\$$readme.htm");
-}
-
-TEST(Preview, InternetExplorerIsKnownByItsExactName) {
-    EXPECT_TRUE(authoring::IsInternetExplorer("C:\\Program Files\\Internet Explorer\\iexplore.exe"));
-    EXPECT_FALSE(authoring::IsInternetExplorer("C:\\Program Files\\Internet Explorer\\IEXPLORE.EXE"));
-}
-
-TEST(Spell, ParagraphMarksBecomeLineEndsAndTheLastOneGoes) {
-    EXPECT_EQ(authoring::TextFromWordProcessor("one\rtwo\r"), "one\r\ntwo");
-    EXPECT_EQ(authoring::TextFromWordProcessor("one\r\ntwo\r\n"), "one\r\ntwo");
-    for (const char* text : {"", "x", "\r", "\r\n"}) EXPECT_EQ(authoring::TextFromWordProcessor(text), "");
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "authoring/core/modScripts.h"
-#include "authoring/core/tag_fragments.h"
+#include "authoring/tags/core/modScripts.h"
+#include "authoring/tags/core/tag_fragments.h"
 #include "core/kept_files.h"
 
 namespace {

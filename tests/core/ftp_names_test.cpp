@@ -1,13 +1,14 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <utility>
 
-#include "ftp/core/local_name.h"
-#include "ftp/core/remote_listing.h"
-#include "ftp/core/remote_path.h"
-#include "ftp/core/scramble.h"
-#include "ftp/core/site_url.h"
-#include "ftp/core/transfer_type.h"
+#include "files/core/device_name.h"
+#include "ftp/core/password.h"
+#include "ftp/core/remote_names.h"
+#include "ftp/core/server_text.h"
+#include "ftp/core/site_list.h"
+#include "iconv_code_pages.h"
 
 namespace {
 
@@ -20,6 +21,29 @@ TEST(ScramblePassword, StartsAtTheSecondKeyCharacterAndGoesThroughCodesZero) {
     EXPECT_EQ(ftp::ScramblePassword(std::string(7, '\0')), "no847mn");
 }
 
+TEST(StoredPassword, KeepsEveryByteInEveryCodePage) {
+    std::string bytes;
+    for (int i = 0; i < 256; ++i) bytes += {static_cast<char>(i), static_cast<char>(i * 7)};
+    for (const unsigned codePage : {1252U, 1251U, 932U, 936U, document::kUtf8}) {
+        const IconvCodePages pages(codePage);
+        EXPECT_EQ(ftp::ReadPassword(ftp::StoredPassword(bytes, pages), pages), bytes) << codePage;
+    }
+    EXPECT_EQ(ftp::StoredPassword("\xE9", IconvCodePages(1252)), "\u2021") << "E9 xor 6E is 87";
+}
+
+TEST(ServerText, IsUtf8OrInTheCodePageAndSentOnlyAsItIs) {
+    const IconvCodePages western(1252);
+    EXPECT_EQ(ftp::ShownText("Ma\xC5\x82\x65.htm", western), "Małe.htm");
+    EXPECT_EQ(ftp::ShownText("caf\xE9.htm", western), "café.htm");
+    EXPECT_NE(ftp::ShownText("\x83", IconvCodePages(932)), "") << "no character, and yet to be seen";
+    EXPECT_EQ(ftp::SentName("café.htm", western), "caf\xE9.htm");
+    EXPECT_EQ(ftp::SentName("Małe.htm", western), std::nullopt);
+    EXPECT_EQ(ftp::SentName("Małe.htm", IconvCodePages(document::kUtf8)), "Małe.htm");
+    EXPECT_EQ(ftp::SentName("\xED\xB3\xA9.htm", western), std::nullopt) << "half a pair is not the byte E9";
+    EXPECT_EQ(ftp::SentName("a\r\nDELE b", western), std::nullopt);
+    EXPECT_EQ(ftp::SentText("hasło", western), "hasło");
+}
+
 TEST(SiteUrl, IsTakenApartForConnecting) {
     for (const auto& [stored, parts] : Texts{{"ftp.host.org///", "ftp.host.org|"},
                                              {" ftp.host.org/my pages/a/ ", "ftp.host.org|my pages/a"},
@@ -30,7 +54,6 @@ TEST(SiteUrl, IsTakenApartForConnecting) {
         EXPECT_EQ(site.host + "|" + site.path, parts);
     }
     EXPECT_EQ(ftp::StripScheme("a://b://c"), "b://c");
-    EXPECT_EQ(ftp::StripScheme("host.org:/x"), "host.org:/x");
     EXPECT_TRUE(ftp::LooksLikeUrl("host.org"));
     EXPECT_FALSE(ftp::LooksLikeUrl("localhost"));
 }
@@ -53,22 +76,33 @@ TEST(RemotePath, MoveUpLeadsToTheParentAndNeverAboveTheStart) {
 }
 
 TEST(RemoteListing, MarksDirectoriesAndLeavesOutWhatNoCommandCanName) {
-    ftp::RemoteListing listing;
+    const IconvCodePages pages;
+    ftp::RemoteListing listing(pages);
     for (const char* name : {".", "..", "", "a\r\nDELE b", "docs", "sub/"})
         EXPECT_TRUE(listing.add(name, 16));
     EXPECT_TRUE(listing.add("hidden", 16 | 2));
     EXPECT_TRUE(listing.add("..\\x", 0));
     EXPECT_TRUE(listing.add(std::string(10'000, 'x'), 0));
-    EXPECT_EQ(listing.lines(), (std::vector<std::string>{"docs/", "sub/", "hidden", "..\\x"}));
+    EXPECT_TRUE(listing.add("caf\xE9", 0));
+    EXPECT_TRUE(listing.add("café", 0));
+    std::string names;
+    std::string lines;
+    for (const ftp::RemoteFile& file : std::move(listing).files()) {
+        names += file.name + ",";
+        lines += file.line + ",";
+    }
+    EXPECT_EQ(names, "docs,sub,hidden,..\\x,caf\xE9,café,") << "two that read alike stay two";
+    EXPECT_EQ(lines, "docs/,sub/,hidden,..\\x,café,café,");
     EXPECT_TRUE(ftp::OpensOnDoubleClick("docs/"));
     EXPECT_FALSE(ftp::OpensOnDoubleClick("site.files/"));
 }
 
 TEST(RemoteListing, EndsEvenWhereTheServerDoesNot) {
-    ftp::RemoteListing listing;
+    const IconvCodePages pages;
+    ftp::RemoteListing listing(pages);
     std::size_t asked = 0;
     while (listing.add(asked % 2 == 0 ? "x" : ".", 0)) ASSERT_LE(++asked, ftp::kMaxListedEntries);
-    EXPECT_EQ(listing.lines().size(), ftp::kMaxListedEntries / 2);
+    EXPECT_EQ(std::move(listing).files().size(), ftp::kMaxListedEntries / 2);
 }
 
 TEST(TransferType, TheNameDecidesUnlessBinaryIsChosen) {
@@ -88,18 +122,30 @@ TEST(ProposedLocalName, StaysInTheDialogsFolderAndHoldsNothingThatWindowsForbids
                                              {"a<b>\"c|d?e*.htm\x01\x7F", "a_b__c_d_e_.htm__"},
                                              {"  page.htm . ", "page.htm"},
                                              {".htaccess", ".htaccess"},
-                                             {"caf\xE9.htm", "caf\xE9.htm"},
+                                             {"Małe.htm", "Małe.htm"},
+                                             {"a\xED\xB2\x83.htm", "a_.htm"},
                                              {"%TEMP%.htm", "_TEMP_.htm"},
                                              {"100%.htm", "100%.htm"},
-                                             {"console", "console"},
-                                             {"com10", "com10"}})
+                                             {"console", "console"}})
         EXPECT_EQ(ProposedLocalName(remote), local);
-    for (const char* device : {"con", "NUL.txt", "Com1", "lpt\xB9.htm", "aux .htm", "CONIN$"})
+    for (const char* device : {"con", "NUL.txt", "Com1", "aux .htm"})
         EXPECT_EQ(ProposedLocalName(device), "_" + std::string(device));
     for (const char* nothing : {"", ".", "..", "/", "a/", "C:", ". . .", "   "})
         EXPECT_EQ(ProposedLocalName(nothing), "download") << nothing;
     EXPECT_EQ(ProposedLocalName(std::string(10'000, 'x') + ".html"),
               std::string(ftp::kMaxLocalName - 5, 'x') + ".html");
+    EXPECT_EQ(ProposedLocalName(std::string(ftp::kMaxLocalName - 1, 'x') + "é"),
+              std::string(ftp::kMaxLocalName - 1, 'x'))
+        << "no half letters";
+}
+
+TEST(DeviceName, IsOneWhateverFollowsIt) {
+    for (const char* device :
+         {"con", "CONIN$", "Aux .tar.gz", "com1.txt", "LPT9", "lpt\u00B9", "COM\u00B3.a"})
+        EXPECT_TRUE(files::IsDeviceName(device)) << device;
+    for (const char* file :
+         {"", "COM", "COM0", "lpt0.txt", "COM10", "CLOCK$", "console", "xCON", "COM\u2074"})
+        EXPECT_FALSE(files::IsDeviceName(file)) << file;
 }
 
 }  // namespace

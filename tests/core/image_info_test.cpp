@@ -1,4 +1,4 @@
-#include "authoring/core/image_info.h"
+#include "authoring/images/core/image_info.h"
 
 #include <gtest/gtest.h>
 

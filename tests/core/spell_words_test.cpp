@@ -1,31 +1,42 @@
-#include "authoring/core/spell_words.h"
+#include "authoring/spelling/core/spell_words.h"
 
 #include <gtest/gtest.h>
 
+#include <new>
 #include <string>
+#include <utility>
+#include <vector>
 
-#include "authoring/core/spelling_pass.h"
+#include "authoring/spelling/core/spell_languages.h"
+#include "authoring/spelling/core/spell_text.h"
+#include "authoring/spelling/core/spelling_pass.h"
+#include "win/core/utf.h"
 
 namespace {
 
 using namespace authoring;
 
-std::string WordsOf(std::string_view page, const LetterTable& letters = kAsciiLetters) {
-    std::string words;
-    for (const Word& word : FindWords(page, letters)) {
-        words.append(page.substr(word.start, word.length)).append("|");
-    }
-    return words;
+bool IsLetter(char32_t c) {
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == U'\u00E9' || c == U'\u0142' ||
+           c == U'\U00010428';
+}
+
+std::string WordsOf(std::string_view page) {
+    const std::u16string text = win::Utf16FromUtf8(page);
+    std::u16string words;
+    for (const Word& word : FindWords(text, IsLetter))
+        words.append(text, word.start, word.length).append(u"|");
+    return win::Utf8FromUtf16(words);
 }
 
 TEST(SpellWords, AreWhatAReaderOfThePageSees) {
     EXPECT_EQ(WordsOf("Plain words, and (more) of-them."), "Plain|words|and|more|of|them|");
     EXPECT_EQ(WordsOf("<BODY BGCOLOR=\"red\" alt='a > b'>Some<br>text</BODY>"), "Some|text|");
-    EXPECT_EQ(WordsOf("don't 'quoted' rock'n'roll it\x92s"), "don't|quoted|rock'n'roll|it\x92s|");
+    EXPECT_EQ(WordsOf("don't 'quoted' rock'n'roll it\u2019s"), "don't|quoted|rock'n'roll|it\u2019s|");
     EXPECT_EQ(WordsOf("ab&nbsp;cd&amp;ef &lt;gh&gt; R&D"), "ab|cd|ef|gh|");
-    LetterTable letters = kAsciiLetters;
-    letters[0xE9] = true;
-    EXPECT_EQ(WordsOf("caf\xE9 na\xEFve", letters), "caf\xE9|na|ve|");
+    EXPECT_EQ(WordsOf("caf\u00E9 ma\u0142y na\u00EFve"), "caf\u00E9|ma\u0142y|na|ve|");
+    EXPECT_EQ(WordsOf("\U00010428's ok\U0001F600ok \U00010428 x\U00010428.x \U00010428"),
+              "\U00010428's|ok|ok|");
 }
 
 TEST(SpellWords, LeaveOutWhatNobodySpells) {
@@ -45,44 +56,103 @@ TEST(SpellWords, ALooseSignIsNoTag) {
     EXPECT_EQ(WordsOf("&unended ab & cd &; ef<!-- gh"), "unended|ab|cd|ef|");
 }
 
+TEST(SpellLanguage, IsThatOfTheFirstTagThatNamesOne) {
+    const std::pair<const char16_t*, const char16_t*> kPages[] = {
+        {u"<HTML\r\n DIR=ltr LANG = 'pt-BR'><p lang=de>", u"pt-BR"},
+        {u"<!-- <p lang=de> --><script language=x>'<p lang=de>'</script><br/><p xml:lang=\"fr\"/>", u"fr"},
+        {u"<html lang=\"\"><b title='a > lang=de'><i class=lang data-lang=de><a lang>x < lang=de>", u""},
+        {u"<p lang=en_US><p lang=e><p lang='d e'><p lang=\"cy\"", u""},
+        {u"<p lang=en_US><p nowrap lang=x-a><", u"x-a"}};
+    for (const auto& [page, language] : kPages) EXPECT_EQ(PageLanguage(page), language);
+}
+
+TEST(SpellLanguage, IsNeverAnother) {
+    using Tags = std::vector<std::string>;
+    EXPECT_EQ(LanguagesToTry("", "de-AT", {"de-DE", "en-US"}), (Tags{"de-AT", "de"}));
+    EXPECT_EQ(LanguagesToTry("zh-Hant-TW", "en-US", {}), (Tags{"zh-Hant-TW", "zh-Hant", "zh"}));
+    EXPECT_EQ(LanguagesToTry("en", "en-GB", {"de-DE", "EN-US"}), (Tags{"en", "en-GB", "EN-US"}));
+    EXPECT_EQ(LanguagesToTry("fr", "en-GB", {"fry-NL", "f"}), Tags{"fr"});
+}
+
+TEST(SpellText, ParagraphMarksBecomeLineEndsAndTheLastOneGoes) {
+    EXPECT_EQ(TextFromWordProcessor(u"one\rtwo\r"), u"one\r\ntwo");
+    EXPECT_EQ(TextFromWordProcessor(u"one\r\ntwo\r\n"), u"one\r\ntwo");
+    for (const char16_t* text : {u"", u"x", u"\r", u"\r\n"}) EXPECT_EQ(TextFromWordProcessor(text), u"");
+}
+
 class KnowsGood : public SpellDictionary {
  public:
-    bool knows(const std::string& word) override {
-        asked += word + "|";
-        return word == "good";
+    bool knows(const std::u16string& word) override {
+        asked += word + u"|";
+        mayFail();
+        return word == u"good";
     }
-    std::vector<std::string> suggestions(const std::string&) override { return {}; }
-    void add(const std::string& word) override { added += word; }
+    std::vector<std::u16string> suggestions(const std::u16string&) override {
+        mayFail();
+        return {u"good"};
+    }
+    void add(const std::u16string& word) override {
+        mayFail();
+        added += word;
+    }
+    void mayFail() const {
+        if (fails) throw std::bad_alloc();
+    }
 
-    std::string asked, added;
+    bool fails = false;
+
+    std::u16string asked, added;
 };
 
 TEST(SpellingPass, StopsAtUnknownWordsOnceTheyAreNotIgnored) {
     KnowsGood dictionary;
-    SpellingPass pass("good aa good bb aa cc bb cc dd", kAsciiLetters, dictionary);
-    std::string stops;
+    SpellingPass pass(u"good aa good bb aa cc bb cc dd", IsLetter, dictionary);
+    std::u16string stops;
     while (pass.next()) {
-        stops += pass.word() + "|";
-        if (pass.word() == "aa") pass.ignoreAll();
-        if (pass.word() == "bb") pass.add();
-        if (pass.word() == "cc") pass.change("new and longer");
+        stops += pass.word() + u"|";
+        if (pass.word() == u"aa") pass.ignoreAll();
+        if (pass.word() == u"bb") pass.add();
+        if (pass.word() == u"cc") pass.change(u"new and longer");
     }
-    EXPECT_EQ(stops, "aa|bb|cc|cc|dd|");
-    EXPECT_EQ(dictionary.added, "bb");
-    EXPECT_EQ(dictionary.asked.find("good", 4), std::string::npos) << "a known word is asked about once";
-    EXPECT_EQ(pass.result(), "good aa good bb aa new and longer bb new and longer dd");
+    EXPECT_EQ(stops, u"aa|bb|cc|cc|dd|");
+    EXPECT_EQ(dictionary.added, u"bb");
+    EXPECT_EQ(dictionary.asked.find(u"good", 4), std::u16string::npos) << "a known word is asked about once";
+    EXPECT_EQ(pass.result(), u"good aa good bb aa new and longer bb new and longer dd");
     EXPECT_TRUE(pass.isChanged());
 }
 
 TEST(SpellingPass, AWordMayBeTakenOutAndItsSurroundingsAreShown) {
     KnowsGood dictionary;
-    const std::string line(40, 'x');
-    SpellingPass pass("1 " + line + " teh\r\n2 " + line, kAsciiLetters, dictionary);
+    const std::u16string line(40, u'x');
+    SpellingPass pass(u"1 " + line + u" teh\r\n2 " + line, IsLetter, dictionary);
     ASSERT_TRUE(pass.next() && pass.next());
-    EXPECT_EQ(pass.word(), "teh");
-    EXPECT_EQ(pass.context(), "teh  2");
-    pass.change("");
-    EXPECT_EQ(pass.result(), "1 " + line + " \r\n2 " + line);
+    EXPECT_EQ(pass.word(), u"teh");
+    EXPECT_EQ(pass.context(), u"teh  2");
+    pass.change(u"");
+    EXPECT_EQ(pass.result(), u"1 " + line + u" \r\n2 " + line);
+}
+
+TEST(SpellingPass, KeepsStepWithADictionaryThatFails) {
+    KnowsGood dictionary;
+    SpellingPass pass(u"good aa bb good aa cc", IsLetter, dictionary);
+    ASSERT_TRUE(pass.next());
+    EXPECT_EQ(pass.suggestions().size(), 1U);
+    EXPECT_FALSE(pass.hasFailed());
+    dictionary.fails = true;
+    EXPECT_TRUE(pass.suggestions().empty());
+    EXPECT_TRUE(pass.hasFailed());
+    pass.add();
+    ASSERT_TRUE(pass.next());
+    EXPECT_EQ(pass.word(), u"bb");
+    pass.change(u"B");
+    ASSERT_TRUE(pass.next());
+    EXPECT_EQ(pass.word(), u"cc") << "what is known already stays so";
+    pass.change(u"C");
+    EXPECT_FALSE(pass.next());
+    EXPECT_EQ(pass.result(), u"good aa B good aa C");
+    SpellingPass another(u"good aa", IsLetter, dictionary);
+    EXPECT_TRUE(another.next());
+    EXPECT_EQ(another.word(), u"good") << "a word that cannot be looked up is not skipped";
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "authoring/core/template_list.h"
+#include "authoring/templates/core/template_list.h"
 
 #include <gtest/gtest.h>
 
@@ -14,14 +14,15 @@ TemplateList FullList() {
     return list;
 }
 
-TEST(Templates, RebuildingClosesGapsAndDropsANameOnlyRightBehindItself) {
+TEST(Templates, WhatHasNoFileIsHiddenAndGoesWhenTheMenuIsRebuilt) {
     const auto isThere = [](const std::string& name) { return name != "gone"; };
-    // An empty name would be the folder itself, which exists.
+    // An empty name would be the folder itself, which exists. A name goes only right behind itself.
     const TemplateList list = {Template{"a", "1"}, {"gone", "2"}, {"a", "3"}, {"no ID", ""},
                                {"b", "4"},         {"", "5"},     {"a", "6"}, {"c", "7"}};
+    EXPECT_EQ(ShownTemplates(list, isThere),
+              (TemplateList{list[0], {}, {}, {}, list[4], {}, list[6], list[7]}));
     EXPECT_EQ(RebuiltTemplates(list, isThere), (TemplateList{list[0], list[4], list[6], list[7]}));
-    EXPECT_EQ(OfferedTemplates(list), 3U) << "up to the first empty ID";
-    EXPECT_EQ(OfferedTemplates(FullList()), 9U);
+    EXPECT_EQ(OfferedSlots(list), (std::vector<std::size_t>{0, 1, 2, 4, 5, 6, 7}));
 }
 
 TEST(Templates, WhatIsMissingOrInUseIsSaid) {
@@ -41,21 +42,23 @@ TEST(Templates, WhatIsMissingOrInUseIsSaid) {
 
 TEST(Templates, ANameInOtherCaseIsTheSameFile) {
     const TemplateList list = FullList();
-    EXPECT_EQ(TemplateInOtherCase(list, "T8.HTM", kAsciiFold), &list[8]);
-    for (const char* name : {"t8.htm", "t8.html", "T9.HTM"}) {
-        EXPECT_EQ(TemplateInOtherCase(list, name, kAsciiFold), nullptr) << name;
-    }
+    const auto sameFile = [](const std::string& a, const std::string& b) {
+        return a == "t8.htm" && b == "T8.HTM";
+    };
+    EXPECT_EQ(TemplateOfSameFile(list, "T8.HTM", sameFile), &list[8]);
+    for (const char* name : {"t8.htm", "t8.html"})
+        EXPECT_EQ(TemplateOfSameFile(list, name, sameFile), nullptr);
 }
 
 TEST(Templates, OnlyPlainFileNamesPass) {
     for (const char* name : {"template1.htm", "My Page", " leading.htm", "a..b", ".htaccess", "CONSOLE.htm",
-                             "COM0", "COM10.htm", "NULL", "Gr\xFC\xDF.htm"}) {
+                             "COM0", "COM10.htm", "NULL", "Gr\u00FC\u00DF.htm"}) {
         EXPECT_EQ(FileNameProblem(name), "") << name;
     }
     for (const char* name :
-         {"..\\x.htm", "x/y.htm",  "C:x.htm", "x.htm:stream", "*.*",     "a?.htm", "a\"b", "<a>",
-          "a|b",       "a\tb",     ".",       "..",           "a.htm.",  "a.htm ", " ",    "CON",
-          "nul.htm",   "Aux .txt", "com1",    "LPT9.a.b",     "lpt\xB2", "conout$"}) {
+         {"..\\x.htm", "x/y.htm",  "C:x.htm", "x.htm:stream", "*.*",       "a?.htm", "a\"b", "<a>",
+          "a|b",       "a\tb",     ".",       "..",           "a.htm.",    "a.htm ", " ",    "CON",
+          "nul.htm",   "Aux .txt", "com1",    "LPT9.a.b",     "lpt\u00B2", "conout$"}) {
         EXPECT_NE(FileNameProblem(name), "") << name;
     }
 }

@@ -1,7 +1,10 @@
+#include <memory>
 #include <random>
 
 #include "e2e/quillon.h"
 #include "menu_ids.h"
+
+#include <shlwapi.h>
 
 namespace {
 
@@ -10,7 +13,7 @@ class EditingTest : public QuillonTest {};
 std::string RealPage(std::size_t size) {
     std::string page = "<HTML>\r\n<BODY>\r\n";
     for (int line = 0; page.size() < size; ++line) {
-        page += "<P>Line " + std::to_string(line) + ": caf\xE9 &amp; <B>bread</B>,\ttwo  blanks.</P>\r\n";
+        page += "<P>Line " + std::to_string(line) + ": caf\u00E9 &amp; <B>bread</B>,\ttwo  blanks.</P>\r\n";
     }
     return page + "</BODY>\r\n</HTML>";
 }
@@ -54,20 +57,35 @@ TEST_F(EditingTest, FunctionKeysWorkAndExitAsksOncePerChangedPage) {
     EXPECT_EQ(readFile(scratch("second.htm")).substr(0, 7), "b<HTML>");
 }
 
-TEST_F(EditingTest, ASecondStartHandsItsFileOver) {
-    const std::string name = scratch("[b] c ~+%^{d} caf\xE9.htm");
+TEST_F(EditingTest, SecondStartsHandTheirFilesOver) {
+    const std::string name = scratch("[b] c ~+%^{d} caf\u00E9 \u0141\u30BD\U0001F600.htm");
     writeFile(name, "handed over");
     Quillon first;
+    first.choose(mnuHelpCont);
+    first.waitForDialog("Quillon Help");
+    first.choose(mnuWind + 2);
+    ASSERT_TRUE(seen::Until([&] { return ::IsZoomed(first.page()); }));
     Quillon second(name, false);
     EXPECT_TRUE(second.waitForEnd());
     EXPECT_TRUE(seen::Until([&] { return first.pages().size() == 2 && first.pageText() == "handed over"; }));
-    Quillon third(name, false);
-    EXPECT_EQ(first.answer("Quillon", IDOK), "That file is already open.");
-    EXPECT_TRUE(third.waitForEnd());
+    std::vector<std::unique_ptr<Quillon>> crowd;
+    for (const char* other : {"1.htm", "2.htm", "3.htm"}) {
+        writeFile(scratch(other), "page");
+        crowd.push_back(std::make_unique<Quillon>(scratch(other), false));
+    }
+    EXPECT_TRUE(seen::Until([&] { return first.pages().size() == 5; }, 30000));
+    for (const auto& other : crowd) EXPECT_TRUE(other->waitForEnd());
+    for (const HWND page : first.pages())
+        EXPECT_EQ(seen::TextOf(seen::ChildOfClass(page, "RICHEDIT")).find(".htm"), std::string::npos);
     ::ShowWindow(first.window(), SW_MINIMIZE);
     Quillon fourth("", false);
     EXPECT_TRUE(fourth.waitForEnd());
     EXPECT_TRUE(seen::Until([&] { return !::IsIconic(first.window()); }));
+    Quillon again(name, false);
+    first.waitForDialog("Quillon");
+    Quillon late(scratch("1.htm"), false);
+    EXPECT_NE(late.answer("Quillon", IDOK).find(scratch("1.htm") + "\r\nwas not opened"), std::string::npos);
+    EXPECT_EQ(first.answer("Quillon", IDOK), "That file is already open.");
 }
 
 TEST_F(EditingTest, WhatCannotBeOpenedAtTheStartIsToldAndCostsNothing) {
@@ -83,8 +101,10 @@ TEST_F(EditingTest, WhatCannotBeOpenedAtTheStartIsToldAndCostsNothing) {
     }
     const HANDLE lock =
         ::CreateFileA(scratch("empty.htm").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    ::SHDeleteValueA(HKEY_CURRENT_USER, "Software\\VB and VBA Program Settings\\Quillon\\File Count",
+                     "Count");
     Quillon locked(scratch("empty.htm"), false);
-    EXPECT_EQ(locked.answer("Quillon Note:", IDOK), "Unable to open File");
+    EXPECT_EQ(locked.answer("Quillon Note:", IDOK), "Unable to open File") << "and no greeting";
     ::CloseHandle(lock);
     EXPECT_TRUE(locked.isRunning());
 }
@@ -100,6 +120,32 @@ std::string Listing(const std::string& pattern) {
     return files;
 }
 
+TEST_F(EditingTest, UnsavedPagesComeBackAfterAKill) {
+    const std::string path = scratch("za\u017C\u00F3\u0142\u0107.htm");
+    writeFile(path, "\u0141\u00F3d\u017A");
+    const std::string copies = Environment("TEMP") + "\\~quillon-*.page";
+    const auto isCopied = [&] { return !Listing(copies).empty(); };
+    {
+        Quillon quillon(path);
+        quillon.typeText("new ");
+        ASSERT_TRUE(seen::Until(isCopied, 60000));
+    }
+    for (int round = 0; round < 2; ++round) {
+        Quillon quillon;
+        EXPECT_TRUE(quillon.shows("1 unsaved page has come back."));
+        ASSERT_EQ(quillon.pages().size(), 2U);
+        EXPECT_EQ(quillon.pageCaption(), "Untitled1") << "what was asked for is in front";
+        quillon.choose(windowList + 1);
+        EXPECT_TRUE(seen::Until([&] { return quillon.pageText() == "new \u0141\u00F3d\u017A"; }));
+        EXPECT_EQ(readFile(path), "\u0141\u00F3d\u017A");
+        if (round == 0) continue;
+        quillon.choose(mnuFileSave);
+        EXPECT_TRUE(quillon.shows("Saved :  " + path));
+        EXPECT_EQ(readFile(path), "new \u0141\u00F3d\u017A\r\n");
+        EXPECT_FALSE(isCopied());
+    }
+}
+
 TEST_F(EditingTest, KilledInMidSaveItLeavesTheOldFileOrTheNewOne) {
     const std::string path = scratch("killed.htm");
     const std::string page = RealPage(20000);
@@ -108,6 +154,7 @@ TEST_F(EditingTest, KilledInMidSaveItLeavesTheOldFileOrTheNewOne) {
     int fresh = 0;
     const int rounds = EnvironmentNumber("QUILLON_KILLS", 100);
     for (int round = 0; round < rounds; ++round) {
+        ForgetCopies();
         writeFile(path, page);
         Quillon quillon(path);
         ::PostMessageA(quillon.pad(), WM_CHAR, 'x', 0);

@@ -5,7 +5,7 @@
 #include <optional>
 #include <random>
 
-#include "authoring/core/tag_fragments.h"
+#include "authoring/tags/core/tag_fragments.h"
 #include "document/core/page_outline.h"
 #include "e2e/quillon.h"
 #include "menu_ids.h"

@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 
+#include "support/wide.h"
+
 #include <shlwapi.h>
 
 namespace {
@@ -18,11 +20,11 @@ void Press(WORD virtualKey, WORD unicode, bool up) {
 }  // namespace
 
 Quillon::Quillon(const std::string& file, bool wait) {
-    std::string command = "\"" + Environment("QUILLON_EXE") + "\" " + file;
-    STARTUPINFOA startup{};
+    const std::string command = "\"" + Environment("QUILLON_EXE") + "\" " + file;
+    STARTUPINFOW startup{};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process{};
-    EXPECT_TRUE(::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+    EXPECT_TRUE(::CreateProcessW(nullptr, Wide(command).data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
                                  &startup, &process))
         << command;
     ::CloseHandle(process.hThread);
@@ -47,6 +49,15 @@ bool Quillon::isRunning() const {
 
 bool Quillon::waitForEnd() {
     return ::WaitForSingleObject(handle_, 10000) == WAIT_OBJECT_0;
+}
+
+void ForgetCopies() {
+    const std::string folder = Environment("TEMP") + "\\";
+    WIN32_FIND_DATAA found{};
+    const HANDLE find = ::FindFirstFileA((folder + "~quillon-*").c_str(), &found);
+    for (BOOL any = find != INVALID_HANDLE_VALUE; any; any = ::FindNextFileA(find, &found))
+        ::DeleteFileA((folder + found.cFileName).c_str());
+    ::FindClose(find);
 }
 
 void Quillon::kill() {
@@ -153,6 +164,7 @@ void QuillonTest::SetUp() {
     FilesTest::SetUp();
     ::SHDeleteKeyA(HKEY_CURRENT_USER, "Software\\VB and VBA Program Settings\\Quillon");
     ::SHDeleteKeyA(HKEY_CURRENT_USER, "Software\\Corvale\\Quillon");
+    ForgetCopies();
     ::SHSetValueA(HKEY_CURRENT_USER, "Software\\VB and VBA Program Settings\\Quillon\\File Count", "Count",
                   REG_SZ, "0", 2);
 }

@@ -53,6 +53,9 @@ class Quillon {
     HWND window_ = nullptr;
 };
 
+// Deletes what killed programs have left to be brought back.
+void ForgetCopies();
+
 // A file in the folder of the templates, which lies beside the program.
 std::string TemplatePath(const std::string& name);
 // The folder goes with its last file.

@@ -9,7 +9,8 @@ one or more of these words, separated by blanks:
   cut-CMD       CMD's transfer ends half way, with the data connection and no word of success
   break-CMD     CMD's transfer ends half way, and the control connection with it
   silent-CMD    CMD is never answered
-  list-NAME     listings are those of NAME: "odd", "long", "endless"
+  hold-CMD      CMD's transfer gets its answer when somebody logs in as "go-on"
+  list-NAME     listings are those of NAME: "odd", "long", "endless", "alike", "plain"
   stay          a directory that has been entered is never left again
 
 Every password is right. LOG gets the commands, a line each, passwords included.
@@ -41,6 +42,14 @@ def odd():
     yield line(b".", True) + line(b"..", True) + line(b"last.htm")
 
 
+def alike():
+    yield from (line(name) for name in (b"caf\xe9.htm", "café.htm".encode(), "Małe.htm".encode()))
+
+
+def plain():
+    yield line(b"folder") + line(b"good.htm")
+
+
 def long():
     yield line(b"a" * 10000 + b".htm")
     yield b"x" * 100000 + b"\r\n"
@@ -57,7 +66,8 @@ def endless():
 ANSWERS = {"USER": "331 password", "PASS": "230 in", "SYST": "215 UNIX Type: L8", "TYPE": "200 ok",
            "NOOP": "200 ok", "ALLO": "200 ok", "DELE": "250 ok", "RMD": "250 ok", "RNFR": "350 to what",
            "RNTO": "250 ok", "MKD": "257 made"}
-LISTINGS = {"ordinary": ordinary, "odd": odd, "long": long, "endless": endless}
+LISTINGS = {"ordinary": ordinary, "odd": odd, "long": long, "endless": endless, "alike": alike, "plain": plain}
+GO_ON = threading.Event()
 
 
 class Session(threading.Thread):
@@ -89,6 +99,7 @@ class Session(threading.Thread):
     def serve(self, command, argument):
         if command == "USER":
             self.words = argument.decode("latin-1").split()
+            GO_ON.set() if self.words == ["go-on"] else GO_ON.clear()
         if f"silent-{command}" in self.words:
             threading.Event().wait()
         if f"drop-{command}" in self.words:
@@ -135,6 +146,8 @@ class Session(threading.Thread):
     def finish(self, command):
         if f"break-{command}" in self.words:
             return False
+        if f"hold-{command}" in self.words:
+            GO_ON.wait()
         self.reply("226 done" if self.is_whole(command) else "426 broken off")
         return True
 

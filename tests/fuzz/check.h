@@ -9,6 +9,16 @@ inline void Check(bool holds) {
     if (!holds) std::abort();
 }
 
+// Text of one unit for each byte: the last two are the halves of a character beyond U+FFFF.
+inline std::u16string Units(std::string_view bytes) {
+    std::u16string text;
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        text += byte == 0xFE ? u'\xD83D' : byte == 0xFF ? u'\xDE00' : static_cast<char16_t>(byte);
+    }
+    return text;
+}
+
 // The text up to the next line end, which goes too.
 inline std::string TakeLine(std::string_view& rest) {
     const std::string line(rest.substr(0, rest.find('\n')));

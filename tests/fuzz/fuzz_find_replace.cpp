@@ -1,68 +1,47 @@
-// The linear searches against ones that are too plain to be wrong. An input is a line to look for, a
+// Searches against ones that are too plain to be wrong. An input is a line to look for, a
 // line to put in its place, and the text.
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
-#include "authoring/core/find_replace.h"
+#include "authoring/find/core/find_replace.h"
 #include "check.h"
 
-using authoring::FoldTable;
 using authoring::kNotFound;
 
 namespace {
 
-std::string Folded(std::string_view text, const FoldTable& fold) {
-    std::string result;
-    for (const char c : text) result += static_cast<char>(fold[static_cast<unsigned char>(c)]);
-    return result;
-}
-
-int PlainCount(std::string_view text, std::string_view find, std::size_t from, std::size_t step) {
+// By looking at every place.
+int PlainCount(std::u16string_view text, std::u16string_view find, bool overlapping) {
     int count = 0;
-    for (std::size_t at = text.find(find, from); at != kNotFound; at = text.find(find, at + step)) ++count;
-    return count;
-}
-
-std::string PlainReplace(std::string text, std::string_view find, std::string_view with) {
-    std::size_t at = 0;
-    while ((at = text.find(find, at)) != kNotFound) {
-        text.replace(at, find.size(), with);
-        at += with.size();
+    for (std::size_t at = 0; at + find.size() <= text.size(); ++at) {
+        if (text.substr(at, find.size()) != find) continue;
+        ++count;
+        if (!overlapping) at += find.size() - 1;
     }
-    return text;
+    return count;
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    std::string_view text(reinterpret_cast<const char*>(data), size);
-    const std::string find = TakeLine(text);
-    const std::string with = TakeLine(text);
+    std::string_view bytes(reinterpret_cast<const char*>(data), size);
+    const std::u16string find = Units(TakeLine(bytes));
+    const std::u16string with = Units(TakeLine(bytes));
+    const std::u16string text = Units(bytes);
+    const std::u16string result = authoring::ReplaceText<char16_t>(text, find, with);
     if (find.empty()) {
-        Check(authoring::FindExact(text, find) == kNotFound && authoring::CountMatches(text, find) == 0);
-        Check(authoring::ReplaceText(text, find, with) == text);
+        Check(authoring::CountMatches(text, find) == 0 && result == text);
         return 0;
     }
-
-    const FoldTable& fold = authoring::kAsciiFold;
-    const std::string foldedText = Folded(text, fold);
-    const std::string foldedFind = Folded(find, fold);
-    Check(authoring::CountMatches(text, find) == PlainCount(text, find, 0, 1));
-    Check(authoring::CountMatchesIgnoringCase(text, find, fold) == PlainCount(foldedText, foldedFind, 0, 1));
-    for (std::size_t from = 0; from <= text.size(); from += 1 + text.size() / 8) {
-        Check(authoring::FindExact(text, find, from) == text.find(find, from));
-        const std::size_t first = authoring::FindIgnoringCase(text, find, from, fold);
-        Check(first == foldedText.find(foldedFind, from));
-        const bool counted = first != 0 && first != kNotFound;
-        Check(authoring::CountFromFirst(text, find, first, fold) ==
-              (counted ? PlainCount(foldedText, foldedFind, first, find.size()) : 0));
-    }
-
-    int calls = 0;
-    Check(authoring::ReplaceText(text, find, with, [&] { ++calls; }) ==
-          PlainReplace(std::string(text), find, with));
-    Check(calls == PlainCount(text, find, 0, find.size()));
+    const int count = PlainCount(text, find, false);
+    Check(authoring::CountMatches(text, find) == PlainCount(text, find, true));
+    Check(authoring::ReplaceText<char16_t>(text, find, find) == text);
+    Check(result.size() == text.size() + static_cast<std::size_t>(count) * with.size() -
+                               static_cast<std::size_t>(count) * find.size());
+    const std::size_t first = authoring::FindFrom<char16_t>(text, find);
+    const bool counted = first != 0 && first != kNotFound;
+    Check(authoring::CountFromFirst(text, find, first) == (counted ? count : 0));
     return 0;
 }

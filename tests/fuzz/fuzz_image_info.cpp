@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "authoring/core/image_info.h"
+#include "authoring/images/core/image_info.h"
 #include "check.h"
 
 using authoring::ImageType;

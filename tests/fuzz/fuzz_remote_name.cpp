@@ -3,12 +3,13 @@
 #include <cstdint>
 #include <string>
 
+#include "../core/iconv_code_pages.h"
 #include "check.h"
-#include "ftp/core/local_name.h"
-#include "ftp/core/remote_listing.h"
-#include "ftp/core/remote_path.h"
-#include "ftp/core/scramble.h"
-#include "ftp/core/site_url.h"
+#include "document/core/codec.h"
+#include "ftp/core/password.h"
+#include "ftp/core/remote_names.h"
+#include "ftp/core/server_text.h"
+#include "ftp/core/site_list.h"
 
 namespace {
 
@@ -38,21 +39,25 @@ void CheckMoveUp(const std::string& current, std::string root) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (size < 1) return 0;
     std::string_view input(reinterpret_cast<const char*>(data) + 1, size - 1);
-    ftp::RemoteListing listing;
+    const IconvCodePages pages(data[0] % 2 == 0 ? 1252 : 932);
+    ftp::RemoteListing listing(pages);
     std::string previous;
     while (!input.empty()) {
         const std::string name = TakeLine(input);
         CheckLocalName(name);
         CheckMoveUp(name, previous);
         CheckMoveUp(ftp::JoinRemote("/" + previous, name), "/" + previous);
-        Check(ftp::ScramblePassword(ftp::ScramblePassword(name)) == name);
+        Check(ftp::ReadPassword(ftp::StoredPassword(name, pages), pages) == name);
+        const auto sent = ftp::SentName(name, pages);
+        Check(!sent || document::IsUtf8(*sent) || ftp::ShownText(*sent, pages) == name);
+        CheckLocalName(ftp::ShownText(name, pages));
         Check(ftp::SplitSiteUrl(name).host.find('/') == std::string::npos);
         Check(listing.add(name, data[0]));
         previous = name;
     }
-    for (const std::string& line : listing.lines()) {
-        Check(!line.empty() && line.size() <= ftp::kMaxRemoteName + 1);
-        Check(line != "./" && line != "../" && ftp::NameOfLine(line) != ".." && ftp::NameOfLine(line) != ".");
+    for (const ftp::RemoteFile& file : std::move(listing).files()) {
+        Check(!file.line.empty() && !file.name.empty() && file.name.size() <= ftp::kMaxRemoteName);
+        Check(file.name != "." && file.name != "..");
     }
     return 0;
 }

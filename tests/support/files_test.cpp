@@ -1,7 +1,8 @@
 #include "support/files_test.h"
 
+#include "support/wide.h"
+
 #include <cstdlib>
-#include <fstream>
 
 #include <ole2.h>
 #include <shellapi.h>
@@ -13,12 +14,12 @@ std::string Environment(const char* name) {
 }
 
 void DeleteTree(const std::string& folder) {
-    const std::string from = folder + '\0';
-    SHFILEOPSTRUCTA operation{};
+    const std::wstring from = Wide(folder) + L'\0';
+    SHFILEOPSTRUCTW operation{};
     operation.wFunc = FO_DELETE;
     operation.pFrom = from.c_str();
     operation.fFlags = FOF_NOCONFIRMATION | FOF_SILENT | FOF_NOERRORUI;
-    ::SHFileOperationA(&operation);
+    ::SHFileOperationW(&operation);
 }
 
 FilesTest::FilesTest() {
@@ -32,7 +33,7 @@ FilesTest::~FilesTest() {
 void FilesTest::SetUp() {
     const std::string folder = Environment("QUILLON_SCRATCH") + "\\files";
     DeleteTree(folder);
-    ::CreateDirectoryA(folder.c_str(), nullptr);
+    ::CreateDirectoryW(Wide(folder).c_str(), nullptr);
 }
 
 std::string FilesTest::scratch(const std::string& name) {
@@ -40,14 +41,17 @@ std::string FilesTest::scratch(const std::string& name) {
 }
 
 void FilesTest::writeFile(const std::string& path, const std::string& bytes) {
-    std::ofstream file(path, std::ios::binary);
-    ASSERT_TRUE(file << bytes << std::flush) << path;
+    const HANDLE file =
+        ::CreateFileW(Wide(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_ALWAYS, 0, nullptr);
+    DWORD written = 0;
+    ::WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+    ASSERT_TRUE(::CloseHandle(file) && written == bytes.size()) << path;
 }
 
 std::string FilesTest::readFile(const std::string& path) {
     constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     const HANDLE file =
-        ::CreateFileA(path.c_str(), GENERIC_READ, kShared, nullptr, OPEN_EXISTING, 0, nullptr);
+        ::CreateFileW(Wide(path).c_str(), GENERIC_READ, kShared, nullptr, OPEN_EXISTING, 0, nullptr);
     if (file == INVALID_HANDLE_VALUE) return "(no file)";
     std::string bytes(::GetFileSize(file, nullptr), '\0');
     DWORD read = 0;
@@ -58,7 +62,7 @@ std::string FilesTest::readFile(const std::string& path) {
 }
 
 std::string FilesTest::found(const std::string& pattern) {
-    WIN32_FIND_DATAA found{};
-    ::FindClose(::FindFirstFileA(scratch(pattern).c_str(), &found));
-    return found.cFileName;
+    WIN32_FIND_DATAW found{};
+    ::FindClose(::FindFirstFileW(Wide(scratch(pattern)).c_str(), &found));
+    return Narrow(found.cFileName);
 }

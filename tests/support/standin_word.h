@@ -3,18 +3,40 @@
 
 #include <string>
 
+#include <windows.h>
+
+#include <oleauto.h>
+
 #include "support/class_key.h"
+#include "support/windows_seen.h"
 
 constexpr CLSID kWordClass{0x5C5A5D0E, 0x2A53, 0x4B0A, {0x9C, 0x1B, 0x5B, 0x37, 0x2E, 0x64, 0x61, 0xD4}};
 
-// For the object's life it serves as "Word.Basic"; its log and its order are told in its source.
+// For the object's life it serves as "Word.Basic"; its log and its orders are told in its source.
 class StandinWord {
  public:
     explicit StandinWord(const std::string& log, const std::string& order = "")
-        : server_("CLSID\\{5C5A5D0E-2A53-4B0A-9C1B-5B372E6461D4}\\LocalServer32",
-                  '"' + ToolPath("standin_word.exe") + "\" \"" + log + "\" " + order) {}
+        : command_('"' + ToolPath("standin_word.exe") + "\" \"" + log + "\" " + order) {}
+
+    // Has it run before anybody asks for it. True when it does.
+    bool start() const {
+        STARTUPINFOA info{};
+        PROCESS_INFORMATION process{};
+        std::string command = command_;
+        if (!::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &info,
+                              &process))
+            return false;
+        ::CloseHandle(process.hThread);
+        ::CloseHandle(process.hProcess);
+        return seen::Until([] {
+            IUnknown* active = nullptr;
+            if (SUCCEEDED(::GetActiveObject(kWordClass, nullptr, &active))) active->Release();
+            return active || ::FindWindowA("OpusApp", nullptr);
+        });
+    }
 
  private:
+    std::string command_;
     ClassKey name_{"Word.Basic\\CLSID", "{5C5A5D0E-2A53-4B0A-9C1B-5B372E6461D4}"};
-    ClassKey server_;
+    ClassKey server_{"CLSID\\{5C5A5D0E-2A53-4B0A-9C1B-5B372E6461D4}\\LocalServer32", command_};
 };

@@ -1,5 +1,7 @@
 #include "support/windows_seen.h"
 
+#include "support/wide.h"
+
 #include <algorithm>
 
 #include <psapi.h>
@@ -65,11 +67,15 @@ Holdings HeldBy(DWORD process) {
 }
 
 std::string TextOf(HWND window) {
-    std::string text(static_cast<std::size_t>(::SendMessageA(window, WM_GETTEXTLENGTH, 0, 0)) + 1, '\0');
+    std::wstring text(static_cast<std::size_t>(::SendMessageW(window, WM_GETTEXTLENGTH, 0, 0)) + 1, L'\0');
     const LRESULT length =
-        ::SendMessageA(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+        ::SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
     text.resize(static_cast<std::size_t>(length));
-    return text;
+    return Narrow(text);
+}
+
+void PutText(HWND window, const std::string& text) {
+    ::SendMessageW(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(Wide(text).c_str()));
 }
 
 std::string ClassOf(HWND window) {
@@ -138,9 +144,8 @@ bool Until(const std::function<bool()>& condition, DWORD milliseconds) {
 
 void FillIn(HWND dialog, const std::string& first, const std::string& second, const std::string& button) {
     const HWND edit = ChildOfClass(dialog, "Edit");
-    ::SendMessageA(edit, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(first.c_str()));
-    ::SendMessageA(::GetNextDlgTabItem(dialog, edit, FALSE), WM_SETTEXT, 0,
-                   reinterpret_cast<LPARAM>(second.c_str()));
+    PutText(edit, first);
+    PutText(::GetNextDlgTabItem(dialog, edit, FALSE), second);
     ::PostMessageA(Child(dialog, button, "Button"), BM_CLICK, 0, 0);
 }
 
@@ -150,7 +155,7 @@ HWND FileNameBox(HWND dialog) {
 }
 
 void ChooseFile(HWND dialog, const std::string& path) {
-    ::SendMessageA(FileNameBox(dialog), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(path.c_str()));
+    PutText(FileNameBox(dialog), path);
     ::PostMessageA(dialog, WM_COMMAND, IDOK, 0);
 }
 

@@ -1,4 +1,4 @@
-// Windows as a person finds them: by what can be read on them.
+// Windows as a person finds them: by what can be read on them. Texts are UTF-8.
 #pragma once
 
 #include <functional>
@@ -11,6 +11,7 @@ namespace seen {
 
 // The text of a window of any process. Long texts come whole.
 std::string TextOf(HWND window);
+void PutText(HWND window, const std::string& text);
 std::string ClassOf(HWND window);
 RECT PlaceOf(HWND window);  // on the screen
 

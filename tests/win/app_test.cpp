@@ -7,6 +7,7 @@
 #include "files/open_file.h"
 #include "settings/app_settings.h"
 #include "shell/frmNotePad.h"
+#include "support/wide.h"
 #include "win/clipboard.h"
 #include "win/message_loop.h"
 
@@ -24,6 +25,41 @@ std::vector<HWND> ControlsOfClass(HWND form, const std::string& cls) {
         return seen::ClassOf(control) != cls || ::GetParent(control) != form;
     });
     return controls;
+}
+
+std::vector<TBBUTTON> ToolButtons::buttons() const {
+    std::vector<TBBUTTON> all(static_cast<std::size_t>(::SendMessageW(bar_, TB_BUTTONCOUNT, 0, 0)));
+    for (std::size_t i = 0; i < all.size(); ++i)
+        ::SendMessageW(bar_, TB_GETBUTTON, i, reinterpret_cast<LPARAM>(&all[i]));
+    std::erase_if(all, [](const TBBUTTON& button) { return (button.fsStyle & BTNS_SEP) != 0; });
+    return all;
+}
+
+std::string ToolButtons::names(bool enabledOnly) const {
+    std::string names;
+    for (const TBBUTTON& button : buttons()) {
+        if (enabledOnly && (button.fsState & TBSTATE_ENABLED) == 0) continue;
+        wchar_t name[64] = L"";
+        ::SendMessageW(bar_, TB_GETBUTTONTEXTW, static_cast<WPARAM>(button.idCommand),
+                       reinterpret_cast<LPARAM>(name));
+        names.append("|").append(win::ToUtf8(name));
+    }
+    return names;
+}
+
+RECT ToolButtons::place(int index) const {
+    RECT place{};
+    ::SendMessageW(bar_, TB_GETRECT,
+                   static_cast<WPARAM>(buttons()[static_cast<std::size_t>(index)].idCommand),
+                   reinterpret_cast<LPARAM>(&place));
+    return place;
+}
+
+void ToolButtons::click(int index) const {
+    const RECT button = place(index);
+    const LPARAM middle = MAKELPARAM((button.left + button.right) / 2, (button.top + button.bottom) / 2);
+    ::SendMessageW(bar_, WM_LBUTTONDOWN, MK_LBUTTON, middle);
+    ::SendMessageW(bar_, WM_LBUTTONUP, 0, middle);
 }
 
 void Notify(HWND control, WORD code) {
@@ -65,7 +101,7 @@ User::Act User::press(const std::string& title, WORD button) {
 
 User::Act User::enter(const std::string& title, const std::string& text, WORD button) {
     return {title, [=](HWND box) {
-                ::SetWindowTextA(seen::ChildOfClass(box, "Edit"), text.c_str());
+                seen::PutText(seen::ChildOfClass(box, "Edit"), text);
                 ::PostMessageA(box, WM_COMMAND, button, 0);
             }};
 }
@@ -113,11 +149,12 @@ frmChild& AppTest::openPage(const std::string& name, const std::string& bytes, c
 
 win::UniqueFile AppTest::hold(const std::string& path, DWORD share) {
     return win::UniqueFile(
-        ::CreateFileA(path.c_str(), GENERIC_READ, share, nullptr, OPEN_EXISTING, 0, nullptr));
+        ::CreateFileW(Wide(path).c_str(), GENERIC_READ, share, nullptr, OPEN_EXISTING, 0, nullptr));
 }
 
 frmChild& AppTest::newPage(const std::string& text) {
-    return frmChild::open(main(), "Untitled" + std::to_string(main().nextUntitled()), text);
+    return frmChild::open(main(), "Untitled" + std::to_string(main().nextUntitled()),
+                          document::NewPage(text));
 }
 
 void AppTest::activate(const frmChild& page) {
@@ -125,8 +162,8 @@ void AppTest::activate(const frmChild& page) {
 }
 
 void AppTest::type(const std::string& text) {
-    for (const char c : text) {
-        ::SendMessageA(active().txtPad().hwnd(), WM_CHAR, static_cast<unsigned char>(c), 0);
+    for (const char16_t unit : win::Utf16FromUtf8(text)) {
+        ::SendMessageW(active().txtPad().hwnd(), WM_CHAR, unit, 0);
     }
 }
 
@@ -147,6 +184,10 @@ std::string AppTest::said(Command command, const std::string& title) {
     return said([&] { run(command); }, title);
 }
 
+void AppTest::setClipboard(const std::string& text) {
+    win::SetClipboardText(main().mainHwnd(), win::Utf16FromUtf8(text));
+}
+
 std::string AppTest::clipboard() {
-    return win::ClipboardText(main().mainHwnd());
+    return win::Utf8FromUtf16(win::ClipboardText(main().mainHwnd()));
 }

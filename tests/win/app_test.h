@@ -1,4 +1,4 @@
-// The main window in the test's own process, over an empty settings store.
+// The main window in the test's own process, over an empty settings store. Texts are UTF-8.
 #pragma once
 
 #include <functional>
@@ -9,10 +9,26 @@
 #include "main_window.h"
 #include "support/files_test.h"
 #include "support/windows_seen.h"
+#include "win/unicode.h"
 #include "win/unique.h"
 
 // The controls of a class in a form, in their order.
 std::vector<HWND> ControlsOfClass(HWND form, const std::string& cls);
+
+// The buttons of a form's tool bar, which are no windows, as the mouse and a screen reader find them.
+class ToolButtons {
+ public:
+    explicit ToolButtons(HWND form) : bar_(seen::ChildOfClass(form, "ToolbarWindow32")) {}
+    HWND bar() const { return bar_; }
+    // In their order, each behind a bar; all of them or those that can be clicked.
+    std::string names(bool enabledOnly = false) const;
+    RECT place(int index) const;  // in the bar
+    void click(int index) const;
+
+ private:
+    std::vector<TBBUTTON> buttons() const;
+    HWND bar_;
+};
 
 // Has a control tell its form of what happened to it.
 void Notify(HWND control, WORD code);
@@ -52,7 +68,7 @@ class AppTest : public FilesTest {
     frmChild& newPage(const std::string& text);
     frmChild& active() { return *main().activeDocument(); }
     void activate(const frmChild& page);
-    std::string pageText() { return active().txtPad().text(); }
+    std::string pageText() { return win::Utf8FromUtf16(active().txtPad().text()); }
     // Runs a command through the main window's own WM_COMMAND.
     void run(Command command) { ::SendMessageA(main().mainHwnd(), WM_COMMAND, command, 0); }
     // A key as the page's control gets it.
@@ -62,6 +78,7 @@ class AppTest : public FilesTest {
     std::string selected();
     bool pageHasFocus() { return ::GetFocus() == active().txtPad().hwnd(); }
     std::string clipboard();
+    void setClipboard(const std::string& text);
     // What the last of the dialogs says.
     static std::string heard(const std::function<void()>& busy, const std::vector<User::Act>& acts);
     // What the message box says that the act or the command brings up, until its OK is pressed.

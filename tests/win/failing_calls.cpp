@@ -4,6 +4,7 @@
 #include <cstring>
 #include <type_traits>
 
+#include "support/wide.h"
 #include "win/windows.h"
 
 namespace {
@@ -82,16 +83,16 @@ struct Hook<kName, Result(WINAPI*)(Args...)> {
 using Create = HOOK(CreateFileW);
 using Write = HOOK(WriteFile);
 using Close = HOOK(CloseHandle);
-using Box = HOOK(MessageBoxA);
+using Box = HOOK(MessageBoxW);
 
 template <typename... Hooks>
 struct All {
     static void put() { (Hooks::put(), ...); }
     static void restore() { (Hooks::restore(), ...); }
 };
-using Plain = All<HOOK(RegCreateKeyExA), HOOK(RegSetValueExA), HOOK(RegDeleteValueA), HOOK(RegDeleteKeyA),
+using Plain = All<HOOK(RegCreateKeyExW), HOOK(RegSetValueExW), HOOK(RegDeleteValueW), HOOK(RegDeleteKeyW),
                   HOOK(SetEndOfFile), HOOK(FlushFileBuffers), HOOK(MoveFileExW), HOOK(DeleteFileW),
-                  HOOK(SetFileAttributesW), HOOK(CreateDirectoryW), HOOK(GetTempFileNameA)>;
+                  HOOK(SetFileAttributesW), HOOK(CreateDirectoryW), HOOK(GetTempFileNameW)>;
 #undef HOOK
 
 HANDLE WINAPI CreateOrRefuse(LPCWSTR path, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security,
@@ -116,10 +117,10 @@ BOOL WINAPI CloseAnyway(HANDLE handle) {
     return Fails("CloseHandle") ? FALSE : closed;
 }
 
-int WINAPI Answer(HWND owner, LPCSTR text, LPCSTR title, UINT style) {
+int WINAPI Answer(HWND owner, LPCWSTR text, LPCWSTR title, UINT style) {
     State* state = State::now;
     if (!state || ::GetCurrentThreadId() != state->thread) return Box::real(owner, text, title, style);
-    state->said.emplace_back(text);
+    state->said.push_back(Narrow(text));
     return (style & MB_YESNO) == MB_YESNO ? IDYES : IDOK;
 }
 

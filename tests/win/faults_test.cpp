@@ -3,8 +3,8 @@
 #include <cstdio>
 #include <set>
 
-#include "authoring/mTemplateLoad.h"
-#include "authoring/template_store.h"
+#include "authoring/templates/mTemplateLoad.h"
+#include "authoring/templates/template_store.h"
 #include "files/modPubFuncs.h"
 #include "ftp/site_store.h"
 #include "settings/app_settings.h"

@@ -1,15 +1,18 @@
 // Servers that refuse, break off, or send what no server should.
 #include <cstdlib>
 
+#include "files/replace_file.h"
+#include "forms/frmToUp.h"
 #include "forms/frmUpload.h"
-#include "ftp/core/scramble.h"
-#include "ftp/download.h"
 #include "ftp/frmUpload.h"
 #include "ftp/site_store.h"
+#include "ftp/transfers.h"
+#include "menu_ids.h"
 #include "win/error.h"
 #include "win/failing_calls.h"
 #include "win/ftp_test.h"
 #include "win/message_loop.h"
+#include "win/unique.h"
 
 namespace {
 
@@ -43,9 +46,6 @@ TEST_F(FtpFaultsTest, EveryRefusedCommandIsToldAndTheSessionGoesOn) {
     const User::Act yes = User::press("DELETION CONFIRMATION", IDYES);
     EXPECT_EQ(sayWith("refuse-DELE", "good.htm", mnuRClist + 5, {yes, User::press("FAILED TO DELETE", IDOK)}),
               "Could not delete file");
-    EXPECT_EQ(sayWith("refuse-RMD", "folder/", mnuDirDelete, {yes, User::press("FAILED TO DELETE", IDOK)})
-                  .substr(0, 21),
-              "Could not delete file");
     EXPECT_EQ(sayWith("refuse-RNTO", "good.htm", mnuRClist + 3,
                       {User::enter("FILENAME CHANGE", "x"), User::press("NET GLITCH", IDOK)}),
               "Unable to rename file...");
@@ -67,7 +67,8 @@ TEST_F(FtpFaultsTest, ATransferThatBreaksOffIsNoSuccessAndLeavesTheOldFile) {
         EXPECT_EQ(readFile(scratch("kept.bin")), "good") << behaviour;
     }
     EXPECT_EQ(found("qui*"), "");
-    savePage("page.htm", std::string(500000, 'x'));
+    savePage("page.htm", "");
+    writeFile(scratch("page.htm"), std::string(500000, 'x'));
     for (const char* behaviour : {"refuse-STOR", "cut-STOR", "break-STOR"}) {
         openScripted(behaviour);
         EXPECT_EQ(saidToClick(cmdUp, "UPLOAD FAILURE"), "Unable to upload the current file.") << behaviour;
@@ -112,15 +113,15 @@ TEST_F(FtpFaultsTest, AListingThatFailsLeavesAnEmptyListAndAWorkingWindow) {
     }
     openScripted("drop-CWD");
     EXPECT_EQ(lines(), "folder/,good.htm,large.bin") << "nothing is lost when the probes fail";
-    openScripted("stay");
-    EXPECT_EQ(textOf(txtCurDir), "/");
+    openScripted("list-plain stay");
+    EXPECT_EQ(textOf(txtCurDir), "/folder") << "where a probe has led that could not go back";
 }
 
 TEST_F(FtpFaultsTest, OddNamesStayInsideTheChosenFolder) {
     openScripted("list-odd");
     EXPECT_EQ(lines(),
               "..\\up.htm,/etc/passwd,C:\\boot.ini,CON,a\x01"
-              "b\x7F.htm,%TEMP%.htm,caf\xE9.htm,last.htm");
+              "b\x7F.htm,%TEMP%.htm,café.htm,last.htm");
     const auto look = [&](HWND dialog) {
         const std::string proposed = seen::TextOf(seen::FileNameBox(dialog));
         EXPECT_EQ(proposed.substr(0, proposed.find_last_not_of(' ') + 1), "up.htm");
@@ -141,20 +142,6 @@ TEST_F(FtpFaultsTest, WhileASilentServerIsWaitedForTheWindowsAnswerAndCanBeClose
             << behaviour;
         EXPECT_EQ(ftpWindow(), nullptr) << behaviour;
     }
-    savePage("page.htm", "");
-    openScripted("silent-STOR");
-    const auto goOn = [&](HWND form) {
-        EXPECT_TRUE(wasTold("STOR"));
-        EXPECT_EQ(textOf(txtCurDir), "Uploading.....");
-        EXPECT_FALSE(::IsWindowEnabled(control(cmdUp)));
-        type("going on");
-        EXPECT_TRUE(answers(form));
-        ::PostMessageA(form, WM_CLOSE, 0, 0);
-    };
-    heard([&] { click(cmdUp); }, {{kFtpTitle, goOn}});
-    EXPECT_EQ(ftpWindow(), nullptr);
-    EXPECT_EQ(pageText(), "going on");
-    active().txtPad().setChanged(false);
     openScripted("silent-DELE");
     closing = main().mainHwnd();
     say("good.htm", mnuRClist + 5,
@@ -171,6 +158,81 @@ TEST_F(FtpFaultsTest, APasswordArrivesByteForByte) {
     EXPECT_NE(told().find("PASS " + password + "\n"), std::string::npos) << told();
 }
 
+TEST_F(FtpFaultsTest, NamesAreTheServersBytesAndThoseThatItCannotBeGivenAreRefused) {
+    openScripted("list-alike");
+    EXPECT_EQ(lines(), "café.htm,café.htm,Małe.htm");
+    for (const auto& [row, bytes] : {std::pair(1, "café.htm"), {0, "caf\xE9.htm"}, {2, "Małe.htm"}}) {
+        const auto remove = [row = row] {
+            ::SendMessageA(control(lstRemoteFiles), LB_SETCURSEL, static_cast<WPARAM>(row), 0);
+            ::SendMessageA(ftpWindow(), WM_COMMAND, mnuRClist + 5, 0);
+        };
+        const User::Act yes = User::press("DELETION CONFIRMATION", IDYES);
+        heard(remove, {yes, User::press("DELETION CONFIRMATION", IDOK)});
+        EXPECT_TRUE(wasTold(std::string("DELE ") + bytes + "\n")) << told();
+    }
+    const std::string refusal =
+        "The server cannot be given the name Małe.htm.\r\nChoose another name, of plain letters.";
+    savePage("Małe.htm", "<P>");
+    EXPECT_EQ(saidToClick(cmdUp, "UPLOAD FAILURE"), refusal);
+    EXPECT_EQ(saidToDrop({scratch("Małe.htm"), scratch("gone.htm")}, "UPLOAD DIFFICULTY"),
+              "There was a problem uploading gone.htm.\r\n\r\n" + refusal);
+    EXPECT_EQ(told().find("STOR"), std::string::npos);
+}
+
+TEST_F(FtpFaultsTest, AServerThatHasGoneIsToldOnceAndConnectedToAnew) {
+    openScripted("drop-STOR");
+    std::vector<std::string> files;
+    for (int i = 0; i < 50; ++i) {
+        files.push_back(scratch(std::to_string(i) + ".htm"));
+        writeFile(files.back(), "");
+    }
+    EXPECT_EQ(saidToDrop(files, "UPLOAD DIFFICULTY"),
+              "There was a problem uploading 0.htm, 1.htm, 2.htm, 3.htm, 4.htm and 45 more.");
+    const HWND dead = ftpWindow();
+    frmUpload::open(main(), 0, ScriptedSession);
+    EXPECT_FALSE(::IsWindow(dead));
+    EXPECT_EQ(lines(), "folder/,good.htm,large.bin");
+}
+
+TEST_F(FtpFaultsTest, WhatIsBeingSentIsBrokenOffOnlyWhenTheUserWantsThat) {
+    const auto during = [&](const std::function<void()>& act) {
+        return User::Act{kFtpTitle, [this, act](HWND form) {
+                             EXPECT_TRUE(wasTold("STOR"));
+                             EXPECT_TRUE(answers(form));
+                             act();
+                         }};
+    };
+    const auto post = [](HWND window, UINT message, WPARAM wParam) {
+        return [=] { ::PostMessageA(window, message, wParam, 0); };
+    };
+    savePage("page.htm", "<P>");
+    openScripted("hold-STOR");
+    EXPECT_EQ(heard([&] { click(cmdUp); },
+                    {during(post(ftpWindow(), WM_CLOSE, 0)), User::press("UPLOAD NOT FINISHED", IDYES)}),
+              "Still sending page.htm.\r\nBreak it off? The server then has only a part.");
+    EXPECT_EQ(ftpWindow(), nullptr);
+
+    ::DeleteFileA(Environment("QUILLON_FTP_LOG").c_str());
+    openScripted("hold-STOR");
+    addSite("other.example", "user", "pw");
+    ftp::LoadSiteMenu(main());
+    const auto goOn = [&] {
+        EXPECT_TRUE(files::ReplaceFileContents(scratch("page.htm"), "saved meanwhile"));
+        const auto other = ScriptedSession();
+        EXPECT_TRUE(other->open() && other->connect("127.0.0.1", "go-on", "pw"));
+    };
+    const HWND mainWindow = main().mainHwnd();
+    const auto heard =
+        User::hears([&] { click(cmdUp); },
+                    {during(post(mainWindow, WM_COMMAND, mnuUploadSites)), User::press("FTP Site", cmdUpload),
+                     User::press("Quillon Note:", IDOK), during(post(mainWindow, WM_CLOSE, 0)),
+                     User::press("UPLOAD NOT FINISHED", IDNO), during(goOn), User::press("Quillon", IDOK)});
+    EXPECT_EQ(heard[2], "127.0.0.1 is still busy.\r\nWait until it is done, or close its window.");
+    EXPECT_EQ(heard[6], "Upload Complete");
+    EXPECT_EQ(ftpWindow(), nullptr);
+    EXPECT_FALSE(win::RunPending()) << "the program closes when the file is there";
+}
+
 // What no server on loopback can bring about: a machine that is not on any network, or one on which every
 // change ends in an error that no server's answer explains.
 template <bool kOnline>
@@ -178,23 +240,45 @@ class Odd : public ftp::FtpSession {
  public:
     static std::unique_ptr<ftp::FtpSession> make() { return std::make_unique<Odd>(); }
 
-    bool dial() override { return kOnline; }
-    bool open() override { return kOnline; }
+    static inline win::UniqueHandle dialled;  // what dialling waits for
+    static inline bool opened = false;
+
+    bool dial() override {
+        if (dialled) ::WaitForSingleObject(dialled.get(), INFINITE);
+        return kOnline;
+    }
+    bool open() override { return opened = kOnline; }
     bool connect(const std::string&, const std::string&, const std::string&) override { return kOnline; }
     bool isConnected() const override { return kOnline; }
+    bool isLost() const override { return false; }
     void close() override {}
-    void giveUp(DWORD) override {}
-    bool answered() const override { return true; }
+    void stop() override {}
     std::optional<std::string> currentDirectory() override { return {}; }
-    std::optional<ftp::RemoteEntry> findFirst(const std::string&) override {
-        return ftp::RemoteEntry{"old", FILE_ATTRIBUTE_DIRECTORY, 0};
+    void list(const std::string& pattern, const std::function<bool(const ftp::RemoteEntry&)>& take) override {
+        if (pattern == "*") take({"old", FILE_ATTRIBUTE_DIRECTORY, 0}) && take({"my page.htm", 0, 42});
     }
-    std::optional<ftp::RemoteEntry> findNext() override { return {}; }
-    void endFind() override {}
-    bool tell(ftp::RemoteCommand, const std::string&, const std::string&, ftp::TransferType) override {
-        throw win::Failure("out of order");
-    }
+    bool changeDirectory(const std::string&) override { return false; }
+    bool createDirectory(const std::string&) override { return fail(); }
+    bool removeDirectory(const std::string&) override { return fail(); }
+    bool removeFile(const std::string&) override { return fail(); }
+    bool rename(const std::string&, const std::string&) override { return fail(); }
+    bool put(HANDLE, const std::string&, ftp::TransferType) override { return fail(); }
+    bool get(const std::string&, HANDLE, ftp::TransferType) override { return fail(); }
+
+ private:
+    static bool fail() { throw win::Failure("out of order"); }
 };
+
+TEST_F(FtpFaultsTest, CancelWhileDiallingSendsNoLogin) {
+    using Slow = Odd<true>;
+    Slow::dialled.reset(::CreateEventA(nullptr, TRUE, FALSE, nullptr));
+    addSite("127.0.0.1", "plain", "pw");
+    const auto leave = [](HWND connecting) { ::PostMessageA(connecting, WM_CLOSE, 0, 0); };
+    heard([&] { frmUpload::open(main(), 0, Slow::make); },
+          {{"Quillon FTP", leave}, User::press("NOT CONNECTED", IDOK)});
+    ::SetEvent(Slow::dialled.get());
+    EXPECT_FALSE(Slow::opened);
+}
 
 TEST_F(FtpFaultsTest, WithoutADialUpLinkTheAttemptGoesOnAndWithoutNetworkingItEnds) {
     addSite("127.0.0.1", "plain", "pw");
@@ -212,6 +296,9 @@ TEST_F(FtpFaultsTest, AnErrorThatNoServerExplainsIsToldInTheWordsOfItsCommand) {
     EXPECT_EQ(say("old/", mnuDirDelete,
                   {User::press("DELETION CONFIRMATION", IDYES), User::press("DELETE DIFFICULTY", IDOK)}),
               "There was a problem deleting old/.");
+    EXPECT_EQ(say("my page.htm", mnuRClist, {User::press("SIZE of my page.htm is:", IDOK)}),
+              "Approximately 42 Bytes")
+        << "a pattern would end at the blank";
     // A given-up upload may hold the file of another test for a while.
     savePage("other.htm", "page");
     EXPECT_EQ(saidToClick(cmdUp, "ERROR"), "Error uploading");

@@ -1,6 +1,7 @@
+#include "document/system_code_pages.h"
 #include "forms/frmCrypt.h"
 #include "forms/frmToUp.h"
-#include "ftp/core/scramble.h"
+#include "ftp/core/password.h"
 #include "ftp/frmCrypt.h"
 #include "ftp/frmToUp.h"
 #include "ftp/site_store.h"
@@ -28,11 +29,12 @@ TEST_F(FtpSitesTest, ASiteIsAddedOnceItsFieldsAreRightAndOnlyOnce) {
     fill(txtName, "keeper");
     ::CheckDlgButton(dialog(), chkPass, BST_CHECKED);
     EXPECT_EQ(complaint("REMINDER"), "You need to enter a PASSWORD to save it.");
-    fill(txtPassWord, "lamp");
+    ::SetDlgItemTextW(dialog(), txtPassWord, L"l\u00E4mp \u0142");
     enter();
     EXPECT_EQ(dialog(), nullptr);
     EXPECT_EQ(main().menu().caption(mnuUploadSites), "ftp.sandholm.example");
-    EXPECT_EQ(ftp::FindSite(ftp::ReadSections(), 0)->storedPassword, ftp::ScramblePassword("lamp"));
+    const std::string stored = ftp::FindSite(ftp::ReadSections(), 0)->storedPassword;
+    EXPECT_EQ(ftp::ReadPassword(stored, document::SystemCodePages()), "lämp ł") << "UTF-8 where it must";
     frmCrypt::open(main());
     fill(txtURL, "ftp.sandholm.example");
     fill(txtName, "other");
@@ -58,15 +60,16 @@ TEST_F(FtpSitesTest, TheUrlIsLookedAtWhenTheFocusLeavesTheDialog) {
 }
 
 TEST_F(FtpSitesTest, ASiteIsDeletedWithItsPasswordOnly) {
-    const ftp::Site site{0, "ftp.sandholm.example", "keeper", ftp::ScramblePassword("lamp")};
+    const std::string stored = ftp::StoredPassword("lamp", document::SystemCodePages());
+    const ftp::Site site{0, "ftp.sandholm.example", "keeper", stored};
     ftp::Apply(ftp::AddSite(ftp::ReadSections(), site).changes);
     const auto clickDelete = [](HWND form) { ::PostMessageA(::GetDlgItem(form, cmdDelete), BM_CLICK, 0, 0); };
     const auto heard =
-        User::hears([&] { frmToUp::ask(main(), site.url, 0); }, {{"FTP Site", clickDelete},
-                                                                 User::enter("Quillon", "Lamp"),
-                                                                 User::press("INCORRECT PASSWORD", IDOK),
-                                                                 {"FTP Site", clickDelete},
-                                                                 User::enter("Quillon", "lamp")});
+        User::hears([&] { frmToUp::ask(main(), site.url); }, {{"FTP Site", clickDelete},
+                                                              User::enter("Quillon", "Lamp"),
+                                                              User::press("INCORRECT PASSWORD", IDOK),
+                                                              {"FTP Site", clickDelete},
+                                                              User::enter("Quillon", "lamp")});
     EXPECT_EQ(heard[1], "Enter Site Password To Delete ftp.sandholm.example");
     EXPECT_EQ(heard[2], "Check password and try again.");
     EXPECT_FALSE(ftp::FindSite(ftp::ReadSections(), 0));

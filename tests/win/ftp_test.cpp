@@ -2,12 +2,14 @@
 
 #include <cstdlib>
 
+#include "document/system_code_pages.h"
 #include "forms/frmUpload.h"
-#include "ftp/core/scramble.h"
+#include "ftp/core/password.h"
 #include "ftp/frmUpload.h"
 #include "ftp/site_store.h"
 #include "win/drop_target.h"
 #include "win/message_loop.h"
+#include "win/window.h"
 
 namespace {
 
@@ -32,7 +34,7 @@ void FtpTest::SetUp() {
 }
 
 void FtpTest::addSite(const std::string& url, const std::string& name, const std::string& password) {
-    const ftp::Site site{0, url, name, ftp::ScramblePassword(password)};
+    const ftp::Site site{0, url, name, ftp::StoredPassword(password, document::SystemCodePages())};
     ftp::Apply(ftp::AddSite(ftp::ReadSections(), site).changes);
 }
 
@@ -73,7 +75,7 @@ std::string FtpTest::saidToClick(int id, const std::string& title) {
 
 std::string FtpTest::saidToDrop(std::vector<std::string> files, const std::string& title) {
     const auto drop = [&] {
-        ::SendMessageA(control(lstRemoteFiles), win::kDropped, 0, reinterpret_cast<LPARAM>(&files));
+        win::SendDropped(control(lstRemoteFiles), files);
         win::RunPending();
     };
     return said(drop, title);
@@ -105,20 +107,16 @@ std::string FtpTest::lines() {
     std::string all;
     const HWND list = control(lstRemoteFiles);
     const auto count = static_cast<WPARAM>(::SendMessageA(list, LB_GETCOUNT, 0, 0));
-    for (WPARAM i = 0; i < count; ++i) {
-        std::string line(static_cast<std::size_t>(::SendMessageA(list, LB_GETTEXTLEN, i, 0)) + 1, '\0');
-        ::SendMessageA(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(line.data()));
-        line.pop_back();
-        all.append(all.empty() ? "" : ",").append(line);
-    }
+    for (WPARAM i = 0; i < count; ++i)
+        all.append(all.empty() ? "" : ",").append(win::ListRow(list, static_cast<LRESULT>(i)));
     return all;
 }
 
 bool FtpTest::select(const std::string& line) {
     const HWND list = control(lstRemoteFiles);
     if (!list) return false;
-    const LRESULT index = ::SendMessageA(list, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                                         reinterpret_cast<LPARAM>(line.c_str()));
+    const LRESULT index = ::SendMessageW(list, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                         reinterpret_cast<LPARAM>(win::ToWide(line).c_str()));
     if (index != LB_ERR) ::SendMessageA(list, LB_SETCURSEL, static_cast<WPARAM>(index), 0);
     return index != LB_ERR;
 }

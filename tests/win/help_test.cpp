@@ -41,19 +41,17 @@ TEST_F(HelpTest, EachTopicShowsItsHeadingAndWords) {
     EXPECT_FALSE(::IsWindow(dialog));
 }
 
-TEST_F(HelpTest, EachButtonShowsItsDescriptionByClickAndByKey) {
+TEST_F(HelpTest, EachButtonShowsItsDescription) {
     const HWND dialog = open();
     ASSERT_TRUE(dialog);
+    const ToolButtons tools(dialog);
+    EXPECT_EQ(tools.names(true), ToolButtons(main().mainHwnd()).names());
     for (int i = 0; i < 17; ++i) {
-        ::SendMessageA(::GetDlgItem(dialog, Picture1 + i), BM_CLICK, 0, 0);
+        tools.click(i);
         EXPECT_EQ(text(dialog, lblHead), " Toolbar Details");
         EXPECT_EQ(text(dialog, Label1), "Quillon");
         EXPECT_EQ(text(dialog, lblWords), help::ButtonWords(static_cast<std::size_t>(i))) << i;
     }
-    ::SetFocus(::GetDlgItem(dialog, Picture1));
-    MSG enter{::GetFocus(), WM_KEYDOWN, VK_RETURN, 0, 0, {}};
-    ::IsDialogMessageA(dialog, &enter);
-    EXPECT_EQ(text(dialog, lblWords), help::ButtonWords(0));
     ::SendMessageA(::GetDlgItem(dialog, cmdClose), BM_CLICK, 0, 0);
     EXPECT_FALSE(::IsWindow(dialog));
 }
@@ -66,15 +64,17 @@ TEST_F(HelpTest, TheAboutBoxTellsTheVersionAndItsLinksOpenByClickAndByKey) {
     };
     const auto use = [&](HWND dialog) {
         EXPECT_EQ(text(dialog, lblVersion), "Version 4.1.2");
-        ::SendMessageA(::GetDlgItem(dialog, lblLinks), BM_CLICK, 0, 0);
+        const HWND page = ::GetDlgItem(dialog, lblLinks);
+        EXPECT_EQ(seen::TextOf(page), "http://www.example.com/quillon/");
+        for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP})
+            ::PostMessageW(page, message, 0, MAKELPARAM(9, 9));
         expectOpens("http://www.example.com/quillon/");
         const HWND mail = ::GetDlgItem(dialog, lblLinks + 1);
-        ::SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(mail), TRUE);
-        for (const WPARAM key : {VK_SPACE, VK_RETURN}) {
-            ::PostMessageA(mail, WM_KEYDOWN, key, 0);
-            ::PostMessageA(mail, WM_KEYUP, key, 0);
-            expectOpens("mailto:support@example.com");
-        }
+        EXPECT_EQ(seen::TextOf(mail), "support@example.com");
+        ::SendMessageW(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(mail), TRUE);
+        ::PostMessageW(mail, WM_KEYDOWN, VK_RETURN, 0);
+        ::PostMessageW(mail, WM_KEYUP, VK_RETURN, 0);
+        expectOpens("mailto:support@example.com");
         ::PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
     };
     heard([&] { run(mnuHelpAbout); }, {{"About Quillon", use}});

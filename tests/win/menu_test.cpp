@@ -1,3 +1,5 @@
+#include <cstdlib>
+
 #include "win/app_test.h"
 #include "win/message_loop.h"
 
@@ -43,23 +45,99 @@ TEST_F(MenuTest, WhatNeedsADocumentIsGreyWithoutOne) {
     EXPECT_TRUE(label("No File Open"));
 }
 
-TEST_F(MenuTest, ToolbarButtonsHaveNamesAndFollowTheDocuments) {
-    const auto isEnabled = [&](const char* name) {
-        return ::IsWindowEnabled(seen::Child(main().mainHwnd(), name, "Button")) != FALSE;
-    };
-    for (const bool hasPage : {false, true}) {
-        if (hasPage) newPage("");
-        EXPECT_TRUE(isEnabled("New") && isEnabled("Open"));
-        for (const char* name : {"Close", "Save", "Save As", "Cut", "Copy", "Paste", "Undo Cut/Paste"})
-            EXPECT_EQ(isEnabled(name), hasPage) << name;
-    }
+constexpr char kTools[] =
+    "|New|Open|Close|Save|Save As|Cut|Copy|Paste|Undo "
+    "Cut/Paste|Find|Replace|Reset|Preview|Spelling|Print|Color|Help";
+
+TEST_F(MenuTest, ToolbarButtonsHaveNamesFollowTheDocumentsAndLeaveTheFocusInThePage) {
+    const ToolButtons tools(main().mainHwnd());
+    EXPECT_EQ(tools.names(), kTools);
+    EXPECT_EQ(tools.names(true), "|New|Open|Help");
+    tools.click(2);  // nothing to close
+    tools.click(0);
+    EXPECT_EQ(tools.names(true), kTools);
+    EXPECT_TRUE(pageHasFocus());
+    tools.click(0);
+    EXPECT_EQ(main().documents().size(), 2U);
+    EXPECT_TRUE(pageHasFocus());
+    EXPECT_EQ(said(tbrPicture1 + 17), "Tool selection error.");
+    tools.click(2);
+    tools.click(2);
+    EXPECT_EQ(tools.names(true), "|New|Open|Help");
 }
 
 TEST_F(MenuTest, TheMouseFindsTheNameOfAButtonThatWorksAndOfOneThatDoesNot) {
-    for (const char* name : {"New", "Save"}) {
-        const RECT button = seen::PlaceOf(seen::Child(main().mainHwnd(), name, "Button"));
-        ::SetCursorPos(button.left + 9, button.top + 9);
+    const ToolButtons tools(main().mainHwnd());
+    const RECT bar = seen::PlaceOf(tools.bar());
+    for (const auto& [index, name] : {std::pair(0, "New"), std::pair(3, "Save")}) {
+        const RECT button = tools.place(index);
+        ::SetCursorPos(bar.left + button.left + 9, bar.top + button.top + 9);
         EXPECT_TRUE(seen::Until([name] { return win::RunPending() && window(name); })) << name;
+    }
+}
+
+TEST_F(MenuTest, ANarrowWindowShowsTheToolbarInRowsAboveThePages) {
+    const ToolButtons tools(main().mainHwnd());
+    const auto bottomOf = [&](int width) {
+        ::SetWindowPos(main().mainHwnd(), nullptr, 0, 0, width, 500, SWP_NOMOVE | SWP_NOZORDER);
+        RECT bar{};
+        ::GetClientRect(tools.bar(), &bar);
+        for (int i = 0; i < 17; ++i) {
+            const RECT button = tools.place(i);
+            RECT shown{};
+            ::IntersectRect(&shown, &button, &bar);
+            EXPECT_TRUE(::EqualRect(&shown, &button)) << i << " of a window " << width << " wide";
+        }
+        const RECT strip = seen::PlaceOf(::GetParent(tools.bar()));
+        EXPECT_LT(seen::PlaceOf(tools.bar()).bottom, strip.bottom);
+        EXPECT_EQ(seen::PlaceOf(main().mdiClient()).top, strip.bottom);
+        return tools.place(16).bottom;
+    };
+    const LONG one = bottomOf(800);
+    EXPECT_GT(bottomOf(300), one);
+    EXPECT_EQ(bottomOf(800), one);
+}
+
+TEST_F(MenuTest, PicturesAndStripFollowTheSystem) {
+    const auto hasGround = [&](HMENU popup, int position, COLORREF colour) {
+        MENUITEMINFOW item{};
+        item.cbSize = sizeof item;
+        item.fMask = MIIM_CHECKMARKS;
+        ::GetMenuItemInfoW(popup, static_cast<UINT>(position), TRUE, &item);
+        EXPECT_EQ(item.hbmpChecked, item.hbmpUnchecked);
+        const win::UniqueDc memory(::CreateCompatibleDC(nullptr));
+        const HGDIOBJ old = ::SelectObject(memory.get(), item.hbmpUnchecked);
+        bool found = false;
+        const int size = ::GetSystemMetrics(SM_CXMENUCHECK);
+        for (int i = 0; i < size * size; ++i)
+            found = found || ::GetPixel(memory.get(), i % size, i / size) == colour;
+        ::SelectObject(memory.get(), old);
+        return found;
+    };
+    constexpr int kMenuColour = COLOR_MENU;
+    const COLORREF before = ::GetSysColor(kMenuColour);
+    for (const COLORREF colour : {before, RGB(1, 99, 200), before}) {
+        ::SetSysColors(1, &kMenuColour, &colour);
+        win::RunPending();
+        for (const int position : {0, 1, 2, 4, 5, 6})
+            EXPECT_TRUE(hasGround(menu(0), position, colour)) << position;
+        EXPECT_TRUE(hasGround(menu(6), 0, colour));
+    }
+
+    NONCLIENTMETRICSW kept{};
+    kept.cbSize = sizeof kept;
+    ::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof kept, &kept, 0);
+    NONCLIENTMETRICSW large = kept;
+    large.lfMessageFont.lfHeight = -40;
+    for (NONCLIENTMETRICSW* metrics : {&large, &kept}) {
+        ::SystemParametersInfoW(SPI_SETNONCLIENTMETRICS, sizeof kept, metrics, 0);
+        ::SendMessageW(main().mainHwnd(), WM_SETTINGCHANGE, SPI_SETNONCLIENTMETRICS, 0);
+        const HWND results = label("File updates are shown here.");
+        LOGFONTW font{};
+        ::GetObjectW(reinterpret_cast<HFONT>(::SendMessageW(results, WM_GETFONT, 0, 0)), sizeof font, &font);
+        EXPECT_EQ(font.lfHeight, metrics->lfMessageFont.lfHeight);
+        const RECT place = seen::PlaceOf(results);
+        EXPECT_GE(place.bottom - place.top, std::abs(font.lfHeight));
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "document/core/page_outline.h"
 #include "document/mTxtBoxAPI.h"
+#include "document/system_code_pages.h"
 #include "files/page_writer.h"
 #include "win/app_test.h"
 #include "win/clipboard.h"
@@ -11,46 +12,117 @@ namespace {
 
 using PageTest = AppTest;
 
-std::string RandomPage(unsigned seed, std::size_t length) {
-    constexpr char kAlphabet[] = "ab \t\r\n\r\n\r\n<>\xE9\x80\xFF\x81";
+std::u16string RandomPage(unsigned seed, std::size_t length) {
+    constexpr char16_t kAlphabet[] = u"ab \t\r\n\r\n\r\n<>\u00E9\u20AC\u0141\u2028\xDC81";
     std::mt19937 random(seed);
-    std::string page;
-    while (page.size() < length) page += kAlphabet[random() % (sizeof kAlphabet - 1)];
+    std::u16string page;
+    while (page.size() < length) page += kAlphabet[random() % (std::size(kAlphabet) - 1)];
     return page;
 }
 
 TEST_F(PageTest, EveryByteOfAPageIsKept) {
     std::string allBytes;
     for (int c = 0; c < 256; ++c) allBytes += static_cast<char>(c);
+    const std::string mark16 = "\xFF\xFE";
+    const auto declared = [&allBytes](const std::string& label) {
+        return "<META CHARSET=" + label + ">" + allBytes + "\x82\xA0\xED\x40\xFA\x5C\x81\x30";
+    };
     for (const std::string& page :
-         {allBytes, std::string("{\\rtf1 not formatted}"), std::string("\xEF\xBB\xBF<p>"),
+         {allBytes, declared("windows-1251"), declared("shift_jis"), declared("gb2312"), declared("utf-8"),
+          declared("iso-2022-jp"), mark16 + std::string("a\0\r\0\n\0\x42\x04\x00\xD8z", 11),
+          std::string("\xFE\xFF\x00\x61\x04\x42\xDC\x00\x20\x28", 10), std::string("\u65E5\u672C \u0141\xC3"),
+          std::string("{\\rtf1 not formatted}"), std::string("\xEF\xBB\xBF<p>"),
           std::string("\xEF\xBB\xBF\xEF\xBB\xBF"), std::string("\xEF\xBB\xBF"), std::string("\0\0", 2),
-          std::string("a\rb\nc\r\r\nd\r\n"), std::string(200000, 'x'),
+          std::string("a\rb\nc\r\r\nd\r\n"), std::string(20000, 'x'),
           std::string(4095, 'x') + "\r\n" + std::string(4095, 'y') + "\r\n"}) {
-        EXPECT_EQ(newPage(page).txtPad().text(), page) << page.substr(0, 20);
-        EXPECT_FALSE(active().txtPad().isChanged());
-        active().setPage(page);
-        EXPECT_EQ(pageText(), page) << "a second time: " << page.substr(0, 20);
+        openPage("page.htm", page);
+        const auto bytes = [this] {
+            return document::Encode(active().encoding(), active().txtPad().text(),
+                                    document::SystemCodePages());
+        };
+        EXPECT_EQ(bytes(), page) << page.substr(0, 20);
+        EXPECT_FALSE(active().txtPad().isChanged() || active().txtPad().isReadOnly());
+        active().replacePage(active().txtPad().text());
+        EXPECT_EQ(bytes(), page) << "a second time: " << page.substr(0, 20);
+        active().txtPad().setChanged(false);
+        run(mnuFileClose);
     }
 }
 
 TEST_F(PageTest, WhatIsWrittenAreTheControlsLinesWhateverTheBreaksAndTheWrap) {
     for (unsigned seed = 1; seed <= 25; ++seed) {
-        const std::string page = RandomPage(seed, 20 + seed * 7);
-        document::RichEdit& pad = newPage(page).txtPad();
-        std::string expected;
+        const document::Page page{RandomPage(seed, 20 + seed * 7), {document::kUtf8, false}};
+        const frmChild& window = frmChild::open(main(), "random", page);
+        document::RichEdit& pad = window.txtPad();
+        std::u16string lines;
         for (long line = 0; line < mTxtBoxAPI::LineCount(pad.hwnd()); ++line) {
             const long start = mTxtBoxAPI::LineStart(pad.hwnd(), line);
-            expected += pad.textRange(start, start + mTxtBoxAPI::LineLength(pad.hwnd(), line)) + "\r\n";
+            pad.select(start, start + mTxtBoxAPI::LineLength(pad.hwnd(), line));
+            lines += pad.selectedText() + u"\r\n";
         }
-        EXPECT_EQ(files::PageBytes(pad), expected) << "seed " << seed;
+        const std::string expected = document::Encode(page.encoding, lines, document::SystemCodePages());
+        EXPECT_EQ(files::FileOf(window).bytes, expected) << "seed " << seed;
         pad.setWordWrap(true);
-        EXPECT_EQ(files::PageBytes(pad), expected) << "wrapped, seed " << seed;
+        EXPECT_EQ(files::FileOf(window).bytes, expected) << "wrapped, seed " << seed;
         EXPECT_TRUE(pad.wordWrap());
         run(mnuFileClose);
     }
     const std::string longLine = std::string(70000, 'x') + " y";
-    EXPECT_EQ(files::PageBytes(newPage(longLine).txtPad()), longLine + "\r\n");
+    EXPECT_EQ(files::FileOf(newPage(longLine)).bytes, longLine + "\r\n");
+}
+
+TEST_F(PageTest, WhatTheEncodingCannotHoldGoesInAsAReference) {
+    openPage("page.htm", "<META CHARSET=windows-1252>\r\n\xE9");
+    type("\u0141\u00E9");
+    EXPECT_TRUE(pageText().starts_with("&#321;\u00E9<META")) << pageText();
+    run(mnuEditUndo);
+    run(mnuEditUndo);
+    EXPECT_TRUE(pageText().starts_with("<META")) << "one step each: " << pageText();
+    setClipboard("\u65E5\U0001F600");
+    run(mnuEditPaste);
+    EXPECT_TRUE(pageText().starts_with("&#26085;&#128512;<META"));
+    // Another encoding takes effect with the save, which shows what it cannot hold.
+    active().selectAll();
+    active().insert(u"<META CHARSET=\"utf-8\">\u00E9");
+    type("\u0142");
+    run(mnuFileSave);
+    EXPECT_EQ(readFile(scratch("page.htm")), "<META CHARSET=\"utf-8\">\u00E9&#322;\r\n");
+    type("\u0142");
+    run(mnuFileSave);
+    EXPECT_EQ(readFile(scratch("page.htm")), "<META CHARSET=\"utf-8\">\u00E9&#322;\u0142\r\n");
+    active().selectAll();
+    active().insert(u"<META CHARSET=koi8-r>\u0416\u00E9");
+    run(mnuFileSave);
+    EXPECT_EQ(readFile(scratch("page.htm")), "<META CHARSET=koi8-r>\xF6&#233;\r\n");
+    EXPECT_EQ(pageText(), "<META CHARSET=koi8-r>\u0416&#233;");
+    EXPECT_FALSE(active().isChanged());
+}
+
+TEST_F(PageTest, AWholeReplacementIsOneStepBehindWhichAllOthersStillAre) {
+    frmChild& page = openPage("page.htm", "one");
+    type("a");
+    page.replacePage(u"two");
+    type("b");
+    run(mnuEditUndo);
+    EXPECT_EQ(pageText(), "two");
+    run(mnuFileSave);
+    run(mnuOptWW);
+    run(mnuOptWW);
+    run(mnuEditUndo);
+    EXPECT_EQ(pageText(), "aone");
+    EXPECT_TRUE(page.isChanged()) << "its file holds the other by now";
+    run(mnuEditUndo);
+    EXPECT_EQ(pageText(), "one");
+}
+
+TEST_F(PageTest, AVeryLongLineIsWrappedOnTheScreenAndNowhereElse) {
+    std::string page = "<p>";
+    while (page.size() < 5000) page += "some words ";
+    openPage("long.htm", page);
+    EXPECT_TRUE(main().menu().isChecked(mnuOptWW));
+    EXPECT_EQ(files::FileOf(active()).bytes, page + "\r\n");
+    newPage(std::string(3999, 'x'));
+    EXPECT_FALSE(main().menu().isChecked(mnuOptWW));
 }
 
 TEST_F(PageTest, NewPagesAreNumberedAndHoldTheOutline) {
@@ -104,7 +176,7 @@ TEST_F(PageTest, CutPasteAndUndo) {
     EXPECT_EQ(pageText(), "");
     run(mnuEditUndo);
     EXPECT_EQ(pageText(), "one two") << "one step";
-    win::SetClipboardText(main().mainHwnd(), "{\\rtf1 \\b bold}");
+    setClipboard("{\\rtf1 \\b bold}");
     active().selectAll();
     ::SendMessageA(active().txtPad().hwnd(), WM_PASTE, 0, 0);
     EXPECT_EQ(pageText(), "{\\rtf1 \\b bold}") << "characters only";
@@ -152,14 +224,14 @@ TEST_F(PageTest, ACloseWhileABoxWaitsIsIgnoredAndExitAsksForEveryChangedPage) {
     EXPECT_FALSE(::IsWindow(window));
 }
 
-TEST_F(PageTest, AThousandPagesLeaveNothingBehind) {
+TEST_F(PageTest, ManyPagesLeaveNothingBehind) {
     for (int i = 0; i < 5; ++i) {
         newPage("warm");
         run(mnuFileClose);
     }
     const seen::Holdings before = seen::HeldBy(::GetCurrentProcessId());
     ASSERT_GT(before.gdi, 0);
-    for (int i = 0; i < 1000; ++i) {
+    for (int i = 0; i < 200; ++i) {
         newPage("page");
         run(mnuFileClose);
         win::RunPending();

@@ -93,6 +93,27 @@ TEST_F(PreviewTest, APreviewDuringAnotherShowsTheNewTextAndHasItsOwnTime) {
     EXPECT_FALSE(::FindWindowA("modPreview", nullptr));
 }
 
+TEST_F(PreviewTest, AFileOfTheAuthorsIsNeitherWrittenNorDeleted) {
+    openPage("index.htm", "1", "2");
+    writeFile(scratch("$$index.htm"), "the author's");
+    preview("$$$index.htm");
+    // Over our copy, while the browser has it.
+    writeFile(scratch("$$$index.htm"), "the author's own");
+    passTime();
+    EXPECT_EQ(readFile(scratch("$$index.htm")), "the author's");
+    EXPECT_EQ(readFile(scratch("$$$index.htm")), "the author's own");
+    EXPECT_FALSE(::FindWindowA("modPreview", nullptr));
+    preview("$$$$index.htm");
+    ::DeleteFileA(scratch("$$$$index.htm").c_str());
+    passTime();
+    EXPECT_FALSE(::FindWindowA("modPreview", nullptr)) << "a copy that has gone is not waited for";
+    // Unchanged, but its file has gone: that is not made anew.
+    active().txtPad().setChanged(false);
+    ::DeleteFileA(scratch("index.htm").c_str());
+    preview("$$$$index.htm");
+    EXPECT_EQ(readFile(scratch("index.htm")), "(no file)");
+}
+
 TEST_F(PreviewTest, TheCopyGoesWithTheProgram) {
     frmChild& page = openPage("index.htm", "1", "2");
     preview("$$index.htm");
@@ -113,6 +134,11 @@ TEST_F(PreviewTest, ABrowserThatIsMissingOrDoesNotStartIsTold) {
         (std::vector<std::string>{"Could not find associated Browser", "Web Page Could Not Be Opened."}));
     EXPECT_FALSE(copyIsThere());
     EXPECT_FALSE(::FindWindowA("modPreview", nullptr));
+    // No plain executable is found, but the shell knows how to open the page.
+    ::SetEnvironmentVariableA("PATH", (Environment("PATH") + ';' + ToolPath("")).c_str());
+    use("standin_browser");
+    preview("$$index.htm");
+    passTime();
     writeFile(scratch("broken.exe"), "no program");
     use(scratch("broken.exe"));
     EXPECT_EQ(said(tbrPreview, "URL Failed"), "Web Page Could Not Be Opened.");
@@ -147,7 +173,7 @@ TEST_F(ResetTest, ResetBringsBackTheSavedPageAndLeavesTheEditedOneOnTheClipboard
 
 TEST_F(ResetTest, RefusalsAndFailuresLeaveThePageAlone) {
     const frmChild& page = openPage("index.htm", "one\r\n");
-    win::SetClipboardText(main().mainHwnd(), "kept");
+    setClipboard("kept");
     EXPECT_EQ(said(tbrReset), "Page has not been edited since last save...\r\n\r\nNo need to Reset");
     type("x");
     win::UniqueFile locked = hold(scratch("index.htm"), 0);

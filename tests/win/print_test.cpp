@@ -34,12 +34,10 @@ class PrintTest : public AppTest {
         std::string description = "Z:" QUILLON_TESTS "/win/data/printer.ppd";
         std::replace(description.begin(), description.end(), '/', '\\');
         char driverFile[] = "wineps.drv";
-        char environment[] = "Windows NT x86";
         char dataType[] = "RAW";
         DRIVER_INFO_3A driver{};
         driver.cVersion = 3;
         driver.pName = kPrinter;
-        driver.pEnvironment = environment;
         driver.pDriverPath = driver.pConfigFile = driverFile;
         driver.pDataFile = description.data();
         driver.pDefaultDataType = dataType;
@@ -84,13 +82,19 @@ class PrintTest : public AppTest {
             Line& line = all.back();
             if (line.text.empty()) line = {page, left, base, 0, ""};
             line.right = std::max(line.right, right);
-            const char letter = row[row.find("c=\"") + 3];
-            line.text += letter == '&' ? ' ' : letter;
+            line.text += letterAt(row.c_str() + row.find("c=\"") + 3);
         }
         return all;
     }
 
  private:
+    // Itself or, as "&#x3a9;", by its code.
+    static std::string letterAt(const char* at) {
+        unsigned code = static_cast<unsigned char>(*at);
+        if (std::sscanf(at, "&#x%x", &code) == 1 && code == 0xA0) code = ' ';
+        const auto unit = static_cast<char16_t>(code);
+        return win::Utf8FromUtf16({&unit, 1});
+    }
     // Of a file in the test's folder, which is on drive Z:, the root directory.
     std::string unixPath(const std::string& name) const {
         std::string path = scratch(name).substr(2);
@@ -101,7 +105,7 @@ class PrintTest : public AppTest {
 
 TEST_F(PrintTest, AHeaderThenTheTextWithItsBlankLines) {
     install();
-    print("first\r\n\r\n\tsecond third\r\nlast\r\n", "C:\\site\\index.htm");
+    print("first\r\n\r\n\tsecond third\r\nlast \u03A8\u0416\u00E9\r\n", "C:\\site\\index.htm");
     const std::vector<Line> lines = printed();
     ASSERT_EQ(lines.size(), 4U);
     EXPECT_EQ(lines[0].text, "          C:\\site\\index.htm");
@@ -110,7 +114,7 @@ TEST_F(PrintTest, AHeaderThenTheTextWithItsBlankLines) {
     EXPECT_EQ(lines[1].text, "first");
     EXPECT_EQ(lines[1].left, kBodyLeft);
     EXPECT_EQ(lines[2].text, "    second third");
-    EXPECT_EQ(lines[3].text, "last");
+    EXPECT_EQ(lines[3].text, "last \u03A8\u0416\u00E9");
     const int step = lines[3].base - lines[2].base;
     EXPECT_GE(step, 9);
     EXPECT_NEAR(lines[2].base - lines[1].base, 2 * step, 1) << "the blank line has its room";

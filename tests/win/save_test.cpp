@@ -45,7 +45,7 @@ TEST_F(SaveTest, EveryCallThatFailsLeavesTheOldFileOrTheNewOne) {
         writeFile(path, "old");
         active().txtPad().setChanged(false);
         active().selectAll();
-        active().txtPad().replaceSelection(page);
+        active().insert(win::Utf16FromUtf8(page));
     };
     for (const bool refused : {false, true}) {
         inPlace = refused;
@@ -74,8 +74,8 @@ TEST_F(SaveTest, AFullDiskLeavesTheOldFileOrTheNewOne) {
     const std::string path = std::string(disk) + "\\page.htm";
     const std::string old(9000, 'o');
     writeFile(path, old);
-    const frmChild& page = *files::OpenFile(main(), path);
-    page.txtPad().replaceSelection(std::string(16000, 'n'));
+    frmChild& page = *files::OpenFile(main(), path);
+    page.insert(std::u16string(16000, u'n'));
     const std::string fresh = pageText() + "\r\n";
     int kept = 0;
     int saved = 0;
@@ -157,11 +157,12 @@ TEST_F(SaveTest, LongPathsAndOddNamesAreFilesLikeOthers) {
         folder += "\\" + std::string(60, static_cast<char>('a' + i));
         ::CreateDirectoryW(win::WidePath(folder).c_str(), nullptr);
     }
-    for (const std::string& path : {folder + "\\deep.htm", scratch("[a] ~+%^{b} & caf\xE9.htm")}) {
+    for (const std::string& path :
+         {folder + "\\deep.htm", scratch("[a] ~+%^{b} & caf\u00E9 \u0141\u65E5.htm")}) {
         ASSERT_TRUE(files::ReplaceFileContents(path, "bytes")) << path;
         frmChild* page = files::OpenFile(main(), path);
         ASSERT_TRUE(page) << path;
-        EXPECT_EQ(page->txtPad().text(), "bytes");
+        EXPECT_EQ(page->txtPad().text(), u"bytes");
         EXPECT_TRUE(modOpen::SaveDocument(main(), page->id(), path));
         ::DeleteFileW(win::WidePath(path).c_str());
     }

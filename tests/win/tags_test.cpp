@@ -1,7 +1,7 @@
 #include <ctime>
 
-#include "authoring/core/modScripts.h"
-#include "authoring/core/tag_fragments.h"
+#include "authoring/tags/core/modScripts.h"
+#include "authoring/tags/core/tag_fragments.h"
 #include "win/app_test.h"
 
 namespace {
@@ -35,7 +35,7 @@ class TagsTest : public AppTest {
         SCOPED_TRACE(command);
         run(static_cast<Command>(command));
         if (!fragment.empty()) return expectReplacedBy(std::string(fragment));
-        EXPECT_EQ(active().txtPad().selectedText(), "this");
+        EXPECT_EQ(active().txtPad().selectedText(), u"this");
     }
 };
 
@@ -66,7 +66,7 @@ TEST_F(TagsTest, AFontSizeGoesInAsItWasTypedAndNoneDeletesTheSelection) {
     }
     EXPECT_EQ(heard(ask, {User::enter("Font Size", "8"), User::press("Size out of range...", IDOK)}),
               "You will have to try again.\r\nRemember to enter a number between 1 and 7.");
-    EXPECT_EQ(active().txtPad().selectedText(), "this");
+    EXPECT_EQ(active().txtPad().selectedText(), u"this");
 }
 
 TEST_F(TagsTest, TheDateIsTodays) {
@@ -82,11 +82,8 @@ TEST_F(TagsTest, TheDateIsTodays) {
 }
 
 TEST_F(TagsTest, AnInsertAnUndoAndASaveKeepEveryByteOfThePage) {
-    const std::string page = "<BODY>\r\n\tcaf\xE9 \x80\xFF\r\n\r\n</BODY>";
-    writeFile(scratch("page.htm"), "");
-    frmChild& document = newPage(page);
-    document.setTag(scratch("page.htm"));
-    document.txtPad().select(8, 8);
+    const std::string page = "<BODY>\r\n\tcaf\u00E9 \u20AC\u00FF\r\n\r\n</BODY>";
+    openPage("page.htm", page).txtPad().select(8, 8);
     run(mnuTagsLsList);
     EXPECT_EQ(pageText(),
               "<BODY>\r\n" + std::string(authoring::TagFragment(TagMenu::Ls, 0)) + page.substr(8));

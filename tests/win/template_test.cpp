@@ -1,5 +1,5 @@
-#include "authoring/mTemplateLoad.h"
-#include "authoring/template_store.h"
+#include "authoring/templates/mTemplateLoad.h"
+#include "authoring/templates/template_store.h"
 #include "settings/CRegSettings.h"
 #include "win/app_test.h"
 
@@ -64,20 +64,19 @@ class TemplateTest : public AppTest {
         CRegSettings().SaveRegSetting("templateIDs", std::to_string(slot), id);
     }
 
-    // The IDs of the store, which the menu must show, with what belongs to them.
+    // The IDs of the store, those in brackets that the menu does not show.
     std::string ids() {
         std::string text;
         for (std::size_t i = 0; i < authoring::kTemplateSlots; ++i) {
             const auto item = static_cast<Command>(mnuOptsTempList + i);
             const std::string id = CRegSettings().GetRegSetting("templateIDs", std::to_string(i));
-            EXPECT_EQ(main().menu().isShown(item), !id.empty()) << "slot " << i;
-            EXPECT_EQ(main().menu().caption(item), id) << "slot " << i;
             EXPECT_EQ(CRegSettings().GetRegSetting("templateNames", std::to_string(i)).empty(), id.empty());
-            text += id.empty() ? "-" : id + ",";
+            const bool shown = main().menu().isShown(item);
+            EXPECT_EQ(main().menu().caption(item), shown ? id : "") << "slot " << i;
+            text += id.empty() ? "-" : shown ? id + "," : "[" + id + "]";
         }
-        const bool any = main().menu().isShown(mnuOptsTempList);
-        EXPECT_EQ(main().menu().isShown(mnuOptsTempOrg), any);
-        EXPECT_EQ(main().menu().isShown(mnuOptsTempSep1), any);
+        EXPECT_EQ(main().menu().isShown(mnuOptsTempOrg), text != "---------");
+        EXPECT_EQ(main().menu().isShown(mnuOptsTempSep1), text != "---------");
         return text;
     }
 
@@ -89,15 +88,15 @@ class TemplateTest : public AppTest {
 TEST_F(TemplateTest, APageBecomesATemplateAndATemplateANewPage) {
     type("!");
     EXPECT_EQ(ids(), "---------");
-    add("one.htm", "One & a/b: \"c\"?");
-    EXPECT_EQ(ids(), "One & a/b: \"c\"?,--------");
+    add("one.htm", "One & \u0141/b: \"c\"?");
+    EXPECT_EQ(ids(), "One & \u0141/b: \"c\"?,--------");
     EXPECT_EQ(readFile(TemplatePath("one.htm")), "!page\r\n");
     EXPECT_EQ(attributes("one.htm"), kReadOnly);
     EXPECT_TRUE(active().txtPad().isChanged()) << "the page itself has not been saved";
 
     run(mnuOptsTempList);
     EXPECT_EQ(main().documents().size(), 2U);
-    EXPECT_EQ(active().Caption(), "One & a/b: \"c\"?");
+    EXPECT_EQ(active().Caption(), "One & \u0141/b: \"c\"?");
     EXPECT_EQ(active().Tag(), "") << "a save must not overwrite the template";
     EXPECT_EQ(pageText(), "!page\r\n");
     EXPECT_FALSE(active().txtPad().isChanged());
@@ -111,7 +110,7 @@ TEST_F(TemplateTest, TheTenthDropsTheOldestButNotItsFile) {
     EXPECT_EQ(ids(), "9,8,7,6,5,4,3,2,1,");
     EXPECT_EQ(attributes("t0.htm"), kReadOnly);
     // Its name is free again, and the read-only file gives way.
-    active().txtPad().replaceSelection("new ");
+    active().insert(u"new ");
     add("t0.htm", "again");
     EXPECT_EQ(ids(), "again,9,8,7,6,5,4,3,2,");
     EXPECT_EQ(readFile(TemplatePath("t0.htm")), "new page\r\n");
@@ -145,16 +144,20 @@ TEST_F(TemplateTest, AFileThatCannotBeWrittenCostsNeitherListNorOlderTemplate) {
     EXPECT_EQ(attributes("two.htm"), kReadOnly);
 }
 
-TEST_F(TemplateTest, RebuildingDropsWhatHasGoneAndClosesTheGaps) {
+TEST_F(TemplateTest, AStartHidesWhatHasNoFileAndOnlyRebuildingDropsIt) {
     ::CreateDirectoryA(authoring::TemplateFolder().c_str(), nullptr);
-    writeFile(TemplatePath("a.htm"), "");
+    writeFile(TemplatePath("a.htm"), "template");
     store(1, "gone.htm", "Gone");
     store(8, "a.htm", "A");
+    mTemplateLoad::ShowTemplateMenu(main());
+    EXPECT_EQ(ids(), "-[Gone]------A,");
+    run(mnuOptsTempList + 8);
+    EXPECT_EQ(pageText(), "template");
     mTemplateLoad::RebuildTemplateMenu(main());
     EXPECT_EQ(ids(), "A,--------");
     clearFolder();
     EXPECT_EQ(said(mnuOptsTempList, kNote), "Unable to open Template");
-    EXPECT_EQ(main().documents().size(), 1U);
+    EXPECT_EQ(main().documents().size(), 2U);
     mTemplateLoad::RebuildTemplateMenu(main());
     EXPECT_EQ(ids(), "---------");
 }
@@ -203,13 +206,30 @@ TEST_F(TemplateTest, DeletingTakesTheFileTooUnlessItIsCalledOff) {
     EXPECT_EQ(attributes("one.htm"), kReadOnly);
 }
 
-TEST_F(TemplateTest, DeletingNeverReachesBeyondTheTemplatesFile) {
+TEST_F(TemplateTest, OfEqualIdsTheOneThatWasPickedGoes) {
+    for (const char* name : {"3.htm", "2.htm", "1.htm"}) add(name, name);
+    store(0, "1.htm", "Same");
+    store(1, "2.htm", "Same");
+    store(2, "", "");
+    store(3, "3.htm", "Same");
+    const auto deleteLast = [](HWND dialog) {
+        choose(dialog, 2, "Delete");
+        const HWND list = ControlsOfClass(dialog, "ComboBox").at(0);
+        for (const WPARAM dropped : {TRUE, FALSE}) ::SendMessageA(list, CB_SHOWDROPDOWN, dropped, 0);
+        Press(dialog, "Enter");
+    };
+    organize({{kOrganize, deleteLast}, User::press("Confirm file deletion", IDYES)});
+    EXPECT_EQ(attributes("3.htm"), INVALID_FILE_ATTRIBUTES);
+    EXPECT_EQ(ids(), "Same,Same,-------");
+}
+
+TEST_F(TemplateTest, DeletingAnEntryWithoutAFileReachesNoOther) {
     add("one.htm", "One");
-    for (const char* name : {"*.htm", "gone.htm", "..\\Templates"}) {
+    for (const char* name : {"*.htm", "gone.htm", "..\\Templates", ".\\one.htm"}) {
+        store(1, "one.htm", "One");
         store(0, name, "Odd");
-        const std::string said =
-            organize({deleting(0), User::press(kNote, IDOK), User::press(kOrganize, IDCANCEL)});
-        EXPECT_EQ(said.find("The file of that template is no longer there."), 0U) << name;
+        User::hears([&] { run(mnuOptsTempOrg); }, {deleting(0)});
+        EXPECT_EQ(ids(), "One,--------") << name;
         EXPECT_EQ(attributes("one.htm"), kReadOnly) << name;
     }
 }

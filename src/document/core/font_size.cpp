@@ -1,41 +1,20 @@
 #include "document/core/font_size.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 namespace document {
-namespace {
-
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
-std::string_view WithoutBlanks(std::string_view text) {
-    while (text.starts_with(' ')) text.remove_prefix(1);
-    while (text.ends_with(' ')) text.remove_suffix(1);
-    return text;
-}
-
-}  // namespace
 
 float ParseFontSize(std::string_view text) {
-    text = WithoutBlanks(text);
-    float value = 0;
-    float unit = 1;  // of the digit to come, 1 before the point
-    bool behindPoint = false;
-    bool digits = false;
-    for (const char c : text) {
-        if (IsDigit(c)) {
-            digits = true;
-            if (behindPoint) unit /= 10;
-            const auto digit = static_cast<float>(c - '0');
-            value = behindPoint ? value + digit * unit : value * 10 + digit;
-        } else if ((c == '.' || c == ',') && !behindPoint) {
-            behindPoint = true;
-        } else {
-            return 0;
-        }
-    }
-    return digits && value >= kSmallestPoints && value <= kLargestPoints ? value : 0;
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return 0;
+    std::string number(text.substr(first, text.find_last_not_of(' ') - first + 1));
+    std::replace(number.begin(), number.end(), ',', '.');
+    if (number.find_first_not_of("0123456789.") != std::string::npos) return 0;
+    char* end = nullptr;
+    const auto points = static_cast<float>(std::strtod(number.c_str(), &end));
+    return *end == '\0' && points >= kSmallestPoints && points <= kLargestPoints ? points : 0;
 }
 
 std::string FontSizeText(float points) {

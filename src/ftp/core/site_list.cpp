@@ -13,7 +13,14 @@ using settings::Row;
 
 constexpr int kFirstReservedKey = 99;  // the mark's; no site can have a name there
 constexpr int kLargestNumber = 32766;  // its successor is the largest selected index that there can be
+constexpr std::string_view kSchemeEnd = "://";
 constexpr SiteSection kSections[] = {SiteSection::sites, SiteSection::names, SiteSection::passes};
+
+std::string_view TrimBlanks(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(" \t");
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
 
 const std::vector<Row>& Rows(const SiteSections& stored, SiteSection section) {
     switch (section) {
@@ -49,6 +56,14 @@ std::optional<int> ReadNumber(std::string_view text) {
 std::optional<int> SiteIndex(const Row& row) {
     const std::optional<int> index = ReadNumber(row.key);
     return index && *index < kFirstReservedKey ? index : std::nullopt;
+}
+
+template <typename Wanted>
+std::optional<Site> FirstSite(const SiteSections& stored, Wanted wanted) {
+    std::vector<Site> sites = ReadSites(stored);
+    const auto site = std::find_if(sites.begin(), sites.end(), wanted);
+    if (site == sites.end()) return std::nullopt;
+    return std::move(*site);
 }
 
 // Where the mark stands when the sites are counted without gaps. A mark behind the last site stays
@@ -176,10 +191,11 @@ std::vector<Site> ReadSites(const SiteSections& stored) {
 }
 
 std::optional<Site> FindSite(const SiteSections& stored, int index) {
-    for (Site& site : ReadSites(stored)) {
-        if (site.index == index) return std::move(site);
-    }
-    return std::nullopt;
+    return FirstSite(stored, [index](const Site& site) { return site.index == index; });
+}
+
+std::optional<Site> FindSite(const SiteSections& stored, std::string_view url) {
+    return FirstSite(stored, [url](const Site& site) { return site.url == url; });
 }
 
 std::optional<int> LastUsedIndex(const SiteSections& stored) {
@@ -232,6 +248,26 @@ SiteChanges RemoveSite(const SiteSections& stored, int index) {
     wanted.erase(site);
     if (wanted.size() > kMaxSites) wanted.resize(kMaxSites);
     return Rewrite(stored).to(wanted, mark);
+}
+
+std::string_view StripScheme(std::string_view url) {
+    const std::size_t end = url.find(kSchemeEnd);
+    return end == std::string_view::npos ? url : url.substr(end + kSchemeEnd.size());
+}
+
+bool LooksLikeUrl(std::string_view url) {
+    return url.find('.') != std::string_view::npos;
+}
+
+SiteUrl SplitSiteUrl(std::string_view stored) {
+    const std::string_view url = StripScheme(stored);
+    const std::size_t slash = url.find('/');
+    SiteUrl site{std::string(TrimBlanks(url.substr(0, slash))), {}};
+    if (slash == std::string_view::npos) return site;
+    std::string_view path = TrimBlanks(url.substr(slash + 1));
+    while (!path.empty() && path.back() == '/') path.remove_suffix(1);
+    site.path = path;
+    return site;
 }
 
 }  // namespace ftp

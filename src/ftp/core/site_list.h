@@ -14,6 +14,7 @@ namespace ftp {
 
 constexpr int kMaxSites = 12;               // stored, at the keys "0" to "11"
 constexpr int kMaxMenuSites = 11;           // shown in the menu, one less on purpose
+constexpr int kNoSite = -1;                 // an index that no site has
 constexpr int kMaxMenuItems = 13;           // items of mnuUploadSites, 0 to 12
 constexpr const char* kLastUsedKey = "99";  // in "FTP Names": the index of the site used last
 
@@ -41,8 +42,9 @@ struct Site {
 // (empty then), and indices may have gaps; a name or password without a site is passed over.
 std::vector<Site> ReadSites(const SiteSections& stored);
 
-// The site with that index; none where the store has none.
+// The site with that index, or with that very address; none where the store has none.
 std::optional<Site> FindSite(const SiteSections& stored, int index);
+std::optional<Site> FindSite(const SiteSections& stored, std::string_view url);
 
 // The last-used mark. It may speak of an index that has no site (the site was pushed off the list).
 std::optional<int> LastUsedIndex(const SiteSections& stored);
@@ -83,5 +85,22 @@ SiteAddition AddSite(const SiteSections& stored, const Site& site);
 // passes to the one that takes its place; it is lost when the last site of the list is removed. No
 // changes when there is no such site; the three sections are gone when it was the only one.
 SiteChanges RemoveSite(const SiteSections& stored, int index);
+
+// The address as it was typed: the text after the first "://", or the whole text.
+std::string_view StripScheme(std::string_view url);
+
+// Whether this can be an address at all: it holds a ".".
+bool LooksLikeUrl(std::string_view url);
+
+struct SiteUrl {
+    std::string host;
+    // The directory to start in, for FtpSetCurrentDirectoryA: empty for the login's own, relative to
+    // it as in "host/pub/docs" (RFC 1738, 3.2.2), absolute when two slashes follow the host.
+    std::string path;
+};
+
+// Takes a stored address apart for connecting. Blanks around host and path, a scheme and slashes at the
+// end are dropped.
+SiteUrl SplitSiteUrl(std::string_view stored);
 
 }  // namespace ftp

@@ -6,7 +6,7 @@
 namespace modPrint {
 namespace {
 
-constexpr std::string_view kSample = "Web Design";  // ten characters of ordinary text
+constexpr std::u16string_view kSample = u"Web Design";  // ten characters of ordinary text
 constexpr int kSampleLength = 10;
 constexpr int kSampleWidthWithoutMetrics = 740;
 constexpr int kLineHeightWithoutMetrics = 240;
@@ -18,9 +18,9 @@ constexpr int kBodyLeft = 780;
 
 }  // namespace
 
-PrintLayout::PrintLayout(std::string_view text, std::string_view title, const Paper& paper, Measure measure,
-                         std::size_t tabLength)
-    : text_(ExpandTabs(text, tabLength)), header_(10, ' '), measure_(std::move(measure)) {
+PrintLayout::PrintLayout(std::u16string_view text, std::u16string_view title, const Paper& paper,
+                         Measure measure, std::size_t tabLength)
+    : text_(ExpandTabs(text, tabLength)), header_(10, u' '), measure_(std::move(measure)) {
     header_ += title;
     const int sampleWidth = measure_.width(kSample);
     const int tenCharacters = sampleWidth > 0 ? sampleWidth : kSampleWidthWithoutMetrics;
@@ -37,7 +37,7 @@ std::optional<PlacedLine> PrintLayout::next() {
         return PlacedLine{header_, 0, kHeaderTop, true};
     }
     const bool isFirst = position_ == 0;
-    const std::optional<std::string_view> line =
+    const std::optional<std::u16string_view> line =
         NextPrintLine(text_, position_, lineWidth_, measure_, likelyLength_);
     // Asked before the page is: a text that fills its last page leaves no empty one behind.
     if (!line) return std::nullopt;

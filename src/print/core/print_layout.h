@@ -18,8 +18,8 @@ struct Paper {
 };
 
 struct PlacedLine {
-    std::string_view text;  // valid as long as the layout
-    int left = 0;           // twips
+    std::u16string_view text;  // valid as long as the layout
+    int left = 0;              // twips
     int top = 0;
     bool startsPage = false;  // true for the header, which opens the first page
 };
@@ -35,7 +35,7 @@ class PrintLayout {
  public:
     // `title` stands in the header behind ten blanks; tabs reach to multiples of `tabLength` columns.
     // An empty text prints nothing, not even a header.
-    PrintLayout(std::string_view text, std::string_view title, const Paper& paper, Measure measure,
+    PrintLayout(std::u16string_view text, std::u16string_view title, const Paper& paper, Measure measure,
                 std::size_t tabLength);
     PrintLayout(const PrintLayout&) = delete;
     PrintLayout& operator=(const PrintLayout&) = delete;
@@ -43,8 +43,8 @@ class PrintLayout {
     std::optional<PlacedLine> next();
 
  private:
-    std::string text_;
-    std::string header_;
+    std::u16string text_;
+    std::u16string header_;
     Measure measure_;
     int lineWidth_ = 0;
     int lineHeight_ = 0;

@@ -8,7 +8,7 @@ namespace settings {
 
 struct Row {
     std::string key;
-    std::string value;  // bytes of the system code page; any byte may occur, NUL included
+    std::string value;  // any character may occur, NUL included
     friend bool operator==(const Row&, const Row&) = default;
 };
 

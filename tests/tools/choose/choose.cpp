@@ -1,7 +1,7 @@
 // choose MENU ITEM...: chooses an item of the running editor's menu by its captions ("Options" "Templates"
 // "Add  Current Page"). "" is the first item that the program shows only at times: the latest FTP site
 // ("Upload" ""), "Organize Templates" ("Options" "Templates" ""). choose BUTTON: clicks the button with this
-// text in any of its windows. Ends with 1 when there is no such thing within ten seconds.
+// text in any of its windows, or of its toolbar. Ends with 1 when there is no such thing within ten seconds.
 // scripts/screenshots works with it.
 #include "shell/menu_table.h"
 #include "support/windows_seen.h"
@@ -20,10 +20,15 @@ int Find(int count, char** captions) {
     return 0;
 }
 
-bool Click(DWORD process, const char* text) {
+bool Click(HWND editor, DWORD process, const char* text) {
     for (const HWND window : seen::TopLevel(process)) {
         const HWND button = ::IsWindowEnabled(window) ? seen::Child(window, text) : nullptr;
         if (button && ::IsWindowEnabled(button)) return ::PostMessageA(button, BM_CLICK, 0, 0);
+    }
+    // A button of the toolbar is no window.
+    for (std::size_t i = 0; i < kToolbar.size(); ++i) {
+        if (std::string(kToolbar[i].tip) == text)
+            return ::PostMessageA(editor, WM_COMMAND, tbrPicture1 + i, 0);
     }
     return false;
 }
@@ -37,7 +42,7 @@ int main(int argc, char** argv) {
             DWORD process = 0;
             ::GetWindowThreadProcessId(editor, &process);
             if (!::IsWindowVisible(editor)) return false;
-            if (argc == 2) return Click(process, argv[1]);
+            if (argc == 2) return Click(editor, process, argv[1]);
             const int command = Find(argc - 1, argv + 1);
             return command && ::PostMessageA(editor, WM_COMMAND, static_cast<WPARAM>(command), 0);
         });

@@ -1,11 +1,15 @@
 // Stands in for the word processor that is driven as "Word.Basic": a COM server with one document.
-//   standin_word LOG [ORDER]   writes each call as a line to LOG, and "released" when its caller has gone. By
-//                              the order "each" it serves callers one after the other, the n-th of whom sees
-//                              the n-th call fail; by "ask" its spelling dialog waits for an answer.
+//   standin_word LOG [ORDER]   writes each call as a line to LOG, and "released" when its caller has gone.
+//   Orders:
+//     each      serves callers one after the other, the n-th of whom is told that the n-th call failed
+//     ask       its spelling dialog waits for an answer
+//     running   it runs already and says so; it turns each call away once before it takes it
+//     window    it runs already and has a window, "OpusApp"
 #include "support/standin_word.h"
 #include "support/com_object.h"
 
 #include <fstream>
+#include <set>
 
 namespace {
 
@@ -15,6 +19,7 @@ struct Orders {
     std::string log;
     std::string order;
     int failAt = 0;
+    HWND window = nullptr;
 };
 
 class Word final : public ComObject<IDispatch> {
@@ -33,6 +38,8 @@ class Word final : public ComObject<IDispatch> {
     STDMETHOD(Invoke)
     (DISPID, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* failure,
      UINT*) override {
+        if (orders_.order == "running" && turnedAway_.insert(method_).second)
+            return turnedAway_.size() % 2 ? RPC_E_CALL_REJECTED : RPC_E_SERVERCALL_RETRYLATER;
         std::wstring line = method_;
         std::wstring last;
         for (UINT i = parameters->cArgs; i-- > 0;) {
@@ -43,11 +50,11 @@ class Word final : public ComObject<IDispatch> {
             line += L" " + last;
         }
         log(line);
+        const std::wstring value = run(last);
         if (++calls_ == orders_.failAt) {
             failure->bstrDescription = ::SysAllocString(L"The stand-in was told to fail.");
             return DISP_E_EXCEPTION;
         }
-        const std::wstring value = run(last);
         if (result) {
             result->vt = VT_BSTR;
             result->bstrVal = ::SysAllocStringLen(value.data(), static_cast<UINT>(value.size()));
@@ -57,6 +64,7 @@ class Word final : public ComObject<IDispatch> {
 
  private:
     std::wstring run(const std::wstring& argument) {
+        if (method_ == L"AppMinimize") ::ShowWindow(orders_.window, SW_MINIMIZE);
         if (method_ == L"Insert") document_ = argument + L'\r';
         if (method_ == L"ToolsSpelling") correct();
         if (method_ == L"SetDocumentVar") variable_ = argument;
@@ -73,16 +81,27 @@ class Word final : public ComObject<IDispatch> {
     }
 
     void log(const std::wstring& line) const {
-        std::string bytes(line.size(), '\0');
-        ::WideCharToMultiByte(CP_ACP, 0, line.data(), static_cast<int>(line.size()), bytes.data(),
-                              static_cast<int>(bytes.size()), nullptr, nullptr);
+        std::string bytes(line.size() * 3, '\0');
+        bytes.resize(static_cast<std::size_t>(
+            ::WideCharToMultiByte(CP_UTF8, 0, line.data(), static_cast<int>(line.size()), bytes.data(),
+                                  static_cast<int>(bytes.size()), nullptr, nullptr)));
         std::ofstream(orders_.log, std::ios::app | std::ios::binary) << bytes << '\n';
     }
 
     Orders orders_;
     int calls_ = 0;
     std::wstring method_, document_, variable_;
+    std::set<std::wstring> turnedAway_;
 };
+
+HWND ShowOpusApp() {
+    WNDCLASSW cls{};
+    cls.lpszClassName = L"OpusApp";
+    cls.lpfnWndProc = ::DefWindowProcW;
+    ::RegisterClassW(&cls);
+    return ::CreateWindowW(L"OpusApp", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, nullptr,
+                           nullptr, nullptr, nullptr);
+}
 
 }  // namespace
 
@@ -92,14 +111,19 @@ int main(int argc, char** argv) {
     Orders orders{argv[1], argc > 2 ? argv[2] : ""};
     ::CoInitialize(nullptr);
     {
-        const ClassServer server(kWordClass, CLSCTX_LOCAL_SERVER, [&orders] {
+        ClassServer server(kWordClass, CLSCTX_LOCAL_SERVER, [&orders] {
             if (orders.order == "each") ++orders.failAt;
             return new Word(orders);
         });
+        DWORD active = 0;
+        if (orders.order == "running")
+            ::RegisterActiveObject(&server, kWordClass, ACTIVEOBJECT_STRONG, &active);
+        if (orders.order == "window") orders.window = ShowOpusApp();
         ::SetTimer(nullptr, 0, 60000, nullptr);  // ends it when nobody calls
         MSG message{};
         while (::GetMessageA(&message, nullptr, 0, 0) > 0 && message.message != WM_TIMER)
             ::DispatchMessageA(&message);
+        if (active != 0) ::RevokeActiveObject(active, nullptr);
     }
     ::CoUninitialize();
     return 0;

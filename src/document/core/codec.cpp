@@ -1,0 +1,399 @@
+#include "document/core/codec.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace document {
+namespace {
+
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+constexpr std::string_view kUtf16Mark = "\xFF\xFE";
+constexpr std::string_view kUtf16BigEndianMark = "\xFE\xFF";
+constexpr char16_t kFirstRaw = 0xDC00;
+constexpr char16_t kReplacement = 0xFFFD;
+
+// Legacy text is converted and compared as a whole, in blocks where that does not come back as it was, in
+// parts of those, and only then by the character.
+constexpr std::size_t kBlock = 4096;
+constexpr std::size_t kFiner = 64;
+
+constexpr unsigned Value(char byte) {
+    return static_cast<unsigned char>(byte);
+}
+
+constexpr bool IsAscii(char32_t c) {
+    return c < 0x80;
+}
+
+constexpr bool IsHigh(char32_t c) {
+    return c >= 0xD800 && c < 0xDC00;
+}
+
+constexpr bool IsSurrogate(char32_t c) {
+    return c >= 0xD800 && c < 0xE000;
+}
+
+constexpr bool IsRaw(char32_t c) {
+    return c >= kFirstRaw && c <= kFirstRaw + 0xFF;
+}
+
+constexpr char16_t RawByte(unsigned byte) {
+    return static_cast<char16_t>(kFirstRaw + byte);
+}
+
+constexpr char Byte(unsigned value) {
+    return static_cast<char>(value & 0xFF);
+}
+
+constexpr bool IsUnicode(const Encoding& encoding) {
+    return encoding.codePage == kUtf8 || encoding.codePage == kUtf16 || encoding.codePage == kUtf16BigEndian;
+}
+
+constexpr std::string_view MarkOf(const Encoding& encoding) {
+    if (!encoding.mark) return {};
+    if (encoding.codePage == kUtf8) return kUtf8Mark;
+    if (encoding.codePage == kUtf16) return kUtf16Mark;
+    return encoding.codePage == kUtf16BigEndian ? kUtf16BigEndianMark : std::string_view();
+}
+
+// A character that starts a text: a pair, or one unit, which may be a lone surrogate.
+struct Character {
+    char32_t value;
+    std::size_t units;
+};
+
+Character First(std::u16string_view text) {
+    const char32_t first = text[0];
+    if (!IsHigh(first) || text.size() == 1 || (text[1] & 0xFC00) != 0xDC00) return {first, 1};
+    return {0x10000 + ((first - 0xD800) << 10) + (text[1] - 0xDC00U), 2};
+}
+
+std::size_t FirstSurrogate(std::u16string_view text) {
+    return static_cast<std::size_t>(std::find_if(text.begin(), text.end(), IsSurrogate) - text.begin());
+}
+
+// The characters up to the first lone surrogate.
+std::u16string_view WithoutLone(std::u16string_view text) {
+    std::size_t at = 0;
+    for (;;) {
+        at += FirstSurrogate(text.substr(at));
+        if (at == text.size()) return text;
+        const Character character = First(text.substr(at));
+        if (character.units == 1) return text.substr(0, at);
+        at += character.units;
+    }
+}
+
+void AppendUtf16(std::u16string& text, char32_t c) {
+    if (c >= 0x10000) {
+        text += static_cast<char16_t>(0xD800 + ((c - 0x10000) >> 10));
+        c = 0xDC00 + (c & 0x3FF);
+    }
+    text += static_cast<char16_t>(c);
+}
+
+// The character of UTF-8 that starts here, and its bytes: 0 where none does.
+struct Utf8Character {
+    char32_t value;
+    std::size_t length;
+};
+
+Utf8Character FirstUtf8(std::string_view bytes) {
+    const unsigned lead = Value(bytes[0]);
+    if (IsAscii(lead)) return {lead, 1};
+    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+    if (lead < 0xC2 || lead > 0xF4 || bytes.size() < length) return {0, 0};
+    char32_t value = lead & (0x7FU >> length);
+    for (const char c : bytes.substr(1, length - 1)) {
+        if ((Value(c) & 0xC0) != 0x80) return {0, 0};
+        value = value << 6 | (Value(c) & 0x3F);
+    }
+    if (length == 3 && (value < 0x800 || IsSurrogate(value))) return {0, 0};
+    if (length == 4 && (value < 0x10000 || value > 0x10FFFF)) return {0, 0};
+    return {value, length};
+}
+
+std::u16string DecodeUtf8(std::string_view bytes) {
+    std::u16string text;
+    text.reserve(bytes.size());
+    while (!bytes.empty()) {
+        const Utf8Character character = FirstUtf8(bytes);
+        if (character.length == 0) {
+            text += RawByte(Value(bytes[0]));
+            bytes.remove_prefix(1);
+        } else {
+            AppendUtf16(text, character.value);
+            bytes.remove_prefix(character.length);
+        }
+    }
+    return text;
+}
+
+void AppendUtf8(std::string& bytes, char32_t c) {
+    if (IsAscii(c)) {
+        bytes += Byte(c);
+        return;
+    }
+    const unsigned more = c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
+    bytes += Byte(0xF00U >> (more + 1) | c >> 6 * more);
+    for (unsigned i = more; i-- > 0;) bytes += Byte(0x80 | (c >> 6 * i & 0x3F));
+}
+
+void EncodeUtf8(std::string& bytes, std::u16string_view text) {
+    bytes.reserve(bytes.size() + text.size() + text.size() / 4);
+    while (!text.empty()) {
+        const Character character = First(text);
+        text.remove_prefix(character.units);
+        if (IsRaw(character.value)) {
+            bytes += Byte(character.value);
+        } else {
+            AppendUtf8(bytes, IsSurrogate(character.value) ? kReplacement : character.value);
+        }
+    }
+}
+
+std::u16string DecodeUtf16(std::string_view bytes, bool bigEndian) {
+    const std::size_t low = bigEndian ? 1 : 0;
+    std::u16string units(bytes.size() / 2, u'\0');
+    for (std::size_t i = 0; i < units.size(); ++i)
+        units[i] = static_cast<char16_t>(Value(bytes[2 * i + low]) | Value(bytes[2 * i + 1 - low]) << 8);
+
+    std::u16string text;
+    text.reserve(units.size() + 1);
+    for (std::u16string_view rest = units;;) {
+        const std::u16string_view whole = WithoutLone(rest);
+        text += whole;
+        if (whole.size() == rest.size()) break;
+        rest.remove_prefix(whole.size() + 1);
+        const std::size_t at = 2 * (units.size() - rest.size() - 1);
+        for (const char c : bytes.substr(at, 2)) text += RawByte(Value(c));
+    }
+    if (bytes.size() % 2 != 0) text += RawByte(Value(bytes.back()));
+    return text;
+}
+
+// Half a unit can stand at the end only. Where text follows it after an edit, it becomes the unit of its
+// value, or all that follows would fall apart.
+void CompleteUnit(std::string& bytes, bool bigEndian) {
+    bytes.insert(bigEndian ? bytes.size() - 1 : bytes.size(), 1, '\0');
+}
+
+void EncodeUtf16(std::string& bytes, std::u16string_view text, bool bigEndian) {
+    bytes.reserve(bytes.size() + 2 * text.size());
+    const auto append = [&](unsigned unit) {
+        bytes += Byte(bigEndian ? unit >> 8 : unit);
+        bytes += Byte(bigEndian ? unit : unit >> 8);
+    };
+    bool half = false;
+    while (!text.empty()) {
+        const Character character = First(text);
+        if (IsRaw(character.value)) {
+            bytes += Byte(character.value);
+            half = !half;
+        } else {
+            if (half) CompleteUnit(bytes, bigEndian);
+            half = false;
+            append(IsSurrogate(character.value) ? kReplacement : text[0]);
+            if (character.units == 2) append(text[1]);
+        }
+        text.remove_prefix(character.units);
+    }
+}
+
+void EncodeLegacy(std::string& bytes, std::u16string_view text, unsigned codePage, const CodePages& pages) {
+    while (!text.empty()) {
+        const std::u16string_view whole = WithoutLone(text);
+        if (!whole.empty()) bytes += pages.fromUnicode(codePage, whole);
+        text.remove_prefix(whole.size());
+        if (text.empty()) return;
+        if (IsRaw(text[0])) {
+            bytes += Byte(text[0]);
+        } else {
+            bytes += pages.fromUnicode(codePage, {&kReplacement, 1});
+        }
+        text.remove_prefix(1);
+    }
+}
+
+class LegacyDecoder {
+ public:
+    LegacyDecoder(unsigned codePage, const CodePages& pages) : codePage_(codePage), pages_(pages) {}
+
+    // False, and nothing taken, where it does not come back as it is.
+    bool takeWhole(std::string_view bytes) {
+        const std::u16string text = pages_.toUnicode(codePage_, bytes);
+        if (WithoutLone(text).size() != text.size() || pages_.fromUnicode(codePage_, text) != bytes)
+            return false;
+        text_ += text;
+        return true;
+    }
+
+    void takePieces(std::string_view bytes, std::size_t limit) {
+        while (!bytes.empty()) {
+            const std::string_view piece = bytes.substr(0, cut(bytes, limit));
+            if (!takeWhole(piece)) {
+                if (limit > kFiner) {
+                    takePieces(piece, kFiner);
+                } else {
+                    takeCharacters(piece);
+                }
+            }
+            bytes.remove_prefix(piece.size());
+        }
+    }
+
+    std::u16string text() && { return std::move(text_); }
+
+ private:
+    void takeCharacters(std::string_view bytes) {
+        while (!bytes.empty()) {
+            std::size_t length = characterLength(bytes);
+            if (IsAscii(Value(bytes[0]))) {
+                text_ += static_cast<char16_t>(bytes[0]);
+            } else if (!takeWhole(bytes.substr(0, length))) {
+                length = takeRaw(bytes.substr(0, length));
+            }
+            bytes.remove_prefix(length);
+        }
+    }
+
+    // Returns how many bytes. A lead byte that belongs to nothing must not take the quote, the blank or the
+    // tag behind it with it: below 0x40 a byte ends a character in GB 18030 only, and there it is a digit.
+    std::size_t takeRaw(std::string_view character) {
+        std::size_t length = 0;
+        do {
+            text_ += RawByte(Value(character[length++]));
+        } while (length < character.size() && Value(character[length]) >= 0x40);
+        return length;
+    }
+
+    // A place near the limit where a character ends: behind a byte that is in no longer character, or else
+    // counted from the start.
+    std::size_t cut(std::string_view bytes, std::size_t limit) const {
+        if (bytes.size() <= limit) return bytes.size();
+        for (std::size_t at = limit; at > limit / 2; --at)
+            if (Value(bytes[at - 1]) < 0x30) return at;
+        std::size_t at = 0;
+        while (at < limit) at += characterLength(bytes.substr(at));
+        return at;
+    }
+
+    std::size_t characterLength(std::string_view bytes) const {
+        return IsAscii(Value(bytes[0])) ? 1 : pages_.characterLength(codePage_, bytes);
+    }
+
+    unsigned codePage_;
+    const CodePages& pages_;
+    std::u16string text_;
+};
+
+std::u16string DecodeLegacy(unsigned codePage, std::string_view bytes, const CodePages& pages) {
+    LegacyDecoder decoder(codePage, pages);
+    if (decoder.takeWhole(bytes)) return std::move(decoder).text();
+    decoder.takePieces(bytes, kBlock);
+    std::u16string text = std::move(decoder).text();
+
+    // Pieces that come back each for itself and not together: a system that converts by more than the
+    // character. Then only ASCII is sure.
+    if (Encode({codePage, false}, text, pages) == bytes) return text;
+    text.clear();
+    for (const char c : bytes) text += IsAscii(Value(c)) ? static_cast<char16_t>(c) : RawByte(Value(c));
+    return text;
+}
+
+// Whether the text has no lone surrogates, and comes back from the encoding as it is.
+bool HoldsWhole(const Encoding& encoding, std::u16string_view text, const CodePages& pages) {
+    if (WithoutLone(text).size() != text.size()) return false;
+    return IsUnicode(encoding) ||
+           pages.toUnicode(encoding.codePage, pages.fromUnicode(encoding.codePage, text)) == text;
+}
+
+void AppendReference(std::u16string& text, char32_t character) {
+    text += u"&#";
+    for (const char digit : std::to_string(static_cast<unsigned>(character)))
+        text += static_cast<char16_t>(digit);
+    text += u';';
+}
+
+void AppendHeld(std::u16string& result, const Encoding& encoding, std::u16string_view text,
+                const CodePages& pages) {
+    while (!text.empty()) {
+        Character character = First(text);
+        text.remove_prefix(character.units);
+        if (IsSurrogate(character.value) && !IsRaw(character.value)) character.value = kReplacement;
+        if (IsAscii(character.value) || Holds(encoding, character.value, pages)) {
+            AppendUtf16(result, character.value);
+        } else {
+            AppendReference(result, character.value);
+        }
+    }
+}
+
+}  // namespace
+
+std::u16string Decode(const Encoding& encoding, std::string_view bytes, const CodePages& pages) {
+    const std::string_view mark = MarkOf(encoding);
+    if (bytes.starts_with(mark)) bytes.remove_prefix(mark.size());
+    switch (encoding.codePage) {
+        case kUtf8:
+            return DecodeUtf8(bytes);
+        case kUtf16:
+        case kUtf16BigEndian:
+            return DecodeUtf16(bytes, encoding.codePage == kUtf16BigEndian);
+        default:
+            return DecodeLegacy(encoding.codePage, bytes, pages);
+    }
+}
+
+std::string Encode(const Encoding& encoding, std::u16string_view text, const CodePages& pages) {
+    std::string bytes(MarkOf(encoding));
+    switch (encoding.codePage) {
+        case kUtf8:
+            EncodeUtf8(bytes, text);
+            break;
+        case kUtf16:
+        case kUtf16BigEndian:
+            EncodeUtf16(bytes, text, encoding.codePage == kUtf16BigEndian);
+            break;
+        default:
+            EncodeLegacy(bytes, text, encoding.codePage, pages);
+    }
+    return bytes;
+}
+
+bool Holds(const Encoding& encoding, char32_t character, const CodePages& pages) {
+    if (IsSurrogate(character) || character > 0x10FFFF) return IsRaw(character);
+    std::u16string text;
+    AppendUtf16(text, character);
+    return HoldsWhole(encoding, text, pages);
+}
+
+std::u16string WithReferences(const Encoding& encoding, std::u16string_view text, const CodePages& pages) {
+    if (std::all_of(text.begin(), text.end(), IsAscii) || HoldsWhole(encoding, text, pages))
+        return std::u16string(text);
+    std::u16string result;
+    result.reserve(text.size());
+    while (!text.empty()) {
+        std::size_t length = std::min(kFiner, text.size());
+        length += First(text.substr(length - 1)).units - 1;
+        const std::u16string_view piece = text.substr(0, length);
+        text.remove_prefix(length);
+        if (HoldsWhole(encoding, piece, pages)) {
+            result += piece;
+        } else {
+            AppendHeld(result, encoding, piece, pages);
+        }
+    }
+    return result;
+}
+
+bool IsUtf8(std::string_view bytes) {
+    while (!bytes.empty()) {
+        const std::size_t length = FirstUtf8(bytes).length;
+        if (length == 0) return false;
+        bytes.remove_prefix(length);
+    }
+    return true;
+}
+
+}  // namespace document

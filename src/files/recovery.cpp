@@ -1,0 +1,185 @@
+#include "files/recovery.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "document/frmChild.h"
+#include "files/mBinOpen.h"
+#include "files/replace_file.h"
+#include "win/unicode.h"
+#include "win/wide_path.h"
+
+namespace files {
+namespace {
+
+constexpr DWORD kAfterLast = 3000;  // milliseconds
+constexpr DWORD kAfterFirst = 25000;
+
+constexpr wchar_t kPrefix[] = L"~quillon-";
+constexpr wchar_t kLockEnding[] = L".lock";
+constexpr wchar_t kCopyEnding[] = L".page";
+
+RecoveryCopy CopyOf(const frmChild& page) {
+    return {page.Tag(), page.Caption(), page.encoding(),
+            static_cast<std::size_t>(page.txtPad().selection().start), page.txtPad().text()};
+}
+
+// Null when another program holds it; it goes with the handle.
+win::UniqueFile OpenLock(const std::wstring& path, DWORD disposition) {
+    return win::UniqueFile(::CreateFileW(path.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, disposition,
+                                         FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr));
+}
+
+std::vector<std::wstring> FilesLike(const std::wstring& pattern) {
+    std::vector<std::wstring> names;
+    WIN32_FIND_DATAW found{};
+    const HANDLE search = ::FindFirstFileW(pattern.c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return names;
+    do {
+        names.emplace_back(found.cFileName);
+    } while (::FindNextFileW(search, &found));
+    ::FindClose(search);
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+}  // namespace
+
+// The writing of one copy, on a thread of the system's pool. It owns all that it works with.
+class Recovery::Writing {
+ public:
+    // False when there is no such thread.
+    static std::unique_ptr<Writing> start(RecoveryCopy copy, std::wstring path) {
+        auto writing = std::make_unique<Writing>();
+        writing->copy_ = std::move(copy);
+        writing->path_ = std::move(path);
+        writing->done_.reset(::CreateEventW(nullptr, TRUE, FALSE, nullptr));
+        writing->started_ =
+            writing->done_ && ::QueueUserWorkItem(run, writing.get(), WT_EXECUTELONGFUNCTION) != FALSE;
+        return writing->started_ ? std::move(writing) : nullptr;
+    }
+    bool isDone() const { return ::WaitForSingleObject(done_.get(), 0) == WAIT_OBJECT_0; }
+    ~Writing() {
+        if (started_) ::WaitForSingleObject(done_.get(), INFINITE);
+    }
+
+ private:
+    static DWORD WINAPI run(void* self) {
+        auto& writing = *static_cast<Writing*>(self);
+        try {
+            ReplaceFileContents(win::ToUtf8(writing.path_), Pack(writing.copy_));
+        } catch (const std::exception&) {
+            // The copy before stays.
+        }
+        ::SetEvent(writing.done_.get());
+        return 0;
+    }
+
+    RecoveryCopy copy_;
+    std::wstring path_;
+    win::UniqueHandle done_;
+    bool started_ = false;
+};
+
+Recovery::Recovery(std::string folder) : folder_(std::move(folder)) {}
+
+Recovery::~Recovery() = default;
+
+std::wstring Recovery::copyPath(DocumentId page) const {
+    return name_ + L'-' + std::to_wstring(page) + kCopyEnding;
+}
+
+// The lock tells that this program's copies are nobody else's.
+bool Recovery::lock() {
+    if (lock_) return true;
+    DWORD number = ::GetCurrentProcessId();
+    for (int tries = 0; tries < 100 && !lock_; ++tries, number += ::GetTickCount() | 1U) {
+        name_ = win::ToWide(folder_) + kPrefix + std::to_wstring(number);
+        lock_ = OpenLock(name_ + kLockEnding, CREATE_NEW);
+        if (!lock_ && ::GetLastError() != ERROR_FILE_EXISTS && ::GetLastError() != ERROR_SHARING_VIOLATION)
+            break;
+    }
+    return static_cast<bool>(lock_);
+}
+
+void Recovery::awaitWriting() {
+    writing_.reset();
+}
+
+bool Recovery::write(const frmChild& page) {
+    if (!lock()) return false;
+    awaitWriting();
+    std::wstring& file = copies_[page.id()];
+    if (file.empty()) file = copyPath(page.id());
+    writing_ = Writing::start(CopyOf(page), file);
+    return writing_ != nullptr;
+}
+
+void Recovery::noteChange(DocumentId page, DWORD now) {
+    due_.try_emplace(page, Due{now, now}).first->second.last = now;
+}
+
+void Recovery::writeDue(MainWindow& main, DWORD now) {
+    if (writing_ && !writing_->isDone()) return;
+    const auto due = std::find_if(due_.begin(), due_.end(), [now](const auto& entry) {
+        return now - entry.second.last >= kAfterLast || now - entry.second.first >= kAfterFirst;
+    });
+    if (due == due_.end()) return;
+    const frmChild* page = main.find(due->first);
+    due_.erase(due);
+    try {
+        if (page && page->isChanged()) write(*page);
+    } catch (const std::exception&) {
+        // No memory: the copy before stays.
+    }
+}
+
+void Recovery::writeNow(const frmChild& page) {
+    try {
+        if (page.isChanged() && write(page)) due_.erase(page.id());
+    } catch (const std::exception&) {
+        // As above.
+    }
+    awaitWriting();
+}
+
+void Recovery::remove(DocumentId page) {
+    due_.erase(page);
+    const auto copy = copies_.find(page);
+    if (copy == copies_.end()) return;
+    awaitWriting();
+    ::DeleteFileW(copy->second.c_str());
+    copies_.erase(copy);
+}
+
+void Recovery::leave(DocumentId page) {
+    awaitWriting();
+    due_.erase(page);
+    copies_.erase(page);
+}
+
+std::vector<Recovery::Found> Recovery::takeOver() {
+    std::vector<Found> found;
+    const std::wstring folder = win::ToWide(folder_);
+    const std::wstring ending = kCopyEnding;
+    for (const std::wstring& name : FilesLike(folder + kPrefix + L"*" + ending)) {
+        const std::wstring owner = name.substr(0, name.find(L'-', std::size(kPrefix) - 1));
+        if (folder + owner == name_) continue;
+        // While this is held nobody else takes that program's copies.
+        const win::UniqueFile ownerLock = OpenLock(folder + owner + kLockEnding, OPEN_ALWAYS);
+        if (!ownerLock) continue;
+        const auto bytes = mBinOpen::ReadFileAtOnce(win::ToUtf8(folder + name));
+        auto copy = bytes ? Unpack(*bytes) : std::nullopt;
+        if (!copy || !lock()) continue;
+        const std::wstring mine = name_ + L"-back" + std::to_wstring(found.size()) + ending;
+        if (::MoveFileExW((folder + name).c_str(), mine.c_str(), 0))
+            found.push_back({std::move(*copy), mine});
+    }
+    return found;
+}
+
+void Recovery::adopt(const frmChild& page, const std::wstring& file) {
+    copies_[page.id()] = file;
+}
+
+}  // namespace files

@@ -1,0 +1,67 @@
+// Copies of changed pages in the folder of temporary files, from which they come back when the program has
+// not ended by itself.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "files/core/recovery_copy.h"
+#include "main_window.h"
+#include "win/unique.h"
+
+namespace files {
+
+// Of one running program. Failures do not throw: a full disk costs the copy and not the page.
+class Recovery {
+ public:
+    // `folder` ends in a backslash.
+    explicit Recovery(std::string folder);
+    Recovery(const Recovery&) = delete;
+    Recovery& operator=(const Recovery&) = delete;
+    ~Recovery();
+
+    // The page has been edited; `now` is GetTickCount(), here and below.
+    void noteChange(DocumentId page, DWORD now);
+    bool isAnyDue() const { return !due_.empty(); }
+    // Writes the copies that are due: some seconds after the last change, half a minute after the first one
+    // at the latest. The file is written beside, so that this takes no longer than reading the page does.
+    void writeDue(MainWindow& main, DWORD now);
+    // Has the page's copy hold what the page holds now; returns when it is written.
+    void writeNow(const frmChild& page);
+    // The page has been saved or closed.
+    void remove(DocumentId page);
+    // The page's window goes, and its copy stays for the next start.
+    void leave(DocumentId page);
+
+    // Takes over the copies that programs have left behind which no longer run; the name of each is to be
+    // handed to adopt() with the page made of it.
+    struct Found {
+        RecoveryCopy copy;
+        std::wstring file;
+    };
+    std::vector<Found> takeOver();
+    void adopt(const frmChild& page, const std::wstring& file);
+
+ private:
+    struct Due {
+        DWORD first = 0;  // GetTickCount() of the first change that no copy holds
+        DWORD last = 0;
+    };
+    class Writing;
+
+    std::wstring copyPath(DocumentId page) const;
+    bool lock();
+    bool write(const frmChild& page);
+    void awaitWriting();
+
+    std::string folder_;
+    std::wstring name_;  // of this program's files, up to the page's number; empty until it has written any
+    win::UniqueFile lock_;  // held as long as the program runs, and deleted by the system with its end
+    std::map<DocumentId, Due> due_;
+    std::map<DocumentId, std::wstring> copies_;
+    std::unique_ptr<Writing> writing_;
+};
+
+}  // namespace files

@@ -1,0 +1,76 @@
+// The session with a stored site, from its login to its end.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+#include "ftp/core/site_list.h"
+#include "ftp/ftp_session.h"
+#include "win/worker.h"
+
+namespace ftp {
+
+// What it asks of the server it asks on another thread, and lets messages through until there is an answer:
+// anything can happen meanwhile.
+class SiteSession {
+ public:
+    explicit SiteSession(SessionMaker makeSession) : session_(makeSession()) {}
+    ~SiteSession();
+    SiteSession(const SiteSession&) = delete;
+    SiteSession& operator=(const SiteSession&) = delete;
+
+    // Has the request work with the session, and gives its answer; nothing when the session has been given
+    // up. The request may outlive this object and all windows, so it owns what it works with.
+    template <typename Request>
+    auto ask(Request request) {
+        using Answer = std::invoke_result_t<Request&, FtpSession&>;
+        const auto answer = std::make_shared<std::optional<Answer>>();
+        const auto job = [session = session_, answer, request = std::move(request)]() mutable {
+            answer->emplace(request(*session));
+        };
+        if (worker_.run(job)) return std::move(*answer);
+        session_->close();
+        return std::optional<Answer>();
+    }
+
+    void use(const Site& site);
+    const std::string& url() const { return url_; }
+    bool hasPassword() const { return !password_.empty(); }
+    void setPassword(const std::string& typed);
+
+    // True also for the user who does not want to wait: there is nothing to tell.
+    bool dial();
+    enum class Opened { yes, noNetworking, noServer };
+    // The password is forgotten with it.
+    Opened open();
+    // Begins where the site's address says; false when that is refused.
+    bool enterStart();
+    bool isConnected() const { return session_->isConnected() && !worker_.isGivenUp(); }
+    bool isLost() const { return session_->isLost(); }
+    // Not while a request is under way.
+    void close();
+    // A request that is under way is to end now, and is waited for these milliseconds at most. There is none
+    // after it.
+    void giveUp(DWORD timeout);
+
+    // Asks where the session is, and what is there; nothing when it has been given up.
+    std::optional<std::vector<RemoteFile>> readDirectory();
+    const std::string& directory() const { return current_; }
+    std::string shownDirectory() const;
+    std::optional<std::string> directoryAbove() const;  // nothing where the session started
+
+ private:
+    std::shared_ptr<FtpSession> session_;
+    win::Worker worker_;
+    std::string url_;
+    std::string user_;      // this and what follows is the server's
+    std::string password_;  // only until the server has it
+    std::string root_;      // the directory that the session started in
+    std::string current_;
+};
+
+}  // namespace ftp

@@ -1,0 +1,40 @@
+// A recovery copy from a disk that may have done anything to it. An input is a file; and, with the right sum
+// put behind it, the inside of one.
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+#include "check.h"
+#include "files/core/recovery_copy.h"
+
+namespace {
+
+void CheckCopy(std::string_view bytes) {
+    const auto copy = files::Unpack(bytes);
+    if (!copy) return;
+    Check(copy->caret <= copy->text.size());
+    Check(files::Unpack(files::Pack(*copy)) == copy);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string bytes(reinterpret_cast<const char*>(data), size);
+    CheckCopy(bytes);
+
+    files::RecoveryCopy copy;
+    std::string_view rest = bytes;
+    copy.path = TakeLine(rest);
+    copy.caption = TakeLine(rest);
+    copy.text = Units(rest);
+    copy.caret = copy.text.size() / 2;
+    copy.encoding = {static_cast<unsigned>(size), size % 2 == 0};
+    const std::string packed = files::Pack(copy);
+    Check(files::Unpack(packed) == copy);
+    // Cut short, or with a byte another one, it is none.
+    Check(!files::Unpack(packed.substr(0, size % packed.size())));
+    std::string damaged = packed;
+    damaged[size * 7 % packed.size()] ^= 0x10;
+    Check(!files::Unpack(damaged));
+    return 0;
+}
