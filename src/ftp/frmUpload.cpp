@@ -238,8 +238,8 @@ std::optional<ftp::Unsent> frmUpload::send(std::vector<ftp::LocalFile> files) {
         std::string& what;
         ~Sending() { what.clear(); }
     } const sending{sending_};
-    sending_ = files.size() == 1 ? files.front().name : std::to_string(files.size()) + " files";
-    const auto shared = std::make_shared<const std::vector<ftp::LocalFile>>(std::move(files));
+    sending_ = files.size() == 1 ? files.front().name() : std::to_string(files.size()) + " files";
+    const auto shared = std::make_shared<std::vector<ftp::LocalFile>>(std::move(files));
     return work("Uploading.....", [shared, directory = session_.directory()](ftp::FtpSession& session) {
         return ftp::Send(session, *shared, directory);
     });

@@ -145,10 +145,10 @@ class WinInetSession final : public FtpSession {
         return command(kFtpRenameFile, from.c_str(), to.c_str());
     }
 
-    bool put(HANDLE from, const std::string& remote, TransferType type) override {
+    bool put(const ReadChunk& read, const std::string& remote, TransferType type) override {
         UniqueInternet file = openRemote(remote, GENERIC_WRITE, type);
         if (!file) return false;
-        const bool sent = send(from, file.get());
+        const bool sent = send(read, file.get());
         return finish(file) && sent;
     }
 
@@ -185,16 +185,16 @@ class WinInetSession final : public FtpSession {
     }
 
     // What breaks off here is the transfer; whether the server has gone too tells its answer.
-    bool send(HANDLE from, HINTERNET to) const {
+    bool send(const ReadChunk& read, HINTERNET to) const {
         std::vector<char> chunk(kChunk);
         while (!stopped_) {
-            DWORD size = 0;
-            if (!::ReadFile(from, chunk.data(), static_cast<DWORD>(chunk.size()), &size, nullptr))
-                return false;
-            if (size == 0) return true;
-            for (DWORD sent = 0; sent < size;) {
+            const std::optional<std::size_t> size = read(chunk.data(), chunk.size());
+            if (!size) return false;
+            if (*size == 0) return true;
+            for (std::size_t sent = 0; sent < *size;) {
                 DWORD now = 0;
-                if (!kInternetWriteFile(to, chunk.data() + sent, size - sent, &now)) return false;
+                if (!kInternetWriteFile(to, chunk.data() + sent, static_cast<DWORD>(*size - sent), &now))
+                    return false;
                 sent += now;
             }
         }

@@ -1,6 +1,7 @@
 // One connection to an FTP server.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -16,6 +17,9 @@ struct RemoteEntry {
     unsigned long attributes = 0;  // FILE_ATTRIBUTE_... flags
     unsigned long size = 0;        // bytes, the low 32 bits
 };
+
+// Gives the next bytes of what is sent: how many went into the chunk, 0 at the end, nothing on failure.
+using ReadChunk = std::function<std::optional<std::size_t>(char* chunk, std::size_t size)>;
 
 // What WinINet offers, behind an interface so that a test can refuse what no server can. Every call waits for
 // the server's answer, so that it belongs on a thread which no window lives on, and gives false or nothing
@@ -50,8 +54,8 @@ class FtpSession {
     virtual bool removeDirectory(const std::string& name) = 0;
     virtual bool removeFile(const std::string& name) = 0;
     virtual bool rename(const std::string& from, const std::string& to) = 0;
-    // From and into a file that is open for that. True when the server has said that all of it has arrived.
-    virtual bool put(HANDLE from, const std::string& remote, TransferType type) = 0;
+    // True when the server has said that all of it has arrived. `to` is open for writing.
+    virtual bool put(const ReadChunk& read, const std::string& remote, TransferType type) = 0;
     virtual bool get(const std::string& remote, HANDLE to, TransferType type) = 0;
 };
 

@@ -162,8 +162,8 @@ void TellUnsent(const frmUpload& form, const Unsent& unsent) {
 void UploadAll(frmUpload& form, std::vector<LocalFile> files) {
     const frmUpload::Busy busy(form, kUploading);
     const std::string done =
-        files.size() == 1 ? "Upload of " + files.front().name + " Complete" : "Uploading Completed.";
-    for (LocalFile& file : files) file.type = ChooseTransferType(form.transferMode(), file.name);
+        files.size() == 1 ? "Upload of " + files.front().name() + " Complete" : "Uploading Completed.";
+    for (LocalFile& file : files) file.type = ChooseTransferType(form.transferMode(), file.name());
     const std::optional<Unsent> unsent = form.send(std::move(files));
     if (!unsent) return;
     if (unsent->none()) {

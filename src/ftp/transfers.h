@@ -1,6 +1,8 @@
 // Files of this machine on their way to and from a server.
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,15 +11,26 @@
 
 namespace ftp {
 
-// Open for reading while anybody may change, replace or delete it: what is being sent can be saved, and a
-// program that gives a file away only for a moment can take it back.
-struct LocalFile {
-    LocalFile() = default;
-    explicit LocalFile(const std::string& path);
+// A file as it was when this was made: read whole, since Windows lets nobody swap in a new one while the old
+// one is open, and a program that gives a file away only for a moment takes it back. One that would take more
+// than `room` bytes, or is larger than any page, stays open instead, shared in every way.
+class LocalFile {
+ public:
+    LocalFile(const std::string& path, std::size_t& room);
 
-    std::string name;      // without folder
-    win::UniqueFile file;  // empty when it could not be opened
+    const std::string& name() const { return name_; }  // without folder
+    bool isOpen() const { return file_ || bytes_; }
+    std::optional<std::size_t> read(char* chunk, std::size_t size);
+
     TransferType type = TransferType::ascii;
+
+ private:
+    bool readWhole(std::size_t size);
+
+    std::string name_;
+    win::UniqueFile file_;
+    std::optional<std::string> bytes_;
+    std::size_t sent_ = 0;  // of bytes_
 };
 
 std::vector<LocalFile> OpenFiles(const std::vector<std::string>& paths);
@@ -31,7 +44,7 @@ struct Unsent {
 };
 
 // Sends each file into a remote directory until the server has gone: then the rest has failed too.
-Unsent Send(FtpSession& session, const std::vector<LocalFile>& files, const std::string& directory);
+Unsent Send(FtpSession& session, std::vector<LocalFile>& files, const std::string& directory);
 
 // True when the file at `path` is the remote file, whole. The bytes arrive in a file beside the target that
 // takes its place in one step at the end; false leaves the target as it was.

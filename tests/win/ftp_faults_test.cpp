@@ -262,7 +262,7 @@ class Odd : public ftp::FtpSession {
     bool removeDirectory(const std::string&) override { return fail(); }
     bool removeFile(const std::string&) override { return fail(); }
     bool rename(const std::string&, const std::string&) override { return fail(); }
-    bool put(HANDLE, const std::string&, ftp::TransferType) override { return fail(); }
+    bool put(const ftp::ReadChunk&, const std::string&, ftp::TransferType) override { return fail(); }
     bool get(const std::string&, HANDLE, ftp::TransferType) override { return fail(); }
 
  private:
