@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <vector>
 
 #include "files/mBinOpen.h"
 #include "win/unique.h"
@@ -72,13 +73,28 @@ std::wstring TemporaryName() {
     return name + L".tmp";
 }
 
+HANDLE OpenForWriting(const std::wstring& path, DWORD disposition) {
+    return ::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, disposition, FILE_ATTRIBUTE_NORMAL,
+                         nullptr);
+}
+
+// A copy of a file has its streams and attributes. They are worth a second try, but not a save that fails.
+HANDLE OpenEmptiedCopy(const std::wstring& target, const std::wstring& path) {
+    const bool copied =
+        Persistently([&] { return ::CopyFileW(target.c_str(), path.c_str(), TRUE) != FALSE; });
+    if (!copied) return INVALID_HANDLE_VALUE;
+    const HANDLE file = OpenForWriting(path, TRUNCATE_EXISTING);
+    if (file == INVALID_HANDLE_VALUE) ::DeleteFileW(path.c_str());
+    return file;
+}
+
 // Made new, never opened over a file that is there.
-TemporaryFile CreateBeside(const std::wstring& target) {
+TemporaryFile CreateBeside(const std::wstring& target, bool exists) {
     TemporaryFile made;
     for (int tries = 0; tries < 100 && made.file == INVALID_HANDLE_VALUE; ++tries) {
         made.path = target.substr(0, target.rfind(L'\\') + 1) + TemporaryName();
-        made.file = ::CreateFileW(made.path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                  FILE_ATTRIBUTE_NORMAL, nullptr);
+        if (exists) made.file = OpenEmptiedCopy(target, made.path);
+        if (made.file == INVALID_HANDLE_VALUE) made.file = OpenForWriting(made.path, CREATE_NEW);
         if (made.file == INVALID_HANDLE_VALUE && ::GetLastError() != ERROR_FILE_EXISTS) break;
     }
     return made;
@@ -91,8 +107,7 @@ bool OverwriteInPlace(const std::string& path, std::string_view bytes) {
     const std::wstring target = win::WidePath(path);
     HANDLE file = INVALID_HANDLE_VALUE;
     const auto open = [&] {
-        file = ::CreateFileW(target.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL,
-                             nullptr);
+        file = OpenForWriting(target, OPEN_EXISTING);
         return file != INVALID_HANDLE_VALUE;
     };
     if (!Persistently(open)) return false;
@@ -111,13 +126,27 @@ bool HasOtherNames(const std::wstring& target, DWORD attributes) {
     return file && ::GetFileInformationByHandle(file.get(), &information) && information.nNumberOfLinks > 1;
 }
 
-// The new file is as old as the one whose place it takes, and as hidden. ReplaceFile would carry over more,
-// but a program that is killed in the middle of it leaves no file under the name at all.
-void TakeOverDetails(HANDLE made, const std::wstring& path, const std::wstring& target) {
+// Who may do what with a file; empty where the file system does not know.
+std::vector<BYTE> AccessTo(const std::wstring& path) {
+    DWORD size = 0;
+    ::GetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+    std::vector<BYTE> access(size);
+    if (!::GetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, access.data(), size, &size)) return {};
+    return access;
+}
+
+// The new file is as old as the one whose place it takes, as hidden, and as secret; false when it cannot be.
+// ReplaceFile would carry over all this, but a program that is killed in the middle of it leaves no file
+// under the name at all.
+bool TakeOverDetails(HANDLE made, const std::wstring& path, const std::wstring& target) {
     WIN32_FILE_ATTRIBUTE_DATA old{};
-    if (!::GetFileAttributesExW(target.c_str(), GetFileExInfoStandard, &old)) return;
-    ::SetFileTime(made, &old.ftCreationTime, nullptr, nullptr);
-    ::SetFileAttributesW(path.c_str(), old.dwFileAttributes);
+    if (::GetFileAttributesExW(target.c_str(), GetFileExInfoStandard, &old)) {
+        ::SetFileTime(made, &old.ftCreationTime, nullptr, nullptr);
+        ::SetFileAttributesW(path.c_str(), old.dwFileAttributes);
+    }
+    std::vector<BYTE> access = AccessTo(target);
+    return access.empty() || access == AccessTo(path) ||
+           ::SetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, access.data());
 }
 
 bool TakePlace(const std::wstring& made, const std::wstring& target) {
@@ -142,14 +171,16 @@ bool ReplaceFileContents(const std::string& path, std::string_view bytes,
     };
     if (exists && HasOtherNames(target, attributes)) return overwrite();
 
-    const TemporaryFile made = CreateBeside(target);
+    const TemporaryFile made = CreateBeside(target, exists);
     if (made.file == INVALID_HANDLE_VALUE) {
         return exists && ::GetLastError() == ERROR_ACCESS_DENIED && overwrite();
     }
-    if (exists) TakeOverDetails(made.file, made.path, target);
-    if (WriteAndClose(made.file, bytes) && TakePlace(made.path, target)) return true;
+    const bool isAlike = !exists || TakeOverDetails(made.file, made.path, target);
+    const bool isWritten = WriteAndClose(made.file, bytes);
+    if (isWritten && isAlike && TakePlace(made.path, target)) return true;
+    const bool isRefused = isWritten && exists && (!isAlike || ::GetLastError() == ERROR_ACCESS_DENIED);
     ::DeleteFileW(made.path.c_str());
-    return false;
+    return isRefused && overwrite();
 }
 
 }  // namespace files

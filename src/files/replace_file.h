@@ -9,8 +9,8 @@ namespace files {
 
 // True when the file at `path` holds exactly these bytes; false leaves what was there. A read-only file is
 // refused. The bytes are written to a file beside the target, flushed, and take its place in one step, with
-// the attributes and the creation time that the target had. Only where the folder does not take a second
-// file, or the target has other names too, is it overwritten in place, after `beforeOverwriting`, and
+// the streams, attributes, creation time and access rights that the target had. Only where nothing can take
+// its place so, or the target has other names too, is it overwritten in place, after `beforeOverwriting`, and
 // restored if that fails. What others hold for a moment is tried again for about a second. Handles no
 // message.
 bool ReplaceFileContents(const std::string& path, std::string_view bytes,

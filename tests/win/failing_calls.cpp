@@ -81,6 +81,7 @@ struct Hook<kName, Result(WINAPI*)(Args...)> {
 
 #define HOOK(function) Hook<#function, decltype(&::function)>
 using Create = HOOK(CreateFileW);
+using Copy = HOOK(CopyFileW);
 using Write = HOOK(WriteFile);
 using Close = HOOK(CloseHandle);
 using Box = HOOK(MessageBoxW);
@@ -90,19 +91,28 @@ struct All {
     static void put() { (Hooks::put(), ...); }
     static void restore() { (Hooks::restore(), ...); }
 };
-using Plain = All<HOOK(RegCreateKeyExW), HOOK(RegSetValueExW), HOOK(RegDeleteValueW), HOOK(RegDeleteKeyW),
-                  HOOK(SetEndOfFile), HOOK(FlushFileBuffers), HOOK(MoveFileExW), HOOK(DeleteFileW),
-                  HOOK(SetFileAttributesW), HOOK(CreateDirectoryW), HOOK(GetTempFileNameW)>;
+using Plain =
+    All<HOOK(RegCreateKeyExW), HOOK(RegSetValueExW), HOOK(RegDeleteValueW), HOOK(RegDeleteKeyW),
+        HOOK(SetEndOfFile), HOOK(FlushFileBuffers), HOOK(MoveFileExW), HOOK(DeleteFileW),
+        HOOK(SetFileAttributesW), HOOK(SetFileSecurityW), HOOK(CreateDirectoryW), HOOK(GetTempFileNameW)>;
 #undef HOOK
 
 HANDLE WINAPI CreateOrRefuse(LPCWSTR path, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security,
                              DWORD disposition, DWORD flags, HANDLE like) {
-    if (State::now && State::now->newFilesRefused && disposition == CREATE_ALWAYS) {
+    if (State::now && State::now->newFilesRefused && disposition == CREATE_NEW) {
         ::SetLastError(ERROR_ACCESS_DENIED);
         return INVALID_HANDLE_VALUE;
     }
     if ((access & GENERIC_WRITE) != 0 && Fails("CreateFileW")) return INVALID_HANDLE_VALUE;
     return Create::real(path, access, share, security, disposition, flags, like);
+}
+
+BOOL WINAPI CopyOrRefuse(LPCWSTR from, LPCWSTR to, BOOL asNew) {
+    if (State::now && State::now->newFilesRefused) {
+        ::SetLastError(ERROR_ACCESS_DENIED);
+        return FALSE;
+    }
+    return !Fails("CopyFileW") && Copy::real(from, to, asNew);
 }
 
 BOOL WINAPI WriteOrHalf(HANDLE file, LPCVOID bytes, DWORD size, LPDWORD written, LPOVERLAPPED where) {
@@ -129,6 +139,7 @@ class Hooked {
     explicit Hooked(State& state) {
         Plain::put();
         Create::put(CreateOrRefuse);
+        Copy::put(CopyOrRefuse);
         Write::put(WriteOrHalf);
         Close::put(CloseAnyway);
         Box::put(Answer);
@@ -137,7 +148,7 @@ class Hooked {
     ~Hooked() {
         State::now = nullptr;
         Plain::restore();
-        All<Create, Write, Close, Box>::restore();
+        All<Create, Copy, Write, Close, Box>::restore();
     }
 };
 

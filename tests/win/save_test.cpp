@@ -123,6 +123,41 @@ TEST_F(SaveTest, AnUnwritableTargetLeavesThePageChangedAndTheFileAsItWas) {
     EXPECT_TRUE(label("Saved :  " + scratch("locked.htm")));
 }
 
+// Who may do what with the file.
+std::vector<BYTE> AccessTo(const std::string& path) {
+    DWORD size = 0;
+    ::GetFileSecurityA(path.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+    std::vector<BYTE> access(size);
+    ::GetFileSecurityA(path.c_str(), DACL_SECURITY_INFORMATION, access.data(), size, &size);
+    return access;
+}
+
+TEST_F(SaveTest, AFileStaysWhatItWas) {
+    openPage("page.htm", "old");
+    const std::string path = scratch("page.htm");
+    std::vector<BYTE> access = AccessTo(path);
+    BOOL present = FALSE;
+    BOOL defaulted = FALSE;
+    ACL* list = nullptr;
+    ::GetSecurityDescriptorDacl(access.data(), &present, &list, &defaulted);
+    while (list->AceCount > 1) ::DeleteAce(list, list->AceCount - 1U);
+    ::SetFileSecurityA(path.c_str(), DACL_SECURITY_INFORMATION, access.data());
+    ::SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_HIDDEN);
+    writeFile(scratch("usual.htm"), "");
+    access = AccessTo(path);
+    ASSERT_NE(access, AccessTo(scratch("usual.htm")));
+    type("new ");
+    run(mnuFileSave);
+    EXPECT_EQ(readFile(path), "new old\r\n");
+    EXPECT_EQ(AccessTo(path), access);
+    EXPECT_EQ(::GetFileAttributesA(path.c_str()) & FILE_ATTRIBUTE_HIDDEN, FILE_ATTRIBUTE_HIDDEN + 0U);
+
+    ASSERT_TRUE(::CreateHardLinkA(scratch("link.htm").c_str(), path.c_str(), nullptr));
+    type("still ");
+    run(mnuFileSave);
+    EXPECT_EQ(readFile(scratch("link.htm")), "new still old\r\n") << "the other name is of the same file";
+}
+
 TEST_F(SaveTest, APageWithoutAFileIsSavedUnderAnotherName) {
     run(mnuFileNew);
     type("<!-- -->");
