@@ -1,4 +1,5 @@
 // Servers that refuse, break off, or send what no server should.
+#include <atomic>
 #include <cstdlib>
 
 #include "files/replace_file.h"
@@ -241,9 +242,11 @@ class Odd : public ftp::FtpSession {
     static std::unique_ptr<ftp::FtpSession> make() { return std::make_unique<Odd>(); }
 
     static inline win::UniqueHandle dialled;  // what dialling waits for
+    static inline std::atomic<bool> isDialling = false;
     static inline bool opened = false;
 
     bool dial() override {
+        isDialling = true;
         if (dialled) ::WaitForSingleObject(dialled.get(), INFINITE);
         return kOnline;
     }
@@ -273,7 +276,10 @@ TEST_F(FtpFaultsTest, CancelWhileDiallingSendsNoLogin) {
     using Slow = Odd<true>;
     Slow::dialled.reset(::CreateEventA(nullptr, TRUE, FALSE, nullptr));
     addSite("127.0.0.1", "plain", "pw");
-    const auto leave = [](HWND connecting) { ::PostMessageA(connecting, WM_CLOSE, 0, 0); };
+    const auto leave = [](HWND connecting) {
+        EXPECT_TRUE(seen::Until([] { return Slow::isDialling.load(); }));
+        ::PostMessageA(connecting, WM_CLOSE, 0, 0);
+    };
     heard([&] { frmUpload::open(main(), 0, Slow::make); },
           {{"Quillon FTP", leave}, User::press("NOT CONNECTED", IDOK)});
     ::SetEvent(Slow::dialled.get());
