@@ -22,8 +22,8 @@ void Print(const std::string& what, double ours, double theirs, double aim);
 // An HTML page of about this many bytes.
 std::string Page(std::size_t bytes);
 
-// Streams the page into a control of the bare class, which is then destroyed.
-void BareControl(HWND parent, std::u16string_view page);
+// Streams the page into a control of the bare class, has it used, and destroys it.
+void BareControl(HWND parent, std::u16string_view page, const std::function<void(HWND)>& use = {});
 
 // A path in the folder for what the benchmark writes.
 std::string Scratch(const std::string& name);
@@ -32,6 +32,7 @@ void WriteFile(const std::string& path, const std::string& bytes);
 // The parts of the benchmark.
 void Start();
 void OpenAndSave(MainWindow& main);
+void Typing(MainWindow& main);
 void FindAndReplace(MainWindow& main);
 void Chart(MainWindow& main);
 void Ftp(MainWindow& main);

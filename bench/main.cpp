@@ -24,6 +24,7 @@ int main(int argc, char** argv) {
     frmNotePad& window = frmNotePad::open();
     ::ShowWindow(window.hwnd(), SW_SHOW);
     if (Wanted("pages", argc, argv)) bench::OpenAndSave(window);
+    if (Wanted("typing", argc, argv)) bench::Typing(window);
     if (Wanted("find", argc, argv)) bench::FindAndReplace(window);
     if (Wanted("chart", argc, argv)) bench::Chart(window);
     if (Wanted("ftp", argc, argv)) bench::Ftp(window);

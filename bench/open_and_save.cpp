@@ -35,7 +35,7 @@ void Save(MainWindow& main, const std::string& path) {
 
 }  // namespace
 
-void BareControl(HWND parent, std::u16string_view page) {
+void BareControl(HWND parent, std::u16string_view page, const std::function<void(HWND)>& use) {
     // The same control as a page's, made and set up in the same way.
     struct Bare : document::RichEdit {
         using Control::hwnd;
@@ -46,6 +46,7 @@ void BareControl(HWND parent, std::u16string_view page) {
     std::u16string_view rest = page;
     EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&rest), 0, Feed};
     ::SendMessageA(control, EM_STREAMIN, SF_TEXT | SF_UNICODE, reinterpret_cast<LPARAM>(&stream));
+    if (use) use(control);
     ::DestroyWindow(control);
 }
 
