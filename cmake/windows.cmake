@@ -10,7 +10,7 @@ target_include_directories(quillon_app PUBLIC res)
 target_precompile_headers(quillon_app PRIVATE
     <algorithm> <functional> <memory> <optional> <string> <string_view> <utility> <vector> <win/windows.h>)
 target_link_libraries(quillon_app PUBLIC
-    quillon_core comctl32 ole32 uuid gdi32 user32 advapi32)
+    quillon_core comctl32 comdlg32 shell32 ole32 oleaut32 uuid gdi32 user32 advapi32)
 
 # The version as the record's numbers, 4,1,0,2, and as it is spelled, 4.01.0002. Scripts read it in version.txt.
 string(REPLACE "." "," version_numbers ${PROJECT_VERSION})
@@ -38,12 +38,8 @@ if(MINGW)
     target_link_options(Quillon PRIVATE -g -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.)
 endif()
 if(MINGW AND CMAKE_SIZEOF_VOID_P EQUAL 4)
-    target_sources(Quillon PRIVATE src/lean_runtime.cpp)
-    # The program uses no thread of the language's: with the runtime of the compiler's other variant it need not carry
-    # a library of POSIX threads, 25 KB.
-    execute_process(COMMAND ${QUILLON_MINGW}-g++-win32 -print-file-name=libstdc++.a
-        OUTPUT_VARIABLE lean_runtime OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
-    cmake_path(GET lean_runtime PARENT_PATH lean_runtime)
-    target_link_directories(Quillon BEFORE PRIVATE ${lean_runtime})
     target_sources(Quillon PRIVATE cmake/mingw_tick_count.cpp)
+    # An exception that nobody catches ends the program. The library's own handler would print its name first,
+    # by a demangler and a printf of 70 KB, for nobody to see.
+    target_link_options(Quillon PRIVATE -Wl,--defsym=__ZN9__gnu_cxx27__verbose_terminate_handlerEv=_abort)
 endif()

@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "win/error.h"
-#include "win/late.h"
+#include "win/system_dll.h"
 #include "win/unicode.h"
 
 namespace document {

@@ -54,7 +54,7 @@ class WindowsCodePages final : public CodePages {
 }  // namespace
 
 const CodePages& SystemCodePages() {
-    static const WindowsCodePages pages;
+    static constexpr WindowsCodePages pages;
     return pages;
 }
 

@@ -5,7 +5,6 @@
 #include <array>
 
 #include "win/disabled.h"
-#include "win/late.h"
 #include "win/unicode.h"
 
 namespace files {
@@ -13,18 +12,13 @@ namespace {
 
 using Show = BOOL(WINAPI*)(OPENFILENAMEW*);
 
-constexpr char kDll[] = "comdlg32.dll";
-constexpr win::Late<Show> kGetOpenFileName{kDll, "GetOpenFileNameW"};
-constexpr win::Late<Show> kGetSaveFileName{kDll, "GetSaveFileNameW"};
-constexpr win::Late<decltype(&::CommDlgExtendedError)> kCommDlgExtendedError{kDll, "CommDlgExtendedError"};
-
 std::string Trimmed(std::wstring_view text) {
     const std::size_t first = text.find_first_not_of(L' ');
     if (first == std::wstring_view::npos) return {};
     return win::ToUtf8(text.substr(first, text.find_last_not_of(L' ') - first + 1));
 }
 
-std::optional<std::string> Ask(const FileDialog& dialog, const win::Late<Show>& show) {
+std::optional<std::string> Ask(const FileDialog& dialog, Show show) {
     std::array<wchar_t, 1024> path{};
     std::array<wchar_t, 512> title{};
     win::ToWide(dialog.proposedName).copy(path.data(), path.size() - 1);
@@ -46,7 +40,7 @@ std::optional<std::string> Ask(const FileDialog& dialog, const win::Late<Show>& 
     const win::Disabled others(dialog.owner);
     if (show(&record)) return Trimmed(path.data());
     // A page may be titled with what is no file name. The system then shows no dialog at all.
-    if (kCommDlgExtendedError() != FNERR_INVALIDFILENAME) return std::nullopt;
+    if (::CommDlgExtendedError() != FNERR_INVALIDFILENAME) return std::nullopt;
     path[0] = L'\0';
     return show(&record) ? std::optional(Trimmed(path.data())) : std::nullopt;
 }
@@ -54,11 +48,11 @@ std::optional<std::string> Ask(const FileDialog& dialog, const win::Late<Show>& 
 }  // namespace
 
 std::optional<std::string> AskOpenPath(const FileDialog& dialog) {
-    return Ask(dialog, kGetOpenFileName);
+    return Ask(dialog, ::GetOpenFileNameW);
 }
 
 std::optional<std::string> AskSavePath(const FileDialog& dialog) {
-    return Ask(dialog, kGetSaveFileName);
+    return Ask(dialog, ::GetSaveFileNameW);
 }
 
 }  // namespace files

@@ -1,5 +1,7 @@
 #include "files/modOpen.h"
 
+#include <shlobj.h>
+
 #include <algorithm>
 #include <exception>
 #include <optional>
@@ -12,7 +14,6 @@
 #include "files/page_writer.h"
 #include "files/replace_file.h"
 #include "settings/CRegSettings.h"
-#include "win/late_shell.h"
 #include "win/message_box.h"
 #include "win/message_loop.h"
 #include "win/unicode.h"
@@ -31,7 +32,7 @@ constexpr wchar_t kDownloadFilters[] =
 
 std::string DocumentsFolder() {
     wchar_t folder[MAX_PATH] = L"";
-    return win::kFolderPath(nullptr, CSIDL_PERSONAL, nullptr, SHGFP_TYPE_CURRENT, folder) == S_OK
+    return ::SHGetFolderPathW(nullptr, CSIDL_PERSONAL, nullptr, SHGFP_TYPE_CURRENT, folder) == S_OK
                ? win::ToUtf8(folder)
                : "C:\\";
 }

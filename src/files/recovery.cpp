@@ -86,7 +86,7 @@ Recovery::Recovery(std::string folder) : folder_(std::move(folder)) {}
 Recovery::~Recovery() = default;
 
 std::wstring Recovery::copyPath(DocumentId page) const {
-    return name_ + L'-' + std::to_wstring(page) + kCopyEnding;
+    return name_ + L'-' + win::ToWide(std::to_string(page)) + kCopyEnding;
 }
 
 // The lock tells that this program's copies are nobody else's.
@@ -94,7 +94,7 @@ bool Recovery::lock() {
     if (lock_) return true;
     DWORD number = ::GetCurrentProcessId();
     for (int tries = 0; tries < 100 && !lock_; ++tries, number += ::GetTickCount() | 1U) {
-        name_ = win::ToWide(folder_) + kPrefix + std::to_wstring(number);
+        name_ = win::ToWide(folder_) + kPrefix + win::ToWide(std::to_string(number));
         lock_ = OpenLock(name_ + kLockEnding, CREATE_NEW);
         if (!lock_ && ::GetLastError() != ERROR_FILE_EXISTS && ::GetLastError() != ERROR_SHARING_VIOLATION)
             break;
@@ -171,7 +171,7 @@ std::vector<Recovery::Found> Recovery::takeOver() {
         const auto bytes = mBinOpen::ReadFileAtOnce(win::ToUtf8(folder + name));
         auto copy = bytes ? Unpack(*bytes) : std::nullopt;
         if (!copy || !lock()) continue;
-        const std::wstring mine = name_ + L"-back" + std::to_wstring(found.size()) + ending;
+        const std::wstring mine = name_ + L"-back" + win::ToWide(std::to_string(found.size())) + ending;
         if (::MoveFileExW((folder + name).c_str(), mine.c_str(), 0))
             found.push_back({std::move(*copy), mine});
     }

@@ -8,7 +8,7 @@
 
 #include <wininet.h>
 
-#include "win/late.h"
+#include "win/system_dll.h"
 #include "win/unique.h"
 
 namespace ftp {
@@ -16,25 +16,27 @@ namespace {
 
 // The ...A functions: names and answers are the server's bytes, which no code page of ours may touch.
 constexpr char kDll[] = "wininet.dll";
-constexpr win::Late<decltype(&::FtpCreateDirectoryA)> kFtpCreateDirectory{kDll, "FtpCreateDirectoryA"};
-constexpr win::Late<decltype(&::FtpDeleteFileA)> kFtpDeleteFile{kDll, "FtpDeleteFileA"};
-constexpr win::Late<decltype(&::FtpFindFirstFileA)> kFtpFindFirstFile{kDll, "FtpFindFirstFileA"};
-constexpr win::Late<decltype(&::FtpGetCurrentDirectoryA)> kFtpGetCurrentDirectory{kDll,
-                                                                                  "FtpGetCurrentDirectoryA"};
-constexpr win::Late<decltype(&::FtpOpenFileA)> kFtpOpenFile{kDll, "FtpOpenFileA"};
-constexpr win::Late<decltype(&::FtpRemoveDirectoryA)> kFtpRemoveDirectory{kDll, "FtpRemoveDirectoryA"};
-constexpr win::Late<decltype(&::FtpRenameFileA)> kFtpRenameFile{kDll, "FtpRenameFileA"};
-constexpr win::Late<decltype(&::FtpSetCurrentDirectoryA)> kFtpSetCurrentDirectory{kDll,
-                                                                                  "FtpSetCurrentDirectoryA"};
-constexpr win::Late<decltype(&::InternetAutodial)> kInternetAutodial{kDll, "InternetAutodial"};
-constexpr win::Late<decltype(&::InternetCloseHandle)> kInternetCloseHandle{kDll, "InternetCloseHandle"};
-constexpr win::Late<decltype(&::InternetConnectA)> kInternetConnect{kDll, "InternetConnectA"};
-constexpr win::Late<decltype(&::InternetFindNextFileA)> kInternetFindNextFile{kDll, "InternetFindNextFileA"};
-constexpr win::Late<decltype(&::InternetGetLastResponseInfoA)> kInternetGetLastResponseInfo{
+constexpr win::DelayLoaded<decltype(&::FtpCreateDirectoryA)> kFtpCreateDirectory{kDll, "FtpCreateDirectoryA"};
+constexpr win::DelayLoaded<decltype(&::FtpDeleteFileA)> kFtpDeleteFile{kDll, "FtpDeleteFileA"};
+constexpr win::DelayLoaded<decltype(&::FtpFindFirstFileA)> kFtpFindFirstFile{kDll, "FtpFindFirstFileA"};
+constexpr win::DelayLoaded<decltype(&::FtpGetCurrentDirectoryA)> kFtpGetCurrentDirectory{
+    kDll, "FtpGetCurrentDirectoryA"};
+constexpr win::DelayLoaded<decltype(&::FtpOpenFileA)> kFtpOpenFile{kDll, "FtpOpenFileA"};
+constexpr win::DelayLoaded<decltype(&::FtpRemoveDirectoryA)> kFtpRemoveDirectory{kDll, "FtpRemoveDirectoryA"};
+constexpr win::DelayLoaded<decltype(&::FtpRenameFileA)> kFtpRenameFile{kDll, "FtpRenameFileA"};
+constexpr win::DelayLoaded<decltype(&::FtpSetCurrentDirectoryA)> kFtpSetCurrentDirectory{
+    kDll, "FtpSetCurrentDirectoryA"};
+constexpr win::DelayLoaded<decltype(&::InternetAutodial)> kInternetAutodial{kDll, "InternetAutodial"};
+constexpr win::DelayLoaded<decltype(&::InternetCloseHandle)> kInternetCloseHandle{kDll,
+                                                                                  "InternetCloseHandle"};
+constexpr win::DelayLoaded<decltype(&::InternetConnectA)> kInternetConnect{kDll, "InternetConnectA"};
+constexpr win::DelayLoaded<decltype(&::InternetFindNextFileA)> kInternetFindNextFile{kDll,
+                                                                                     "InternetFindNextFileA"};
+constexpr win::DelayLoaded<decltype(&::InternetGetLastResponseInfoA)> kInternetGetLastResponseInfo{
     kDll, "InternetGetLastResponseInfoA"};
-constexpr win::Late<decltype(&::InternetOpenW)> kInternetOpen{kDll, "InternetOpenW"};
-constexpr win::Late<decltype(&::InternetReadFile)> kInternetReadFile{kDll, "InternetReadFile"};
-constexpr win::Late<decltype(&::InternetWriteFile)> kInternetWriteFile{kDll, "InternetWriteFile"};
+constexpr win::DelayLoaded<decltype(&::InternetOpenW)> kInternetOpen{kDll, "InternetOpenW"};
+constexpr win::DelayLoaded<decltype(&::InternetReadFile)> kInternetReadFile{kDll, "InternetReadFile"};
+constexpr win::DelayLoaded<decltype(&::InternetWriteFile)> kInternetWriteFile{kDll, "InternetWriteFile"};
 
 constexpr std::size_t kChunk = 64 * 1024;
 

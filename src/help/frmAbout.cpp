@@ -6,7 +6,7 @@
 #include "forms/frmAbout.h"
 #include "help/core/links.h"
 #include "win/error.h"
-#include "win/late.h"
+#include "win/system_dll.h"
 #include "win/shell_open.h"
 #include "win/system_colours.h"
 #include "win/unicode.h"
@@ -17,7 +17,7 @@ namespace {
 constexpr int kLinks = 2;
 
 // Not an import: one of that name beside the program would be loaded with it.
-constexpr win::Late<decltype(&::VerQueryValueW)> kVerQueryValue{"version.dll", "VerQueryValueW"};
+constexpr win::DelayLoaded<decltype(&::VerQueryValueW)> kVerQueryValue{"version.dll", "VerQueryValueW"};
 
 constexpr char kDescription[] =
     "Description: Small in file size yet robust in features, Quillon edits any number of pages at once, "

@@ -10,9 +10,9 @@
 #include "document/frmChild.h"
 #include "print/core/print_layout.h"
 #include "win/error.h"
-#include "win/late.h"
 #include "win/message_box.h"
 #include "win/message_loop.h"
+#include "win/system_dll.h"
 #include "win/unicode.h"
 #include "win/unique.h"
 #include "win/units.h"
@@ -28,7 +28,8 @@ constexpr WORD kNoGlyph = 0xFFFF;
 constexpr DWORD kCharsets[] = {DEFAULT_CHARSET, SHIFTJIS_CHARSET, GB2312_CHARSET, CHINESEBIG5_CHARSET,
                                HANGUL_CHARSET,  ARABIC_CHARSET,   THAI_CHARSET};
 
-constexpr win::Late<decltype(&::GetDefaultPrinterW)> kGetDefaultPrinter{"winspool.drv", "GetDefaultPrinterW"};
+constexpr win::DelayLoaded<decltype(&::GetDefaultPrinterW)> kGetDefaultPrinter{"winspool.drv",
+                                                                               "GetDefaultPrinterW"};
 
 win::UniqueDc DefaultPrinter() {
     DWORD size = 0;

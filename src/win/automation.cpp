@@ -2,20 +2,11 @@
 
 #include <new>
 
-#include "win/late.h"
 #include "win/message_loop.h"
 #include "win/unicode.h"
 
 namespace win {
 namespace {
-
-constexpr char kDll[] = "oleaut32.dll";
-constexpr Late<decltype(&::GetActiveObject)> kGetActiveObject{kDll, "GetActiveObject"};
-constexpr Late<decltype(&::SysAllocStringLen)> kSysAllocStringLen{kDll, "SysAllocStringLen"};
-constexpr Late<decltype(&::SysFreeString)> kSysFreeString{kDll, "SysFreeString"};
-constexpr Late<decltype(&::SysStringLen)> kSysStringLen{kDll, "SysStringLen"};
-constexpr Late<decltype(&::VariantChangeType)> kVariantChangeType{kDll, "VariantChangeType"};
-constexpr Late<decltype(&::VariantClear)> kVariantClear{kDll, "VariantClear"};
 
 // A program that shows a dialog or prints turns calls away without having run them.
 bool IsBusy(HRESULT result) {
@@ -42,7 +33,7 @@ void CheckCall(const Call& call) {
 bool IsAutomationRunning(const wchar_t* progId) {
     CLSID id{};
     IUnknown* object = nullptr;
-    if (FAILED(::CLSIDFromProgID(progId, &id)) || FAILED(kGetActiveObject(id, nullptr, &object)))
+    if (FAILED(::CLSIDFromProgID(progId, &id)) || FAILED(::GetActiveObject(id, nullptr, &object)))
         return false;
     return ComPtr<IUnknown>(object) ? true : false;
 }
@@ -54,21 +45,20 @@ Variant::Variant(long number) : Variant() {
 
 Variant::Variant(std::u16string_view text) : Variant() {
     const std::wstring_view wide = AsWide(text);
-    value_.bstrVal = kSysAllocStringLen(wide.data(), static_cast<UINT>(wide.size()));
+    value_.bstrVal = ::SysAllocStringLen(wide.data(), static_cast<UINT>(wide.size()));
     if (!value_.bstrVal) throw std::bad_alloc();
     value_.vt = VT_BSTR;
 }
 
 Variant::~Variant() {
-    if (value_.vt != VT_EMPTY) kVariantClear(&value_);
+    if (value_.vt != VT_EMPTY) ::VariantClear(&value_);
 }
 
 std::u16string Variant::text() const {
     Variant converted;
-    CheckResult(
-        kVariantChangeType(converted.out(), const_cast<VARIANT*>(&value_), USHORT{0}, VARTYPE{VT_BSTR}));
+    CheckResult(::VariantChangeType(converted.out(), const_cast<VARIANT*>(&value_), 0, VT_BSTR));
     const BSTR wide = converted.value_.bstrVal;
-    return std::u16string(AsUtf16({wide ? wide : L"", kSysStringLen(wide)}));
+    return std::u16string(AsUtf16({wide ? wide : L"", ::SysStringLen(wide)}));
 }
 
 std::optional<AutomationObject> AutomationObject::create(const wchar_t* progId) {
@@ -93,9 +83,9 @@ Variant AutomationObject::invoke(const wchar_t* method, VARIANT* reversedArgumen
         const HRESULT done =
             object_.get()->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD | DISPATCH_PROPERTYGET,
                                   &parameters, result.out(), &failure, nullptr);
-        kSysFreeString(failure.bstrSource);
-        kSysFreeString(failure.bstrDescription);
-        kSysFreeString(failure.bstrHelpFile);
+        ::SysFreeString(failure.bstrSource);
+        ::SysFreeString(failure.bstrDescription);
+        ::SysFreeString(failure.bstrHelpFile);
         return done;
     });
     return result;

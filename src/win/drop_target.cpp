@@ -1,17 +1,18 @@
 #include "win/drop_target.h"
 
+#include <shellapi.h>
+
 #include <utility>
 
 #include "win/error.h"
-#include "win/late_shell.h"
 #include "win/unicode.h"
 
 namespace win {
 namespace {
 
 std::string DroppedPath(HDROP files, UINT index) {
-    std::wstring path(kDragQueryFile(files, index, nullptr, 0) + 1U, L'\0');
-    path.resize(kDragQueryFile(files, index, path.data(), static_cast<UINT>(path.size())));
+    std::wstring path(::DragQueryFileW(files, index, nullptr, 0) + 1U, L'\0');
+    path.resize(::DragQueryFileW(files, index, path.data(), static_cast<UINT>(path.size())));
     return ToUtf8(path);
 }
 
@@ -21,7 +22,7 @@ std::vector<std::string> FilesOf(IDataObject& data) {
     std::vector<std::string> paths;
     if (FAILED(data.GetData(&format, &medium))) return paths;
     const auto files = reinterpret_cast<HDROP>(medium.hGlobal);
-    const UINT count = kDragQueryFile(files, 0xFFFFFFFF, nullptr, 0);
+    const UINT count = ::DragQueryFileW(files, 0xFFFFFFFF, nullptr, 0);
     for (UINT i = 0; i < count; ++i) paths.push_back(DroppedPath(files, i));
     ::ReleaseStgMedium(&medium);
     return paths;

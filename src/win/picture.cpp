@@ -97,11 +97,12 @@ UniqueImageList ListOf(const Pixels& pixels) {
 }  // namespace
 
 int PictureSize() {
-    static const int known = [] {
+    static int known = 0;
+    if (known == 0) {
         const int room = Scaled(kSmall);
         const int size = room >= 32 ? 32 : room >= 24 ? 24 : kSmall;
-        return Load("new", size, size) ? size : kSmall;
-    }();
+        known = Load("new", size, size) ? size : kSmall;
+    }
     return known;
 }
 

@@ -1,6 +1,7 @@
 #include "win/shell_open.h"
 
-#include "win/late_shell.h"
+#include <shellapi.h>
+
 #include "win/unicode.h"
 
 namespace win {
@@ -14,18 +15,18 @@ bool IsDone(HINSTANCE result) {
 }  // namespace
 
 void OpenAddress(const std::string& address) {
-    kShellExecute(nullptr, nullptr, ToWide(address).c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+    ::ShellExecuteW(nullptr, nullptr, ToWide(address).c_str(), nullptr, nullptr, SW_SHOWNORMAL);
 }
 
 std::string ProgramFor(const std::string& file, const std::string& folder) {
     wchar_t program[MAX_PATH] = L"";
-    const bool found = IsDone(kFindExecutable(ToWide(file).c_str(), ToWide(folder).c_str(), program));
+    const bool found = IsDone(::FindExecutableW(ToWide(file).c_str(), ToWide(folder).c_str(), program));
     return found ? ToUtf8(program) : std::string();
 }
 
 bool OpenFile(HWND owner, const std::string& file, const std::string& arguments, const std::string& folder) {
-    return IsDone(kShellExecute(owner, L"open", ToWide(file).c_str(), ToWide(arguments).c_str(),
-                                ToWide(folder).c_str(), SW_SHOWNORMAL));
+    return IsDone(::ShellExecuteW(owner, L"open", ToWide(file).c_str(), ToWide(arguments).c_str(),
+                                  ToWide(folder).c_str(), SW_SHOWNORMAL));
 }
 
 }  // namespace win

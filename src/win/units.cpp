@@ -4,12 +4,12 @@ namespace win {
 
 int SystemDpi() {
     // It is the same for as long as the process lives.
-    static const int known = [] {
+    static int known = 0;
+    if (known == 0) {
         const HDC screen = ::GetDC(nullptr);
-        const int dpi = ::GetDeviceCaps(screen, LOGPIXELSY);
+        known = ::GetDeviceCaps(screen, LOGPIXELSY);
         ::ReleaseDC(nullptr, screen);
-        return dpi;
-    }();
+    }
     return known;
 }
 

@@ -16,7 +16,7 @@ class IconvCodePages : public document::CodePages {
  public:
     explicit IconvCodePages(unsigned ansi = 1252) : ansi_(ansi) {}
 
-    ~IconvCodePages() override {
+    ~IconvCodePages() {
         for (const auto& [key, converter] : converters_) ::iconv_close(converter);
     }
 

@@ -1,10 +1,11 @@
 #include "authoring/templates/frmTemplatesOrg.h"
 
+#include <shellapi.h>
+
 #include "authoring/templates/mTemplateLoad.h"
 #include "authoring/templates/template_store.h"
 #include "files/modPubFuncs.h"
 #include "forms/frmTemplatesOrg.h"
-#include "win/late_shell.h"
 #include "win/message_box.h"
 #include "win/unicode.h"
 #include "win/window.h"
@@ -24,7 +25,7 @@ Deletion DeleteToBin(HWND owner, const std::string& path) {
     operation.wFunc = FO_DELETE;
     operation.pFrom = list.c_str();
     operation.fFlags = FOF_ALLOWUNDO;
-    const int result = win::kFileOperation(&operation);
+    const int result = ::SHFileOperationW(&operation);
     if (operation.fAnyOperationsAborted || result == ERROR_CANCELLED) return Deletion::calledOff;
     return result == 0 ? Deletion::done : Deletion::failed;
 }

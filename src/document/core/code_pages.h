@@ -22,10 +22,9 @@ struct Encoding {
 // The system's code pages; nobody asks it about UTF-8 and UTF-16. Nothing converts to nothing.
 class CodePages {
  public:
-    CodePages() = default;
+    constexpr CodePages() = default;
     CodePages(const CodePages&) = delete;
     CodePages& operator=(const CodePages&) = delete;
-    virtual ~CodePages() = default;
 
     // The system's ANSI code page; may be kUtf8.
     virtual unsigned ansi() const = 0;
@@ -42,6 +41,9 @@ class CodePages {
 
     // Without best fit; what the code page lacks may come out as anything.
     virtual std::string fromUnicode(unsigned codePage, std::u16string_view text) const = 0;
+
+ protected:
+    ~CodePages() = default;
 };
 
 }  // namespace document

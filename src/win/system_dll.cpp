@@ -1,10 +1,9 @@
-#include "win/late.h"
+#include "win/system_dll.h"
 
 #include "win/error.h"
 #include "win/unicode.h"
 
 namespace win {
-
 namespace {
 
 template <typename Function>
@@ -34,7 +33,7 @@ HMODULE LoadSystemDll(const char* dll) {
     return Check(::LoadLibraryExW(path.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH));
 }
 
-void* LateFunction(const char* dll, const char* name) {
+void* SystemFunction(const char* dll, const char* name) {
     return reinterpret_cast<void*>(Check(::GetProcAddress(LoadSystemDll(dll), name)));
 }
 

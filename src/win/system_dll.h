@@ -1,4 +1,4 @@
-// Functions of DLLs that most runs of the program never need.
+// The system's DLLs, loaded from its own folder.
 #pragma once
 
 #include <string>
@@ -18,20 +18,20 @@ std::wstring SystemFolder();
 // win::Error.
 HMODULE LoadSystemDll(const char* dll);
 
-// The function itself.
-void* LateFunction(const char* dll, const char* name);
+// Loads the DLL too. Throws win::Error where the system has no such function.
+void* SystemFunction(const char* dll, const char* name);
 
-// Calls a function of a DLL that is loaded by the first call and then stays. An import of the program's would
-// load it at every start, which those few calls are not worth. Throws win::Error where the system has no such
-// function.
+// A delay-loaded function: the first call loads the DLL, which then stays. For DLLs that are not among those
+// which Windows always takes from its own folder ("KnownDLLs"): as an import, one beside the program would
+// be loaded. Throws win::Error where the system has no such function.
 template <typename Function>
-class Late {
+class DelayLoaded {
  public:
-    constexpr Late(const char* dll, const char* name) : dll_(dll), name_(name) {}
+    constexpr DelayLoaded(const char* dll, const char* name) : dll_(dll), name_(name) {}
 
     template <typename... Arguments>
     auto operator()(Arguments... arguments) const {
-        return reinterpret_cast<Function>(LateFunction(dll_, name_))(arguments...);
+        return reinterpret_cast<Function>(SystemFunction(dll_, name_))(arguments...);
     }
 
  private:
