@@ -1,7 +1,6 @@
 #include "files/basMRU.h"
 
-#include <array>
-#include <cstdlib>
+#include <algorithm>
 #include <exception>
 #include <vector>
 
@@ -47,47 +46,34 @@ void ShowInMenu(MainWindow& main, const std::vector<std::string>& paths) {
     }
 }
 
-// The number that a path has in the store, or 0.
-std::size_t OldNumber(const std::vector<settings::Row>& old, const std::string& path) {
-    for (const settings::Row& row : old) {
-        if (row.value == path) return static_cast<std::size_t>(std::atoi(row.key.c_str()));
-    }
-    return 0;
+std::vector<settings::Row> RowsOf(const std::vector<std::string>& paths) {
+    std::vector<settings::Row> rows;
+    for (const std::string& path : paths) rows.push_back({std::to_string(rows.size() + 1), path});
+    return rows;
 }
 
-bool StoreCount(std::size_t count) {
-    return settings::Save(kCountSection, "Count", std::to_string(count));
+bool StoreRow(const settings::Row& row) {
+    return settings::Save(kFilesSection, row.key, row.value);
 }
 
-// Up goes from the top on and down from the bottom on, so that a row is written over only once its path
-// stands elsewhere, and surplus rows go last: a store that refuses in between has forgotten nothing.
-bool StoreRows(const std::vector<settings::Row>& old, const std::vector<std::string>& paths) {
-    std::array<bool, kRecentFiles> goesUp{};
-    std::size_t before = 0;
-    for (std::size_t i = paths.size(); i-- > 0;) {
-        const std::size_t number = OldNumber(old, paths[i]);
-        // A file that is opened again passes those above it, and is written last.
-        goesUp[i] = number > i && (i > 0 || number < before || before == 0);
-        before = number;
-    }
-    const auto save = [&](std::size_t i, bool up) {
-        return goesUp[i] != up || settings::Save(kFilesSection, std::to_string(i + 1), paths[i]);
-    };
-    bool done = true;
-    for (std::size_t i = 0; i < paths.size(); ++i) done = done && save(i, true);
-    for (std::size_t i = paths.size(); i-- > 0;) done = done && save(i, false);
-    return done;
+bool StoreCount(const std::vector<std::string>& paths) {
+    return settings::Save(kCountSection, "Count", std::to_string(paths.size()));
 }
 
-void Store(const std::vector<std::string>& paths) {
-    const std::vector<settings::Row> old = settings::GetAll(kFilesSection);
-    const std::size_t stored = StoredFiles().size();
-    if (paths.size() > stored && !StoreCount(paths.size())) return;
-    if (!StoreRows(old, paths) || !StoreCount(paths.size())) return;
-    for (const settings::Row& row : old) {
-        const auto number = static_cast<std::size_t>(std::atoi(row.key.c_str()));
-        const bool kept = number - 1 < paths.size() && row.key == std::to_string(number);
-        if (!kept) settings::DeleteKey(kFilesSection, row.key);
+// From the last row up, as a new first path moves all others down: a row is written over when its path
+// stands in the next one, so a store that refuses in between has forgotten nothing.
+void StoreWithNewest(const std::vector<std::string>& paths) {
+    const std::vector<settings::Row> rows = RowsOf(paths);
+    if (std::all_of(rows.rbegin(), rows.rend(), StoreRow)) StoreCount(paths);
+}
+
+// From the first row down, as what is left moves up.
+void StorePruned(const std::vector<std::string>& paths) {
+    const std::vector<settings::Row> rows = RowsOf(paths);
+    if (!std::all_of(rows.begin(), rows.end(), StoreRow) || !StoreCount(paths)) return;
+    for (const settings::Row& row : settings::GetAll(kFilesSection)) {
+        if (std::find(rows.begin(), rows.end(), row) == rows.end())
+            settings::DeleteKey(kFilesSection, row.key);
     }
 }
 
@@ -136,14 +122,16 @@ void LoadRecentFiles(MainWindow& main) {
 
 void AddRecentFile(MainWindow& main, const std::string& path) {
     if (modPubFuncs::IsBelow(path, main.temporaryFolder())) return;
-    const auto paths = files::WithNewest(Existing(StoredFiles()), path, modPubFuncs::SamePath);
-    Store(paths);
+    PruneRecentFiles(main);
+    const auto paths = files::WithNewest(StoredFiles(), path, modPubFuncs::SamePath);
+    StoreWithNewest(paths);
     ShowInMenu(main, paths);
 }
 
 void PruneRecentFiles(MainWindow& main) {
     const auto paths = Existing(StoredFiles());
-    Store(paths);
+    if (settings::GetAll(kFilesSection) == RowsOf(paths)) return;
+    StorePruned(paths);
     ShowInMenu(main, paths);
 }
 

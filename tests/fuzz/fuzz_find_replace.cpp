@@ -40,7 +40,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Check(authoring::ReplaceText<char16_t>(text, find, find) == text);
     Check(result.size() == text.size() + static_cast<std::size_t>(count) * with.size() -
                                static_cast<std::size_t>(count) * find.size());
-    const std::size_t first = authoring::FindFrom<char16_t>(text, find);
+    const std::size_t first = authoring::FindFrom(text, find, 0);
     const bool counted = first != 0 && first != kNotFound;
     Check(authoring::CountFromFirst(text, find, first) == (counted ? count : 0));
     return 0;

@@ -13,10 +13,6 @@ constexpr char kName[] = "frmFind";
 constexpr int kDown = 1300;  // twips
 constexpr char kPrompt[] = "Enter search string above...";
 
-std::size_t FindFrom(std::u16string_view text, std::u16string_view find, std::size_t from) {
-    return authoring::FindFrom(text, find, from);
-}
-
 }  // namespace
 
 frmFind::frmFind(MainWindow& owner)
@@ -110,7 +106,7 @@ void frmFind::FindAndCount() {
         const std::u16string text = win::LowerCase(target->txtPad().text());
         const std::u16string wanted = this->wanted();
         start = target->txtPad().selection().start;
-        found = FindFrom(text, wanted, static_cast<std::size_t>(start));
+        found = authoring::FindFrom(text, wanted, static_cast<std::size_t>(start));
         if (found != authoring::kNotFound) {
             SelectFound(*target, found + 1, wanted.size());
             nextStart_ = authoring::NextStartAfterFind(found, wanted.size());
@@ -162,7 +158,8 @@ void frmFind::clickFindNext() {
         const frmChild* target = readyPage();
         if (!target) return;
         const std::u16string wanted = this->wanted();
-        const std::size_t found = FindFrom(win::LowerCase(target->txtPad().text()), wanted, nextStart_);
+        const std::size_t found =
+            authoring::FindFrom(win::LowerCase(target->txtPad().text()), wanted, nextStart_);
         if (found != authoring::kNotFound) {
             nextStart_ = authoring::NextStartAfterFindNext(found, wanted.size());
             SelectFound(*target, found + 1, wanted.size());

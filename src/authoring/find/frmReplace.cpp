@@ -15,10 +15,6 @@ namespace {
 constexpr char kName[] = "frmReplace";
 constexpr int kDown = 3700;  // twips; below the Find dialog
 
-std::size_t FindFrom(std::u16string_view text, std::u16string_view find, std::size_t from) {
-    return authoring::FindFrom(text, find, from);
-}
-
 }  // namespace
 
 frmReplace::frmReplace(MainWindow& owner)
@@ -79,7 +75,7 @@ void frmReplace::clickReplace() {
     frmChild* target = page();
     if (!texts || !target) return;
     document::RichEdit& pad = target->txtPad();
-    const std::size_t at = FindFrom(pad.text(), texts->find, 0);
+    const std::size_t at = authoring::FindFrom(pad.text(), texts->find, 0);
     if (at == authoring::kNotFound) {
         tellNoMatch();
         return;
@@ -90,7 +86,7 @@ void frmReplace::clickReplace() {
     target->insert(texts->with);
     pad.scrollToCaret();
     focusPage(*target);
-    enableButtons(FindFrom(pad.text(), texts->find, at + 1) != authoring::kNotFound);
+    enableButtons(authoring::FindFrom(pad.text(), texts->find, at + 1) != authoring::kNotFound);
 }
 
 void frmReplace::clickReplaceAll() {

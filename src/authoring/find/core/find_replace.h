@@ -20,9 +20,7 @@ inline constexpr std::size_t kNotFound = std::u16string_view::npos;
 inline constexpr int kMaxMatches = 32767;
 
 // The first occurrence that begins at or after `from`, or kNotFound.
-template <typename Char>
-std::size_t FindFrom(std::basic_string_view<Char> text, std::basic_string_view<Char> find,
-                     std::size_t from = 0) {
+constexpr std::size_t FindFrom(std::u16string_view text, std::u16string_view find, std::size_t from) {
     return find.empty() ? kNotFound : text.find(find, from);
 }
 
@@ -53,7 +51,8 @@ std::basic_string<Char> ReplaceText(std::basic_string_view<Char> text, std::basi
                                     const std::function<void()>& onReplaced = {}) {
     std::basic_string<Char> result;
     std::size_t copied = 0;
-    for (std::size_t at = FindFrom(text, find); at != kNotFound; at = FindFrom(text, find, copied)) {
+    if (find.empty()) return std::basic_string<Char>(text);
+    for (std::size_t at = text.find(find); at != kNotFound; at = text.find(find, copied)) {
         result.append(text.substr(copied, at - copied)).append(with);
         copied = at + find.size();
         if (onReplaced) onReplaced();
