@@ -125,6 +125,42 @@ TEST_F(PageTest, AVeryLongLineIsWrappedOnTheScreenAndNowhereElse) {
     EXPECT_FALSE(main().menu().isChecked(mnuOptWW));
 }
 
+// A control that changes what it is given.
+WNDPROC realControl = nullptr;
+LRESULT CALLBACK ChangingControl(HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
+    const LRESULT result = ::CallWindowProcA(realControl, control, message, wParam, lParam);
+    if (message == EM_STREAMIN)
+        ::CallWindowProcA(realControl, control, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>("?"));
+    return result;
+}
+
+TEST_F(PageTest, APageThatTheControlChangesIsReadOnly) {
+    const auto setProcedure = [control = newPage("").txtPad().hwnd()](WNDPROC procedure) {
+        return ::SetClassLongPtrA(control, GCLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
+    };
+    realControl = reinterpret_cast<WNDPROC>(setProcedure(ChangingControl));
+    const auto text = said([&] { openPage("page.htm", "old"); });
+    setProcedure(realControl);
+    EXPECT_EQ(text.substr(0, text.find('\r')),
+              "page.htm holds characters that this system's edit control cannot keep.");
+    type("new ");
+    active().insert(u"new ");
+    EXPECT_EQ(said(mnuFileSave), "Could not write to the specified file at this time.");
+    EXPECT_EQ(readFile(scratch("page.htm")), "old");
+}
+
+TEST_F(PageTest, ShiftAndEnterEndALine) {
+    newPage("ab");
+    active().txtPad().select(1, 1);
+    BYTE keys[256] = {};
+    keys[VK_SHIFT] = 0x80;
+    ::SetKeyboardState(keys);
+    ::SendMessageW(active().txtPad().hwnd(), WM_KEYDOWN, VK_RETURN, 0);
+    keys[VK_SHIFT] = 0;
+    ::SetKeyboardState(keys);
+    EXPECT_EQ(pageText(), "a\r\nb");
+}
+
 TEST_F(PageTest, NewPagesAreNumberedAndHoldTheOutline) {
     run(mnuFileNew);
     EXPECT_EQ(active().Caption(), "Untitled1");
