@@ -44,6 +44,8 @@ if (( bits == 32 )); then
 else
     program=$project/build/$preset/Quillon.exe
 fi
+# QUILLON_WINE=trixie takes the Wine of that Debian, which setup makes beside this one.
+[[ ! ${QUILLON_WINE-} ]] || wine_root=$cache/wine-root-$QUILLON_WINE-$bits
 
 # configure PRESET [OPTION...]: readies build/PRESET; silent unless CMake complains.
 configure() {

@@ -36,7 +36,7 @@ in_windows() {
     local scratch=$results/$1-scratch
     rm -rf "$scratch"
     mkdir -p "$scratch"
-    QUILLON_PREFIX=$results/$1-prefix QUILLON_SCRATCH=$(windows_path "$scratch") \
+    QUILLON_PREFIX=$results/$1-prefix${QUILLON_WINE:+-$QUILLON_WINE} QUILLON_SCRATCH=$(windows_path "$scratch") \
         QUILLON_EXE=$(windows_path "$program") \
         with_small_disk "$results/$1-disk" "$project/tests/ftp/servers" "$project/scripts/headless" \
         timeout --foreground --kill-after=10 "${QUILLON_TEST_SECONDS:-900}" \

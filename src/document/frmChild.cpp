@@ -22,8 +22,6 @@ constexpr char kDefaultFace[] = "Courier New";
 
 // Posted to a document: something was dropped onto its page.
 constexpr UINT kDropsWaiting = WM_APP;
-// Posted to a page's control: from now on it takes drops, for which a page in a hurry to be seen cannot wait.
-constexpr UINT kAcceptDrops = WM_APP + 1;
 
 document::Font StoredFont() {
     const CRegSettings settings;
@@ -80,9 +78,6 @@ class frmChild::Pad : public document::RichEdit {
                 document::ShowEditMenu(
                     page_, page_.main_,
                     {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))});
-                return 0;
-            case kAcceptDrops:
-                win::AcceptDrops(hwnd());
                 return 0;
             case win::kDropped:
                 if (!win::DroppedFiles()) return 0;
@@ -154,7 +149,7 @@ frmChild& frmChild::open(MainWindow& main, const std::string& caption, const doc
 std::unique_ptr<document::RichEdit> frmChild::makePad(const document::Font& font) {
     auto pad = std::make_unique<Pad>(*this);
     pad->create(hwnd(), kPadId, font);
-    ::PostMessageW(pad->hwnd(), kAcceptDrops, 0, 0);
+    win::AcceptDrops(pad->hwnd());
     return pad;
 }
 

@@ -15,6 +15,7 @@ INT_PTR Dialog::showModal(HWND owner) {
     const Disabled others(owner);
     const INT_PTR result = ::DialogBoxParamW(::GetModuleHandleW(nullptr), ToWide(templateName_).c_str(),
                                              owner, procedure, reinterpret_cast<LPARAM>(this));
+    if (failure_) throw Failure(*failure_);
     if (result == -1) ThrowLastError();
     return result;
 }
@@ -23,6 +24,10 @@ void Dialog::createModeless(HWND owner) {
     const std::wstring name = ToWide(templateName_);
     const HWND window = Check(::CreateDialogParamW(::GetModuleHandleW(nullptr), name.c_str(), owner,
                                                    procedure, reinterpret_cast<LPARAM>(this)));
+    if (const std::optional<std::string> failure = failure_) {
+        ::DestroyWindow(window);
+        throw Failure(*failure);
+    }
     ::SetPropW(owner, name.c_str(), window);
 }
 
@@ -88,7 +93,7 @@ INT_PTR Dialog::dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
     try {
         result = handle(message, wParam, lParam);
     } catch (const std::exception& error) {
-        ShowMessage(hwnd_, error.what(), "Quillon", MB_ICONEXCLAMATION);
+        fail(message, error.what());
     }
     if (message == WM_NCDESTROY) {
         const HWND owner = ::GetWindow(hwnd_, GW_OWNER);
@@ -98,6 +103,16 @@ INT_PTR Dialog::dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
     }
     if (--depth_ == 0 && !hwnd_ && !modal_) delete this;
     return result;
+}
+
+// What was thrown in the handler of a message. A dialog that could not be made is not shown.
+void Dialog::fail(UINT message, const char* what) {
+    if (message != WM_INITDIALOG) {
+        ShowMessage(hwnd_, what, "Quillon", MB_ICONEXCLAMATION);
+        return;
+    }
+    failure_ = what;
+    if (modal_) ::EndDialog(hwnd_, -1);
 }
 
 INT_PTR Dialog::handle(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -1,6 +1,7 @@
 // The base of every form that is a dialog template of the resources.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -35,7 +36,8 @@ class Dialog {
     // `templateName` is the name of the dialog template, which is the form's.
     explicit Dialog(const char* templateName) : templateName_(templateName) {}
 
-    // Before the dialog is shown. True lets the system put the focus on the first control.
+    // Before the dialog is shown. True lets the system put the focus on the first control. When it throws the
+    // dialog is not shown, and whoever makes it gets a win::Failure.
     virtual bool onInit() { return true; }
     // WM_COMMAND of a control or a menu item; true says that it has been dealt with. IDCANCEL, which Esc and
     // the close box send, closes the dialog unless it is dealt with here.
@@ -59,10 +61,12 @@ class Dialog {
     static INT_PTR CALLBACK procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
     INT_PTR dispatch(UINT message, WPARAM wParam, LPARAM lParam);
     INT_PTR handle(UINT message, WPARAM wParam, LPARAM lParam);
+    void fail(UINT message, const char* what);
 
     const char* templateName_;
     HWND hwnd_ = nullptr;
     bool modal_ = false;
+    std::optional<std::string> failure_;  // of onInit()
     int depth_ = 0;  // handlers of this object on the stack
 };
 

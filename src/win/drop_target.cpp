@@ -4,7 +4,6 @@
 
 #include <utility>
 
-#include "win/error.h"
 #include "win/unicode.h"
 
 namespace win {
@@ -107,13 +106,11 @@ void SendDropped(HWND window, const std::vector<std::string>& paths) {
 
 void AcceptDrops(HWND window) {
     auto* target = new DropTarget(window);
-    HRESULT result = ::RegisterDragDrop(window, target);
-    if (result == DRAGDROP_E_ALREADYREGISTERED) {
+    if (::RegisterDragDrop(window, target) == DRAGDROP_E_ALREADYREGISTERED) {
         ::RevokeDragDrop(window);
-        result = ::RegisterDragDrop(window, target);
+        ::RegisterDragDrop(window, target);
     }
     target->Release();
-    if (FAILED(result)) throw Error(static_cast<DWORD>(result));
 }
 
 void RefuseDrops(HWND window) {

@@ -2,6 +2,8 @@
 #include <algorithm>
 
 #include "win/app_test.h"
+#include "win/dialog.h"
+#include "win/error.h"
 
 namespace {
 
@@ -124,6 +126,19 @@ TEST_F(FormsTest, WhatFormsMakeAtRunTimeHasNamesToo) {
     const std::string colours = NamesByTab(chart);
     EXPECT_EQ(std::count(colours.begin(), colours.end(), '#'), 216) << colours;
     ::SendMessageA(chart, WM_CLOSE, 0, 0);
+}
+
+class Broken : public win::Dialog {
+ public:
+    Broken() : Dialog("frmToUp") {}
+    bool onInit() override { throw win::Failure("No memory."); }
+};
+
+TEST_F(FormsTest, AFormThatCannotBeMadeIsNotThere) {
+    EXPECT_THROW(Broken().showModal(main().mainHwnd()), win::Failure);
+    EXPECT_THROW((new Broken)->showModeless(main().mainHwnd()), win::Failure);
+    EXPECT_EQ(win::Dialog::find(main().mainHwnd(), "frmToUp"), nullptr);
+    EXPECT_EQ(seen::TopLevel(::GetCurrentProcessId()), std::vector<HWND>{main().mainHwnd()});
 }
 
 TEST_F(FormsTest, AfterAChangeOfResolutionAllWindowsAreOnTheScreen) {
