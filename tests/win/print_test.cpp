@@ -3,6 +3,7 @@
 #include <sstream>
 
 #include "win/app_test.h"
+#include "win/failing_calls.h"
 #include "win/windows.h"
 
 #include <winspool.h>
@@ -44,19 +45,24 @@ class PrintTest : public AppTest {
         EXPECT_TRUE(::AddPrinterDriverExA(nullptr, 3, reinterpret_cast<BYTE*>(&driver),
                                           APD_COPY_NEW_FILES | APD_COPY_FROM_DIRECTORY));
         std::string port = unixPath("print.ps");
-        char processor[] = "WinPrint";
         PRINTER_INFO_2A info{};
         info.pPrinterName = info.pDriverName = kPrinter;
         info.pPortName = port.data();
-        info.pPrintProcessor = processor;
         info.pDatatype = dataType;
-        ::ClosePrinter(::AddPrinterA(nullptr, 2, reinterpret_cast<BYTE*>(&info)));
+        // Newer versions of Wine draw by a processor of the driver's own, which older ones do not have.
+        char processors[][9] = {"wineps", "WinPrint"};
+        HANDLE printer = nullptr;
+        for (std::size_t i = 0; i < std::size(processors) && !printer; ++i) {
+            info.pPrintProcessor = processors[i];
+            printer = ::AddPrinterA(nullptr, 2, reinterpret_cast<BYTE*>(&info));
+        }
+        ::ClosePrinter(printer);
         EXPECT_TRUE(::SetDefaultPrinterA(kPrinter)) << ::GetLastError();
     }
 
     void print(const std::string& text, const std::string& path = "") {
         newPage(text).setTag(path);
-        run(mnuFilePrint);
+        EXPECT_EQ(SaidBy([&] { run(mnuFilePrint); }), std::vector<std::string>());
     }
 
     // What was printed. Blank lines leave no trace but their room.
