@@ -35,6 +35,8 @@ constexpr win::Late<decltype(&::InternetGetLastResponseInfoA)> kInternetGetLastR
 constexpr win::Late<decltype(&::InternetOpenW)> kInternetOpen{kDll, "InternetOpenW"};
 constexpr win::Late<decltype(&::InternetReadFile)> kInternetReadFile{kDll, "InternetReadFile"};
 constexpr win::Late<decltype(&::InternetWriteFile)> kInternetWriteFile{kDll, "InternetWriteFile"};
+constexpr win::Late<decltype(&::InternetSetStatusCallbackA)> kInternetSetStatusCallback{
+    kDll, "InternetSetStatusCallbackA"};
 
 constexpr std::size_t kChunk = 64 * 1024;
 
@@ -53,6 +55,7 @@ class SharedInternet {
     void reset(HINTERNET handle = nullptr) {
         if (const HINTERNET old = handle_.exchange(handle)) CloseInternet(old);
     }
+    HINTERNET release() { return handle_.exchange(nullptr); }
 
  private:
     std::atomic<HINTERNET> handle_ = nullptr;
@@ -101,8 +104,16 @@ class WinInetSession final : public FtpSession {
 
     bool connect(const std::string& host, const std::string& user, const std::string& password) override {
         if (stopped_) return false;
-        server_.reset(kInternetConnect(internet_.get(), host.c_str(), port_, user.c_str(), password.c_str(),
-                                       INTERNET_SERVICE_FTP, 0, 0));
+        kInternetSetStatusCallback(internet_.get(), Follow);
+        told_ = false;
+        const HINTERNET made =
+            kInternetConnect(internet_.get(), host.c_str(), port_, user.c_str(), password.c_str(),
+                             INTERNET_SERVICE_FTP, 0, reinterpret_cast<DWORD_PTR>(this));
+        // One that has gone from there has been closed meanwhile.
+        const bool isOurs = connecting_.release() || !told_;
+        if (!made || !isOurs) return false;
+        kInternetSetStatusCallback(made, nullptr);
+        server_.reset(made);
         return isConnected();
     }
 
@@ -112,6 +123,7 @@ class WinInetSession final : public FtpSession {
 
     void close() override {
         server_.reset();
+        connecting_.reset();
         internet_.reset();
     }
 
@@ -160,6 +172,17 @@ class WinInetSession final : public FtpSession {
     }
 
  private:
+    // The call that connects also logs in; its handle is told before it is back, so that it can be broken off.
+    static void CALLBACK Follow(HINTERNET, DWORD_PTR context, DWORD status, LPVOID about, DWORD) {
+        auto& self = *reinterpret_cast<WinInetSession*>(context);
+        if (status == INTERNET_STATUS_HANDLE_CREATED) {
+            const auto& created = *static_cast<const INTERNET_ASYNC_RESULT*>(about);
+            self.connecting_.reset(reinterpret_cast<HINTERNET>(created.dwResult));
+            self.told_ = true;
+        }
+        if (self.stopped_) self.connecting_.reset();
+    }
+
     // A call's result, after a look at why it failed.
     bool note(bool done) {
         if (done) return true;
@@ -226,7 +249,9 @@ class WinInetSession final : public FtpSession {
     std::atomic<bool> lost_ = false;
     // Closed last to first: the connection belongs to the system's networking.
     SharedInternet internet_;
+    SharedInternet connecting_;
     SharedInternet server_;
+    bool told_ = false;  // of the connecting one
 };
 
 }  // namespace

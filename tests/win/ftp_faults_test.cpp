@@ -269,7 +269,7 @@ class Odd : public ftp::FtpSession {
     static bool fail() { throw win::Failure("out of order"); }
 };
 
-TEST_F(FtpFaultsTest, CancelWhileDiallingSendsNoLogin) {
+TEST_F(FtpFaultsTest, CancelWhileDiallingOrConnectingSendsNoLogin) {
     using Slow = Odd<true>;
     Slow::dialled.reset(::CreateEventA(nullptr, TRUE, FALSE, nullptr));
     addSite("127.0.0.1", "plain", "pw");
@@ -278,6 +278,14 @@ TEST_F(FtpFaultsTest, CancelWhileDiallingSendsNoLogin) {
           {{"Quillon FTP", leave}, User::press("NOT CONNECTED", IDOK)});
     ::SetEvent(Slow::dialled.get());
     EXPECT_FALSE(Slow::opened);
+
+    HWND closing = nullptr;
+    heard([&] { openScripted("hold-USER"); },
+          {closeDuring("USER", "Quillon FTP", closing), User::press("NOT CONNECTED", IDOK)});
+    const auto other = ScriptedSession();
+    EXPECT_TRUE(other->open() && other->connect("127.0.0.1", "go-on", "open"));
+    EXPECT_TRUE(wasTold("hold-USER ended"));
+    EXPECT_EQ(told().find("PASS pw"), std::string::npos) << told();
 }
 
 TEST_F(FtpFaultsTest, WithoutADialUpLinkTheAttemptGoesOnAndWithoutNetworkingItEnds) {

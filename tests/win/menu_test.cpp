@@ -154,6 +154,9 @@ TEST_F(MenuTest, TheWindowListNamesThePagesAndFollowsThem) {
     run(mnuWind + 2);
     EXPECT_TRUE(::IsZoomed(first.hwnd()));
     EXPECT_EQ(textOf(menu(2), 0), "a && b.htm") << "a maximised page puts its system menu first";
+    for (const int show : {SW_MINIMIZE, SW_RESTORE}) ::ShowWindow(main().mainHwnd(), show);
+    EXPECT_EQ(&active(), &first);
+    EXPECT_FALSE(::IsZoomed(first.hwnd()));
 }
 
 }  // namespace
