@@ -4,6 +4,7 @@
 #include <array>
 #include <atomic>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <wininet.h>
@@ -34,9 +35,9 @@ constexpr win::Late<decltype(&::InternetGetLastResponseInfoA)> kInternetGetLastR
     kDll, "InternetGetLastResponseInfoA"};
 constexpr win::Late<decltype(&::InternetOpenW)> kInternetOpen{kDll, "InternetOpenW"};
 constexpr win::Late<decltype(&::InternetReadFile)> kInternetReadFile{kDll, "InternetReadFile"};
-constexpr win::Late<decltype(&::InternetWriteFile)> kInternetWriteFile{kDll, "InternetWriteFile"};
 constexpr win::Late<decltype(&::InternetSetStatusCallbackA)> kInternetSetStatusCallback{
     kDll, "InternetSetStatusCallbackA"};
+constexpr win::Late<decltype(&::InternetWriteFile)> kInternetWriteFile{kDll, "InternetWriteFile"};
 
 constexpr std::size_t kChunk = 64 * 1024;
 
@@ -55,7 +56,6 @@ class SharedInternet {
     void reset(HINTERNET handle = nullptr) {
         if (const HINTERNET old = handle_.exchange(handle)) CloseInternet(old);
     }
-    HINTERNET release() { return handle_.exchange(nullptr); }
 
  private:
     std::atomic<HINTERNET> handle_ = nullptr;
@@ -105,15 +105,12 @@ class WinInetSession final : public FtpSession {
     bool connect(const std::string& host, const std::string& user, const std::string& password) override {
         if (stopped_) return false;
         kInternetSetStatusCallback(internet_.get(), Follow);
-        told_ = false;
-        const HINTERNET made =
-            kInternetConnect(internet_.get(), host.c_str(), port_, user.c_str(), password.c_str(),
-                             INTERNET_SERVICE_FTP, 0, reinterpret_cast<DWORD_PTR>(this));
-        // One that has gone from there has been closed meanwhile.
-        const bool isOurs = connecting_.release() || !told_;
-        if (!made || !isOurs) return false;
-        kInternetSetStatusCallback(made, nullptr);
-        server_.reset(made);
+        isReaching_ = true;
+        server_.reset(kInternetConnect(internet_.get(), host.c_str(), port_, user.c_str(), password.c_str(),
+                                       INTERNET_SERVICE_FTP, 0, reinterpret_cast<DWORD_PTR>(this)));
+        isReaching_ = false;
+        connecting_ = nullptr;
+        if (server_.get()) kInternetSetStatusCallback(server_.get(), nullptr);
         return isConnected();
     }
 
@@ -123,8 +120,8 @@ class WinInetSession final : public FtpSession {
 
     void close() override {
         server_.reset();
-        connecting_.reset();
-        internet_.reset();
+        // What is being reached has no connection yet that would end with this: Follow() ends it.
+        if (!isReaching_) internet_.reset();
     }
 
     std::optional<std::string> currentDirectory() override {
@@ -172,15 +169,17 @@ class WinInetSession final : public FtpSession {
     }
 
  private:
-    // The call that connects also logs in; its handle is told before it is back, so that it can be broken off.
+    // The call that connects also logs in. On the thread that waits for it the system tells each step, and
+    // before the first a handle: when that is closed, nothing more is sent.
     static void CALLBACK Follow(HINTERNET, DWORD_PTR context, DWORD status, LPVOID about, DWORD) {
         auto& self = *reinterpret_cast<WinInetSession*>(context);
+        if (status == INTERNET_STATUS_CONNECTED_TO_SERVER) self.isReaching_ = false;
         if (status == INTERNET_STATUS_HANDLE_CREATED) {
             const auto& created = *static_cast<const INTERNET_ASYNC_RESULT*>(about);
-            self.connecting_.reset(reinterpret_cast<HINTERNET>(created.dwResult));
-            self.told_ = true;
+            self.connecting_ = reinterpret_cast<HINTERNET>(created.dwResult);
+        } else if (status != INTERNET_STATUS_HANDLE_CLOSING && self.stopped_ && self.connecting_) {
+            CloseInternet(std::exchange(self.connecting_, nullptr));
         }
-        if (self.stopped_) self.connecting_.reset();
     }
 
     // A call's result, after a look at why it failed.
@@ -247,11 +246,11 @@ class WinInetSession final : public FtpSession {
     INTERNET_PORT port_;
     std::atomic<bool> stopped_ = false;
     std::atomic<bool> lost_ = false;
+    std::atomic<bool> isReaching_ = false;  // there is no connection yet
+    HINTERNET connecting_ = nullptr;
     // Closed last to first: the connection belongs to the system's networking.
     SharedInternet internet_;
-    SharedInternet connecting_;
     SharedInternet server_;
-    bool told_ = false;  // of the connecting one
 };
 
 }  // namespace

@@ -9,12 +9,11 @@ one or more of these words, separated by blanks:
   cut-CMD       CMD's transfer ends half way, with the data connection and no word of success
   break-CMD     CMD's transfer ends half way, and the control connection with it
   silent-CMD    CMD is never answered
-  hold-CMD      USER, or CMD's transfer, gets its answer when somebody logs in as "go-on"
+  hold-CMD      CMD's transfer gets its answer when somebody logs in as "go-on"
   list-NAME     listings are those of NAME: "odd", "long", "endless", "alike", "plain"
   stay          a directory that has been entered is never left again
 
-Every password is right. LOG gets the commands, a line each, passwords included, and "ended" with
-the login's name.
+Every password is right. LOG gets the commands, a line each, passwords included.
 """
 import os
 import socket
@@ -64,7 +63,7 @@ def endless():
         yield b"".join(line(b"page%d.htm" % (number * 1000 + i)) for i in range(1000))
 
 
-ANSWERS = {"PASS": "230 in", "SYST": "215 UNIX Type: L8", "TYPE": "200 ok",
+ANSWERS = {"USER": "331 password", "PASS": "230 in", "SYST": "215 UNIX Type: L8", "TYPE": "200 ok",
            "NOOP": "200 ok", "ALLO": "200 ok", "DELE": "250 ok", "RMD": "250 ok", "RNFR": "350 to what",
            "RNTO": "250 ok", "MKD": "257 made"}
 LISTINGS = {"ordinary": ordinary, "odd": odd, "long": long, "endless": endless, "alike": alike, "plain": plain}
@@ -96,7 +95,6 @@ class Session(threading.Thread):
             pass
         finally:
             self.control.close()
-            self.note(" ".join(self.words + ["ended"]).encode("latin-1"))
 
     def serve(self, command, argument):
         if command == "USER":
@@ -114,11 +112,6 @@ class Session(threading.Thread):
             return handler(argument) is not False
         self.reply(ANSWERS.get(command, "502 unknown"))
         return True
-
-    def on_USER(self, _):
-        if "hold-USER" in self.words:
-            GO_ON.wait()
-        self.reply("331 password")
 
     def on_QUIT(self, _):
         self.reply("221 bye")
