@@ -24,8 +24,8 @@ std::string Trimmed(std::wstring_view text) {
     return win::ToUtf8(text.substr(first, text.find_last_not_of(L' ') - first + 1));
 }
 
-// The dialog makes the folder of what was chosen the program's current one, which then could not be renamed or
-// removed, nor its drive be taken out.
+// The dialog makes the folder of what was chosen the program's current one, which then could not be renamed
+// or removed, nor its drive be taken out.
 class SystemFolderAfter {
  public:
     SystemFolderAfter() = default;

@@ -171,7 +171,8 @@ bool FailOne(const FaultyWork& test, int call, bool forGood, DWORD error) {
 
 void* operator new(std::size_t size) {
     constexpr std::size_t kMuch = 1000;
-    void* memory = size > kMuch && Fails("operator new", true) ? nullptr : std::malloc(std::max<std::size_t>(size, 1));
+    void* memory =
+        size > kMuch && Fails("operator new", true) ? nullptr : std::malloc(std::max<std::size_t>(size, 1));
     if (!memory) throw std::bad_alloc();
     return memory;
 }

@@ -141,9 +141,11 @@ TEST_F(FaultsTest, WhereMemoryRunsOutACommandSaysSoInItsOwnWords) {
     };
     const std::string large(2000, 'x');
     frmChild& page = newPage(large);
-    expectEach("Printer Error", 1, [] {}, [this] { run(mnuFilePrint); });
+    expectEach(
+        "Printer Error", 1, [] {}, [this] { run(mnuFilePrint); });
     writeFile(scratch("large.htm"), large);
-    expectEach("There was a loading error", 5, [] {}, [&] { shell::Load(main(), scratch("large.htm")); });
+    expectEach(
+        "There was a loading error", 5, [] {}, [&] { shell::Load(main(), scratch("large.htm")); });
     frmChild* closing = nullptr;
     const auto close = [&] { ::SendMessageW(closing->hwnd(), WM_CLOSE, 0, 0); };
     const auto openChanged = [&] {

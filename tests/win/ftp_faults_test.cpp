@@ -305,10 +305,6 @@ class FullServer {
         port = ::ntohs(address_.sin_port);
         EXPECT_EQ(::connect(first_, address, size), 0);
     }
-    ~FullServer() {
-        for (const SOCKET socket : {listener_, first_}) ::closesocket(socket);
-        ::WSACleanup();
-    }
     bool isBeingReached() const {
         std::vector<char> room(65536);
         auto* table = reinterpret_cast<MIB_TCPTABLE*>(room.data());
@@ -325,7 +321,7 @@ class FullServer {
         ::send(second, "220 ready\r\n", 11, 0);
         char said[100];
         const int length = ::recv(second, said, sizeof said, 0);
-        ::closesocket(second);
+        for (const SOCKET socket : {second, first_, listener_}) ::closesocket(socket);
         return std::string(said, static_cast<std::size_t>(std::max(length, 0)));
     }
 
