@@ -80,6 +80,10 @@ TEST_F(MenuTest, ANarrowWindowShowsTheToolbarInRowsAboveThePages) {
     const ToolButtons tools(main().mainHwnd());
     const auto bottomOf = [&](int width) {
         ::SetWindowPos(main().mainHwnd(), nullptr, 0, 0, width, 500, SWP_NOMOVE | SWP_NOZORDER);
+        win::RunPending();
+        const HDC ground = ::GetDC(main().mdiClient());
+        EXPECT_EQ(::GetPixel(ground, 2, 2), ::GetSysColor(COLOR_APPWORKSPACE)) << "nothing of the toolbar";
+        ::ReleaseDC(main().mdiClient(), ground);
         RECT bar{};
         ::GetClientRect(tools.bar(), &bar);
         for (int i = 0; i < 17; ++i) {
