@@ -62,9 +62,6 @@ class frmChild::Pad : public document::RichEdit {
             case WM_LBUTTONDOWN:
                 dropSelectionAt(lParam);
                 break;
-            case WM_RBUTTONDOWN:
-                page_.activate();
-                break;
             case WM_PASTE:
                 page_.kidPaste();
                 return 0;
@@ -351,6 +348,14 @@ void frmChild::close() {
     ::SendMessageW(main_.mdiClient(), WM_MDIDESTROY, reinterpret_cast<WPARAM>(hwnd()), 0);
 }
 
+void frmChild::tellClosed() {
+    try {
+        if (id_ != 0) main_.documentClosed(*this);
+    } catch (const std::exception& error) {
+        win::ShowMessage(hwnd(), std::string("ShutDown Error: \r\n") + error.what(), "Quillon");
+    }
+}
+
 LRESULT frmChild::defaultHandling(UINT message, WPARAM wParam, LPARAM lParam) {
     return ::DefMDIChildProcW(hwnd(), message, wParam, lParam);
 }
@@ -388,7 +393,7 @@ LRESULT frmChild::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             close();
             return 0;
         case WM_DESTROY:
-            if (id_ != 0) main_.documentClosed(*this);
+            tellClosed();
             break;
         default:
             break;

@@ -60,6 +60,8 @@ class frmChild : public win::Window {
     void setTab(const std::string& tabText) { tabText_ = tabText; }
     const std::string& tabText() const { return tabText_; }
 
+    // Brings the page to the front; only the left mouse button does that by itself.
+    void activate() const;
     void focusPage() const { ::SetFocus(txtPad_->hwnd()); }
     // Shows the caret's line in the main window.
     void showLine() const;
@@ -89,9 +91,9 @@ class frmChild : public win::Window {
     // Shows a control of this page's in place of the one that is given back, hidden.
     std::unique_ptr<document::RichEdit> swapControl(std::unique_ptr<document::RichEdit> next);
     void layOut() const;
-    void activate() const;
     void close();
     void closingCheck();
+    void tellClosed();
     void keepText() const;  // on the clipboard
     void finishDrops();
 

@@ -84,6 +84,8 @@ bool HandleKey(frmChild& page, MainWindow& main, WPARAM key) {
 }
 
 void ShowEditMenu(const frmChild& page, MainWindow& main, POINT at) {
+    // Its commands are about the page in front.
+    page.activate();
     if (at.x == -1 && at.y == -1) {
         const HWND pad = page.txtPad().hwnd();
         ::SendMessageW(pad, EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&at), page.txtPad().selection().start);

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "win/disabled.h"
+#include "win/system_dll.h"
 #include "win/unicode.h"
 
 namespace files {
@@ -17,6 +18,19 @@ std::string Trimmed(std::wstring_view text) {
     if (first == std::wstring_view::npos) return {};
     return win::ToUtf8(text.substr(first, text.find_last_not_of(L' ') - first + 1));
 }
+
+// The dialog makes the folder of what was chosen the program's current one, which then could not be renamed
+// or removed, nor its drive be taken out.
+class SystemFolderAfter {
+ public:
+    SystemFolderAfter() = default;
+    ~SystemFolderAfter() { ::SetCurrentDirectoryW(folder_.c_str()); }
+    SystemFolderAfter(const SystemFolderAfter&) = delete;
+    SystemFolderAfter& operator=(const SystemFolderAfter&) = delete;
+
+ private:
+    std::wstring folder_ = win::SystemFolder();
+};
 
 std::optional<std::string> Ask(const FileDialog& dialog, Show show) {
     std::array<wchar_t, 1024> path{};
@@ -38,6 +52,7 @@ std::optional<std::string> Ask(const FileDialog& dialog, Show show) {
     record.lpstrDefExt = dialog.extension;
     record.Flags = dialog.flags;
     const win::Disabled others(dialog.owner);
+    const SystemFolderAfter after;
     if (show(&record)) return Trimmed(path.data());
     // A page may be titled with what is no file name. The system then shows no dialog at all.
     if (::CommDlgExtendedError() != FNERR_INVALIDFILENAME) return std::nullopt;

@@ -4,6 +4,7 @@
 #include <array>
 #include <atomic>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <wininet.h>
@@ -36,6 +37,8 @@ constexpr win::DelayLoaded<decltype(&::InternetGetLastResponseInfoA)> kInternetG
     kDll, "InternetGetLastResponseInfoA"};
 constexpr win::DelayLoaded<decltype(&::InternetOpenW)> kInternetOpen{kDll, "InternetOpenW"};
 constexpr win::DelayLoaded<decltype(&::InternetReadFile)> kInternetReadFile{kDll, "InternetReadFile"};
+constexpr win::DelayLoaded<decltype(&::InternetSetStatusCallbackA)> kInternetSetStatusCallback{
+    kDll, "InternetSetStatusCallbackA"};
 constexpr win::DelayLoaded<decltype(&::InternetWriteFile)> kInternetWriteFile{kDll, "InternetWriteFile"};
 
 constexpr std::size_t kChunk = 64 * 1024;
@@ -103,8 +106,13 @@ class WinInetSession final : public FtpSession {
 
     bool connect(const std::string& host, const std::string& user, const std::string& password) override {
         if (stopped_) return false;
+        kInternetSetStatusCallback(internet_.get(), Follow);
+        isReaching_ = true;
         server_.reset(kInternetConnect(internet_.get(), host.c_str(), port_, user.c_str(), password.c_str(),
-                                       INTERNET_SERVICE_FTP, 0, 0));
+                                       INTERNET_SERVICE_FTP, 0, reinterpret_cast<DWORD_PTR>(this)));
+        isReaching_ = false;
+        connecting_ = nullptr;
+        if (server_.get()) kInternetSetStatusCallback(server_.get(), nullptr);
         return isConnected();
     }
 
@@ -114,7 +122,8 @@ class WinInetSession final : public FtpSession {
 
     void close() override {
         server_.reset();
-        internet_.reset();
+        // What is being reached has no connection yet that would end with this: Follow() ends it.
+        if (!isReaching_) internet_.reset();
     }
 
     std::optional<std::string> currentDirectory() override {
@@ -162,6 +171,19 @@ class WinInetSession final : public FtpSession {
     }
 
  private:
+    // The call that connects also logs in. On the thread that waits for it the system tells each step, and
+    // before the first a handle: when that is closed, nothing more is sent.
+    static void CALLBACK Follow(HINTERNET, DWORD_PTR context, DWORD status, LPVOID about, DWORD) {
+        auto& self = *reinterpret_cast<WinInetSession*>(context);
+        if (status == INTERNET_STATUS_CONNECTED_TO_SERVER) self.isReaching_ = false;
+        if (status == INTERNET_STATUS_HANDLE_CREATED) {
+            const auto& created = *static_cast<const INTERNET_ASYNC_RESULT*>(about);
+            self.connecting_ = reinterpret_cast<HINTERNET>(created.dwResult);
+        } else if (status != INTERNET_STATUS_HANDLE_CLOSING && self.stopped_ && self.connecting_) {
+            CloseInternet(std::exchange(self.connecting_, nullptr));
+        }
+    }
+
     // A call's result, after a look at why it failed.
     bool note(bool done) {
         if (done) return true;
@@ -226,6 +248,8 @@ class WinInetSession final : public FtpSession {
     INTERNET_PORT port_;
     std::atomic<bool> stopped_ = false;
     std::atomic<bool> lost_ = false;
+    std::atomic<bool> isReaching_ = false;  // there is no connection yet
+    HINTERNET connecting_ = nullptr;
     // Closed last to first: the connection belongs to the system's networking.
     SharedInternet internet_;
     SharedInternet server_;

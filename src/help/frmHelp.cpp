@@ -103,7 +103,8 @@ bool frmHelp::onCommand(WORD id, WORD) {
 }
 
 LRESULT frmHelp::paintWords(HDC dc) const {
-    ::SetTextColor(dc, win::IsHighContrast() ? ::GetSysColor(COLOR_WINDOWTEXT) : kWordsColour);
+    const bool isLight = GetGValue(::GetSysColor(COLOR_WINDOW)) >= 0xC0;
+    ::SetTextColor(dc, isLight && !win::IsHighContrast() ? kWordsColour : ::GetSysColor(COLOR_WINDOWTEXT));
     ::SetBkColor(dc, ::GetSysColor(COLOR_WINDOW));
     return reinterpret_cast<LRESULT>(::GetSysColorBrush(COLOR_WINDOW));
 }

@@ -1,5 +1,7 @@
 #include "shell/start_up.h"
 
+#include <exception>
+
 #include "authoring/templates/mTemplateLoad.h"
 #include "document/frmChild.h"
 #include "files/basMRU.h"
@@ -71,8 +73,12 @@ void Load(MainWindow& main, const std::string& file) {
                      "There was a loading error, likely due to an incompatible filetype.\r\n\r\n"
                      "                       Quillon will open without it.",
                      "WARNING");
-    main.enableNew(main.activeDocument() != nullptr);
-    basMRU::LoadRecentFiles(main);
+    try {
+        main.enableNew(main.activeDocument() != nullptr);
+        basMRU::LoadRecentFiles(main);
+    } catch (const std::exception&) {
+        // It has been said already that something is wrong; the program goes on without the list.
+    }
 }
 
 }  // namespace shell

@@ -20,8 +20,9 @@ Toolbar& Toolbar::open(HWND parent) {
     WNDCLASSEXW cls{};
     cls.lpszClassName = L"Picture2";
     cls.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
-    self->create(cls, "Toolbar", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT, {0, 0, 0, 0},
-                 parent);
+    // Growing by a row it would else paint over the pages, which are moved down with what stands there.
+    self->create(cls, "Toolbar", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_CLIPSIBLINGS,
+                 WS_EX_CONTROLPARENT, {0, 0, 0, 0}, parent);
     return *self;
 }
 

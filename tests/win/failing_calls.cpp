@@ -1,7 +1,9 @@
 #include "win/failing_calls.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
+#include <new>
 #include <type_traits>
 
 #include "support/wide.h"
@@ -17,13 +19,15 @@ struct State {
     DWORD error = 0;
     bool forGood = false;
     bool newFilesRefused = false;
+    bool memory = false;
+    int answer = IDYES;
     std::string failed;
     std::vector<std::string> said;
 };
 
-bool Fails(const char* name) {
+bool Fails(const char* name, bool memory = false) {
     State* state = State::now;
-    if (!state || ::GetCurrentThreadId() != state->thread) return false;
+    if (!state || ::GetCurrentThreadId() != state->thread || memory != state->memory) return false;
     --state->left;
     if (state->left > 0 || (state->left < 0 && !state->forGood)) return false;
     if (state->left == 0) state->failed = name;
@@ -130,8 +134,10 @@ BOOL WINAPI CloseAnyway(HANDLE handle) {
 int WINAPI Answer(HWND owner, LPCWSTR text, LPCWSTR title, UINT style) {
     State* state = State::now;
     if (!state || ::GetCurrentThreadId() != state->thread) return Box::real(owner, text, title, style);
+    State::now = nullptr;
     state->said.push_back(Narrow(text));
-    return (style & MB_YESNO) == MB_YESNO ? IDYES : IDOK;
+    State::now = state;
+    return (style & MB_YESNO) == MB_YESNO ? state->answer : IDOK;
 }
 
 class Hooked {
@@ -159,6 +165,8 @@ bool FailOne(const FaultyWork& test, int call, bool forGood, DWORD error) {
     now.error = error;
     now.forGood = forGood;
     now.newFilesRefused = test.newFilesRefused;
+    now.memory = test.memory;
+    now.answer = test.answer;
     test.prepare();
     {
         const Hooked hooked(now);
@@ -172,10 +180,25 @@ bool FailOne(const FaultyWork& test, int call, bool forGood, DWORD error) {
 
 }  // namespace
 
+void* operator new(std::size_t size) {
+    constexpr std::size_t kMuch = 1000;
+    void* memory =
+        size > kMuch && Fails("operator new", true) ? nullptr : std::malloc(std::max<std::size_t>(size, 1));
+    if (!memory) throw std::bad_alloc();
+    return memory;
+}
+void operator delete(void* memory) noexcept {
+    std::free(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept {
+    std::free(memory);
+}
+
 int FailEachCall(const FaultyWork& test) {
     int faults = 0;
     for (const DWORD error : test.errors) {
         for (const bool forGood : {false, true}) {
+            if (forGood && test.memory) continue;
             for (int call = 1; call < 500 && FailOne(test, call, forGood, error); ++call) ++faults;
         }
     }

@@ -16,6 +16,8 @@ struct FaultyWork {
     std::function<void(const Fault&)> check;
     bool newFilesRefused = false;                  // a folder that takes no new file at all
     std::vector<unsigned long> errors = {5, 112};  // access denied, disk full
+    bool memory = false;  // not calls fail, but requests for much memory at once, one at a time
+    int answer = 6;       // IDYES, to questions
 };
 
 // Does the work over and over, with its first, second, ... call that changes a file or a setting failing,

@@ -8,6 +8,7 @@
 #include "files/modPubFuncs.h"
 #include "ftp/site_store.h"
 #include "settings/app_settings.h"
+#include "shell/start_up.h"
 #include "win/app_test.h"
 #include "win/failing_calls.h"
 
@@ -127,6 +128,38 @@ TEST_F(FaultsTest, NeitherAddingATemplateNorRebuildingTheMenuLosesOne) {
     };
     const auto rebuild = [this] { mTemplateLoad::RebuildTemplateMenu(main()); };
     expectNothingLost("a rebuilt menu", prepare, rebuild, [] { return lostTemplates(4); });
+}
+
+TEST_F(FaultsTest, WhereMemoryRunsOutACommandSaysSoInItsOwnWords) {
+    const auto expectEach = [](const std::string& words, int fewest, const std::function<void()>& prepare,
+                               const std::function<void()>& work) {
+        const auto check = [&](const Fault& fault) {
+            const std::string first = fault.said.empty() ? words : fault.said.front();
+            EXPECT_TRUE(first.starts_with(words) || first.ends_with("now?\r\n\r\n")) << first;
+        };
+        EXPECT_GE(FailEachCall({prepare, work, check, false, {0}, true, IDNO}), fewest) << words;
+    };
+    const std::string large(2000, 'x');
+    frmChild& page = newPage(large);
+    expectEach(
+        "Printer Error", 1, [] {}, [this] { run(mnuFilePrint); });
+    writeFile(scratch("large.htm"), large);
+    expectEach(
+        "There was a loading error", 5, [] {}, [&] { shell::Load(main(), scratch("large.htm")); });
+    frmChild* closing = nullptr;
+    const auto close = [&] { ::SendMessageW(closing->hwnd(), WM_CLOSE, 0, 0); };
+    const auto openChanged = [&] {
+        closing = &newPage("");
+        closing->setCaption(large);
+        type("x");
+    };
+    expectEach("ShutDown Error: ", 8, openChanged, close);
+    page.setCaption(large);
+    const auto openBehind = [&] {
+        closing = &newPage("");
+        activate(page);
+    };
+    expectEach("ShutDown Error: \r\n", 6, openBehind, close);
 }
 
 }  // namespace

@@ -59,6 +59,20 @@ TEST_F(FtpSitesTest, TheUrlIsLookedAtWhenTheFocusLeavesTheDialog) {
     EXPECT_EQ(::GetFocus(), ::GetDlgItem(form, txtURL));
 }
 
+TEST_F(FtpSitesTest, ConnectGoesToTheSiteThatIsShown) {
+    const auto add = [](const char* url) {
+        ftp::Apply(ftp::AddSite(ftp::ReadSections(), {0, url, "keeper", ""}).changes);
+    };
+    add("ftp.sandholm.example");
+    ftp::LoadSiteMenu(main());
+    const auto connect = [&](HWND form) {
+        add("other.example");  // stands where that one stood
+        ::PostMessageA(form, WM_COMMAND, cmdUpload, 0);
+    };
+    heard([&] { run(mnuUploadSites); }, {{"FTP Site", connect}});
+    EXPECT_TRUE(seen::Child(window("Quillon FTP - - - - -"), "Site: ftp.sandholm.example"));
+}
+
 TEST_F(FtpSitesTest, ASiteIsDeletedWithItsPasswordOnly) {
     const std::string stored = ftp::StoredPassword("lamp", document::SystemCodePages());
     const ftp::Site site{0, "ftp.sandholm.example", "keeper", stored};

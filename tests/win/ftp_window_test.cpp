@@ -1,7 +1,9 @@
 #include "forms/frmUpload.h"
 #include "ftp/frmUpload.h"
 #include "ftp/site_store.h"
+#include "win/drop_target.h"
 #include "win/ftp_test.h"
+#include "win/message_loop.h"
 
 namespace {
 
@@ -101,7 +103,14 @@ TEST_F(FtpWindowTest, UploadsWhatIsDroppedOnTheList) {
     EXPECT_EQ(lines(), "Lamp.GIF,empty.htm,page.htm");
     EXPECT_EQ(readFile(onServer("Lamp.GIF")), bytes);
     EXPECT_EQ(readFile(onServer("page.htm")), "<P>\n") << "as text, so the server has put its own line ends";
-    EXPECT_EQ(saidToDrop({scratch("page.htm")}, "Quillon"), "Upload of page.htm Complete");
+    const auto dropAndTakeBack = [&] {
+        win::SendDropped(control(lstRemoteFiles), {scratch("page.htm")});
+        ::DeleteFileA(scratch("page.htm").c_str());
+        win::RunPending();
+    };
+    ::DeleteFileA(onServer("page.htm").c_str());
+    EXPECT_EQ(said(dropAndTakeBack), "Upload of page.htm Complete");
+    EXPECT_EQ(readFile(onServer("page.htm")), "<P>\n");
     EXPECT_EQ(saidToDrop({}, "Quillon Note:"), "Unknown Object");
 }
 

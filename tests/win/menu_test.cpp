@@ -80,6 +80,10 @@ TEST_F(MenuTest, ANarrowWindowShowsTheToolbarInRowsAboveThePages) {
     const ToolButtons tools(main().mainHwnd());
     const auto bottomOf = [&](int width) {
         ::SetWindowPos(main().mainHwnd(), nullptr, 0, 0, width, 500, SWP_NOMOVE | SWP_NOZORDER);
+        win::RunPending();
+        const HDC ground = ::GetDC(main().mdiClient());
+        EXPECT_EQ(::GetPixel(ground, 2, 2), ::GetSysColor(COLOR_APPWORKSPACE)) << "nothing of the toolbar";
+        ::ReleaseDC(main().mdiClient(), ground);
         RECT bar{};
         ::GetClientRect(tools.bar(), &bar);
         for (int i = 0; i < 17; ++i) {
@@ -143,7 +147,7 @@ TEST_F(MenuTest, PicturesAndStripFollowTheSystem) {
 
 TEST_F(MenuTest, TheWindowListNamesThePagesAndFollowsThem) {
     frmChild& first = newPage("");
-    newPage("");
+    const frmChild& second = newPage("");
     EXPECT_EQ(textOf(menu(1), 0), "Untitled1");
     EXPECT_TRUE(hasState(menu(1), 1, MF_CHECKED));
     run(windowList);
@@ -154,6 +158,10 @@ TEST_F(MenuTest, TheWindowListNamesThePagesAndFollowsThem) {
     run(mnuWind + 2);
     EXPECT_TRUE(::IsZoomed(first.hwnd()));
     EXPECT_EQ(textOf(menu(2), 0), "a && b.htm") << "a maximised page puts its system menu first";
+    ::ShowWindow(second.hwnd(), SW_SHOWMINNOACTIVE);
+    for (const int show : {SW_MINIMIZE, SW_RESTORE}) ::ShowWindow(main().mainHwnd(), show);
+    EXPECT_EQ(&active(), &first);
+    EXPECT_FALSE(::IsZoomed(first.hwnd()) || ::IsIconic(second.hwnd()));
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include <random>
+#include <thread>
 
 #include "document/core/page_outline.h"
 #include "document/mTxtBoxAPI.h"
@@ -196,6 +197,17 @@ TEST_F(PageTest, TheLineLabelFollowsTheCaretAndThePageInFront) {
     EXPECT_TRUE(label("Current Line No: 1"));
     activate(first);
     EXPECT_TRUE(label("Current Line No: 2"));
+}
+
+TEST_F(PageTest, TheMenuIsThatOfThePageUnderTheMouse) {
+    const frmChild& behind = newPage("behind");
+    newPage("in front");
+    const std::jthread user([window = main().mainHwnd()] {
+        EXPECT_TRUE(seen::Until([] { return ::FindWindowA("#32768", nullptr) != nullptr; }));
+        ::SendMessageA(window, WM_CANCELMODE, 0, 0);
+    });
+    ::SendMessageA(behind.txtPad().hwnd(), WM_RBUTTONUP, 0, 0);
+    EXPECT_EQ(&active(), &behind);
 }
 
 TEST_F(PageTest, CutPasteAndUndo) {

@@ -8,8 +8,11 @@
 #include "settings/app_settings.h"
 #include "win/app_test.h"
 #include "win/failing_calls.h"
+#include "win/late.h"
 #include "win/unique.h"
 #include "win/wide_path.h"
+
+#include <shlobj.h>
 
 namespace {
 
@@ -161,15 +164,32 @@ TEST_F(SaveTest, AFileStaysWhatItWas) {
 TEST_F(SaveTest, APageWithoutAFileIsSavedUnderAnotherName) {
     run(mnuFileNew);
     type("<!-- -->");
-    const auto choose = [](HWND dialog) {
+    const auto folderOf = [](HWND dialog) {
+        wchar_t folder[MAX_PATH] = L"";
+        ::SendMessageW(dialog, CDM_GETFOLDERPATH, MAX_PATH, reinterpret_cast<LPARAM>(folder));
+        return win::ToUtf8(folder) + '\\';
+    };
+    wchar_t documents[MAX_PATH] = L"";
+    ::SHGetFolderPathW(nullptr, CSIDL_PERSONAL, nullptr, SHGFP_TYPE_CURRENT, documents);
+    const auto choose = [&](HWND dialog) {
+        EXPECT_EQ(folderOf(dialog), win::ToUtf8(documents) + '\\');
         EXPECT_EQ(seen::TextOf(seen::FileNameBox(dialog)), "Untitled1");
         seen::ChooseFile(dialog, scratch("named.htm"));
     };
     heard([&] { run(mnuFileSave); }, {{"Save File As...", choose}});
+    wchar_t current[MAX_PATH] = L"";
+    ::GetCurrentDirectoryW(MAX_PATH, current);
+    EXPECT_EQ(current, win::SystemFolder());
     EXPECT_EQ(active().Tag(), scratch("named.htm"));
     EXPECT_EQ(active().Caption(), "named.htm");
     EXPECT_EQ(readFile(scratch("named.htm")), pageText() + "\r\n");
     EXPECT_EQ(main().menu().caption(mnuFileMRU + 1), scratch("named.htm"));
+    newPage("");
+    const auto look = [&](HWND dialog) {
+        EXPECT_EQ(folderOf(dialog), scratch(""));
+        ::PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+    };
+    heard([&] { run(mnuFileOpen); }, {{"Open File...", look}});
 }
 
 TEST_F(SaveTest, OpeningSaysWhatIsWrong) {

@@ -115,11 +115,6 @@ TEST_F(WordTest, OneThatRanBeforeKeepsWhatItHasOpen) {
     }
 }
 
-TEST_F(WordTest, WithoutAnySpellingThatIsSaid) {
-    newPage("teh");
-    EXPECT_EQ(said(tbrSpelling), kNoWord);
-}
-
 // What happens to the page while the word processor's own dialog is open.
 TEST_F(WordTest, NothingCanBeUsedMeanwhileAndThePageMayEvenGo) {
     install("ask");

@@ -4,7 +4,7 @@
 //     each      serves callers one after the other, the n-th of whom is told that the n-th call failed
 //     ask       its spelling dialog waits for an answer
 //     running   it runs already and says so; it turns each call away once before it takes it
-//     window    it runs already and has a window, "OpusApp"
+//     window    it runs already and has a window, "OpusApp", which comes to the front to correct
 #include "support/standin_word.h"
 #include "support/com_object.h"
 
@@ -26,6 +26,7 @@ class Word final : public ComObject<IDispatch> {
  public:
     explicit Word(Orders orders) : orders_(std::move(orders)) {}
     ~Word() override {
+        if (orders_.window && ::GetForegroundWindow() == orders_.window) log(L"still in front");
         log(L"released");
         if (orders_.order != "each" || orders_.failAt == kCalls) ::PostQuitMessage(0);
     }
@@ -75,6 +76,8 @@ class Word final : public ComObject<IDispatch> {
     void correct() {
         if (orders_.order == "ask")
             ::MessageBoxA(nullptr, "Correct it?", "Stand-in spelling", MB_OK | MB_SETFOREGROUND);
+        ::ShowWindow(orders_.window, SW_RESTORE);
+        ::SetForegroundWindow(orders_.window);
         std::erase(document_, L'\n');  // its paragraphs end with CR only
         for (std::size_t at = 0; (at = document_.find(L"teh", at)) != std::wstring::npos;)
             document_.replace(at, 3, L"the");
