@@ -24,6 +24,16 @@ RecoveryCopy CopyOf(const frmChild& page) {
             static_cast<std::size_t>(page.txtPad().selection().start), page.txtPad().text()};
 }
 
+std::optional<RecoveryCopy> ReadCopy(const std::wstring& path) {
+    try {
+        const auto bytes = mBinOpen::ReadFileAtOnce(win::ToUtf8(path));
+        return bytes ? Unpack(*bytes) : std::nullopt;
+    } catch (const std::exception&) {
+        // Too much for the memory that is left.
+        return std::nullopt;
+    }
+}
+
 // Null when another program holds it; it goes with the handle.
 win::UniqueFile OpenLock(const std::wstring& path, DWORD disposition) {
     return win::UniqueFile(::CreateFileW(path.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, disposition,
@@ -89,17 +99,21 @@ std::wstring Recovery::copyPath(DocumentId page) const {
     return name_ + L'-' + std::to_wstring(page) + kCopyEnding;
 }
 
-// The lock tells that this program's copies are nobody else's.
+// The lock tells that this program's copies are nobody else's. A number comes again; what a program of that
+// number has left is not to be written over.
 bool Recovery::lock() {
     if (lock_) return true;
     DWORD number = ::GetCurrentProcessId();
-    for (int tries = 0; tries < 100 && !lock_; ++tries, number += ::GetTickCount() | 1U) {
+    for (int tries = 0; tries < 100; ++tries, number += ::GetTickCount() | 1U) {
         name_ = win::ToWide(folder_) + kPrefix + std::to_wstring(number);
         lock_ = OpenLock(name_ + kLockEnding, CREATE_NEW);
+        if (lock_ && FilesLike(name_ + L"-*" + kCopyEnding).empty()) return true;
         if (!lock_ && ::GetLastError() != ERROR_FILE_EXISTS && ::GetLastError() != ERROR_SHARING_VIOLATION)
             break;
+        lock_.reset();
     }
-    return static_cast<bool>(lock_);
+    name_.clear();
+    return false;
 }
 
 void Recovery::awaitWriting() {
@@ -168,8 +182,7 @@ std::vector<Recovery::Found> Recovery::takeOver() {
         // While this is held nobody else takes that program's copies.
         const win::UniqueFile ownerLock = OpenLock(folder + owner + kLockEnding, OPEN_ALWAYS);
         if (!ownerLock) continue;
-        const auto bytes = mBinOpen::ReadFileAtOnce(win::ToUtf8(folder + name));
-        auto copy = bytes ? Unpack(*bytes) : std::nullopt;
+        auto copy = ReadCopy(folder + name);
         if (!copy || !lock()) continue;
         const std::wstring mine = name_ + L"-back" + std::to_wstring(found.size()) + ending;
         if (::MoveFileExW((folder + name).c_str(), mine.c_str(), 0))

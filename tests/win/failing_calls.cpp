@@ -17,13 +17,14 @@ struct State {
     DWORD error = 0;
     bool forGood = false;
     bool newFilesRefused = false;
+    bool everyCall = false;
     std::string failed;
     std::vector<std::string> said;
 };
 
-bool Fails(const char* name) {
+bool Fails(const char* name, bool changes = true) {
     State* state = State::now;
-    if (!state || ::GetCurrentThreadId() != state->thread) return false;
+    if (!state || (!state->everyCall && (!changes || ::GetCurrentThreadId() != state->thread))) return false;
     --state->left;
     if (state->left > 0 || (state->left < 0 && !state->forGood)) return false;
     if (state->left == 0) state->failed = name;
@@ -64,13 +65,15 @@ struct Name {
     char text[kSize] = {};
 };
 
-template <Name kName, typename Function>
+template <Name kName, typename Function, bool kChanges = true>
 struct Hook;
-template <Name kName, typename Result, typename... Args>
-struct Hook<kName, Result(WINAPI*)(Args...)> {
+template <Name kName, typename Result, typename... Args, bool kChanges>
+struct Hook<kName, Result(WINAPI*)(Args...), kChanges> {
     static inline Result(WINAPI* real)(Args...) = nullptr;
 
-    static Result WINAPI call(Args... args) { return Fails(kName.text) ? Refusal<Result>() : real(args...); }
+    static Result WINAPI call(Args... args) {
+        return Fails(kName.text, kChanges) ? Refusal<Result>() : real(args...);
+    }
     static void put(Result(WINAPI* function)(Args...) = call) {
         void** slot = ImportSlot(kName.text);
         if (!real) std::memcpy(&real, slot, sizeof real);
@@ -80,10 +83,12 @@ struct Hook<kName, Result(WINAPI*)(Args...)> {
 };
 
 #define HOOK(function) Hook<#function, decltype(&::function)>
+#define READ_HOOK(function) Hook<#function, decltype(&::function), false>
 using Create = HOOK(CreateFileW);
 using Write = HOOK(WriteFile);
 using Close = HOOK(CloseHandle);
 using Box = HOOK(MessageBoxW);
+using Find = READ_HOOK(FindFirstFileW);
 
 template <typename... Hooks>
 struct All {
@@ -92,7 +97,10 @@ struct All {
 };
 using Plain = All<HOOK(RegCreateKeyExW), HOOK(RegSetValueExW), HOOK(RegDeleteValueW), HOOK(RegDeleteKeyW),
                   HOOK(SetEndOfFile), HOOK(FlushFileBuffers), HOOK(MoveFileExW), HOOK(DeleteFileW),
-                  HOOK(SetFileAttributesW), HOOK(CreateDirectoryW), HOOK(GetTempFileNameW)>;
+                  HOOK(SetFileAttributesW), HOOK(CreateDirectoryW), HOOK(GetTempFileNameW),
+                  READ_HOOK(CreateEventW), READ_HOOK(QueueUserWorkItem), READ_HOOK(ReadFile),
+                  READ_HOOK(GetFileSizeEx), READ_HOOK(FindNextFileW)>;
+#undef READ_HOOK
 #undef HOOK
 
 HANDLE WINAPI CreateOrRefuse(LPCWSTR path, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security,
@@ -101,8 +109,12 @@ HANDLE WINAPI CreateOrRefuse(LPCWSTR path, DWORD access, DWORD share, LPSECURITY
         ::SetLastError(ERROR_ACCESS_DENIED);
         return INVALID_HANDLE_VALUE;
     }
-    if ((access & GENERIC_WRITE) != 0 && Fails("CreateFileW")) return INVALID_HANDLE_VALUE;
+    if (Fails("CreateFileW", (access & GENERIC_WRITE) != 0)) return INVALID_HANDLE_VALUE;
     return Create::real(path, access, share, security, disposition, flags, like);
+}
+
+HANDLE WINAPI FindOrRefuse(LPCWSTR pattern, LPWIN32_FIND_DATAW found) {
+    return Fails("FindFirstFileW", false) ? INVALID_HANDLE_VALUE : Find::real(pattern, found);
 }
 
 BOOL WINAPI WriteOrHalf(HANDLE file, LPCVOID bytes, DWORD size, LPDWORD written, LPOVERLAPPED where) {
@@ -132,12 +144,13 @@ class Hooked {
         Write::put(WriteOrHalf);
         Close::put(CloseAnyway);
         Box::put(Answer);
+        Find::put(FindOrRefuse);
         State::now = &state;
     }
     ~Hooked() {
         State::now = nullptr;
         Plain::restore();
-        All<Create, Write, Close, Box>::restore();
+        All<Create, Write, Close, Box, Find>::restore();
     }
 };
 
@@ -148,6 +161,7 @@ bool FailOne(const FaultyWork& test, int call, bool forGood, DWORD error) {
     now.error = error;
     now.forGood = forGood;
     now.newFilesRefused = test.newFilesRefused;
+    now.everyCall = test.everyCall;
     test.prepare();
     {
         const Hooked hooked(now);
@@ -155,7 +169,7 @@ bool FailOne(const FaultyWork& test, int call, bool forGood, DWORD error) {
     }
     test.check({"call " + std::to_string(call) + (forGood ? " and all after it" : "") + ", error " +
                     std::to_string(error) + " " + now.failed,
-                now.said});
+                now.said, !now.failed.empty()});
     return !now.failed.empty();
 }
 

@@ -1,4 +1,8 @@
+#include <algorithm>
+#include <optional>
+
 #include "files/recovery.h"
+#include "shell/frmNotePad.h"
 #include "support/wide.h"
 #include "win/app_test.h"
 #include "win/failing_calls.h"
@@ -55,27 +59,78 @@ TEST_F(RecoveryTest, ACopyIsDueAfterTheLastChangeOrLongAfterTheFirst) {
     EXPECT_FALSE(isWritten());
 }
 
-TEST_F(RecoveryTest, CallsThatFailCostTheCopyAndNotThePage) {
-    const frmChild& page = changedPage();
-    const std::string text = pageText();
-    const auto prepare = [] {
-        DeleteTree(scratch("copies"));
-        ::CreateDirectoryW(Wide(scratch("copies")).c_str(), nullptr);
+TEST_F(RecoveryTest, CallsThatFailInWritingCostTheCopyAndNotThePage) {
+    frmChild& page = changedPage();
+    const std::string file = readFile(page.Tag());
+    const std::string copies = scratch("copies\\");
+    for (const bool hasCopy : {false, true}) {
+        std::optional<files::Recovery> recovery;
+        std::u16string before;
+        const auto prepare = [&] {
+            DeleteTree(scratch("copies"));
+            ::CreateDirectoryW(Wide(copies).c_str(), nullptr);
+            recovery.emplace(copies);
+            if (hasCopy) recovery->writeNow(page);
+            before = page.txtPad().text();
+            page.insert(u"x");
+        };
+        const auto check = [&](const Fault& fault) {
+            recovery.reset();
+            EXPECT_TRUE(fault.said.empty()) << fault.what;
+            EXPECT_EQ(page.txtPad().text().size(), before.size() + 1) << fault.what;
+            EXPECT_TRUE(page.isChanged()) << fault.what;
+            EXPECT_EQ(readFile(page.Tag()), file) << fault.what;
+            const auto back = files::Recovery(copies).takeOver();
+            const bool isNew = back.size() == 1 && back[0].copy.text == page.txtPad().text();
+            const bool isOld = hasCopy ? back.size() == 1 && back[0].copy.text == before : back.empty();
+            EXPECT_TRUE(isNew || (isOld && fault.isAny)) << fault.what;
+        };
+        FaultyWork test{prepare, [&] { recovery->writeNow(page); }, check};
+        test.everyCall = true;
+        const int faults = FailEachCall(test);
+        std::printf("%d faults of writing a copy\n", faults);
+        EXPECT_GT(faults, 20);
+    }
+}
+
+TEST_F(RecoveryTest, CallsThatFailInReadingLeaveTheCopyForTheNextStart) {
+    const std::string copies = main().temporaryFolder() + "~quillon-*.page";
+    const std::u16string text = changedPage().txtPad().text();
+    const auto prepare = [&] {
+        for (const auto& [copy, details] : Listing(copies)) ::DeleteFileW(Wide(copy).c_str());
+        for (int i = 0; i < 2; ++i) files::Recovery(main().temporaryFolder()).writeNow(active());
     };
-    const int faults = FailEachCall({prepare,
-                                     [&] {
-                                         files::Recovery first(scratch("copies\\"));
-                                         first.writeNow(page);
-                                         first.leave(page.id());
-                                     },
-                                     [&](const Fault& fault) {
-                                         EXPECT_TRUE(fault.said.empty()) << fault.what;
-                                         EXPECT_EQ(pageText(), text) << fault.what;
-                                         EXPECT_TRUE(page.isChanged()) << fault.what;
-                                         files::Recovery next(scratch("copies\\"));
-                                         EXPECT_LE(next.takeOver().size(), 1U) << fault.what;
-                                     }});
-    EXPECT_GT(faults, 0);
+    const auto check = [&](const Fault& fault) {
+        EXPECT_TRUE(fault.said.empty()) << fault.what;
+        EXPECT_TRUE(fault.isAny || main().documents().size() == 3) << fault.what;
+        EXPECT_EQ(Listing(copies).size(), 2U) << fault.what;
+        for (const auto& [copy, details] : Listing(copies))
+            EXPECT_EQ(files::Unpack(readFile(copy)).value_or(files::RecoveryCopy{}).text, text) << fault.what;
+        while (main().documents().size() > 1) {
+            frmChild& back = *main().documents().back();
+            EXPECT_EQ(back.txtPad().text(), text) << fault.what;
+            EXPECT_TRUE(back.isChanged()) << fault.what;
+            back.txtPad().setChanged(false);
+            ::SendMessageW(back.hwnd(), WM_CLOSE, 0, 0);
+        }
+    };
+    FaultyWork test{prepare, [&] { static_cast<frmNotePad&>(main()).restorePages(); }, check};
+    test.everyCall = true;
+    const int faults = FailEachCall(test);
+    std::printf("%d faults of reading two copies\n", faults);
+    EXPECT_GT(faults, 20);
+}
+
+TEST_F(RecoveryTest, WhatAProgramOfTheSameNumberHasLeftComesBackAndIsNotWrittenOver) {
+    const frmChild& page = changedPage();
+    files::Recovery(folder()).writeNow(page);
+    const std::string copy = Listing(scratch("~quillon-*.page")).begin()->first;
+    // Ours takes a name for the first of them, before it comes upon that of its own number.
+    for (const DWORD number : {DWORD{0}, ::GetCurrentProcessId()})
+        writeFile(scratch("~quillon-" + std::to_string(number) + "-7.page"), readFile(copy));
+    ::DeleteFileW(Wide(copy).c_str());
+    files::Recovery later(folder());
+    EXPECT_EQ(later.takeOver().size(), 2U);
 }
 
 TEST_F(RecoveryTest, TheEndOfTheSessionAsksNothingAndChangesNothing) {
