@@ -167,6 +167,7 @@ TEST_F(PageTest, CutPasteAndUndo) {
     active().txtPad().select(0, 4);
     run(mnuEditCut);
     EXPECT_EQ(clipboard(), "one ");
+    EXPECT_TRUE(active().isChanged());
     active().txtPad().select(0, 0);
     run(mnuEditCut);
     EXPECT_EQ(pageText(), "two") << "cutting nothing";
