@@ -59,16 +59,22 @@ std::vector<std::wstring> FilesLike(const std::wstring& pattern) {
 class Recovery::Writing {
  public:
     // False when there is no such thread.
-    static std::unique_ptr<Writing> start(RecoveryCopy copy, std::wstring path) {
+    static std::unique_ptr<Writing> start(const frmChild& page, std::wstring path) {
         auto writing = std::make_unique<Writing>();
-        writing->copy_ = std::move(copy);
+        writing->page_ = page.id();
+        writing->copy_ = CopyOf(page);
         writing->path_ = std::move(path);
         writing->done_.reset(::CreateEventW(nullptr, TRUE, FALSE, nullptr));
         writing->started_ =
             writing->done_ && ::QueueUserWorkItem(run, writing.get(), WT_EXECUTELONGFUNCTION) != FALSE;
         return writing->started_ ? std::move(writing) : nullptr;
     }
+    DocumentId page() const { return page_; }
     bool isDone() const { return ::WaitForSingleObject(done_.get(), 0) == WAIT_OBJECT_0; }
+    bool hasFailed() const {
+        ::WaitForSingleObject(done_.get(), INFINITE);
+        return failed_;
+    }
     ~Writing() {
         if (started_) ::WaitForSingleObject(done_.get(), INFINITE);
     }
@@ -77,7 +83,7 @@ class Recovery::Writing {
     static DWORD WINAPI run(void* self) {
         auto& writing = *static_cast<Writing*>(self);
         try {
-            ReplaceFileContents(win::ToUtf8(writing.path_), Pack(writing.copy_));
+            writing.failed_ = !ReplaceFileContents(win::ToUtf8(writing.path_), Pack(writing.copy_));
         } catch (const std::exception&) {
             // The copy before stays.
         }
@@ -85,9 +91,11 @@ class Recovery::Writing {
         return 0;
     }
 
+    DocumentId page_ = 0;
     RecoveryCopy copy_;
     std::wstring path_;
     win::UniqueHandle done_;
+    bool failed_ = true;
     bool started_ = false;
 };
 
@@ -121,11 +129,15 @@ void Recovery::awaitWriting() {
 }
 
 bool Recovery::write(const frmChild& page) {
-    if (!lock()) return false;
     awaitWriting();
-    std::wstring& file = copies_[page.id()];
-    if (file.empty()) file = copyPath(page.id());
-    writing_ = Writing::start(CopyOf(page), file);
+    try {
+        if (!lock()) return false;
+        std::wstring& file = copies_[page.id()];
+        if (file.empty()) file = copyPath(page.id());
+        writing_ = Writing::start(page, file);
+    } catch (const std::exception&) {
+        // No memory: the copy before stays.
+    }
     return writing_ != nullptr;
 }
 
@@ -133,27 +145,27 @@ void Recovery::noteChange(DocumentId page, DWORD now) {
     due_.try_emplace(page, Due{now, now}).first->second.last = now;
 }
 
+bool Recovery::isAnyDue() const {
+    return !due_.empty() || writing_;
+}
+
 void Recovery::writeDue(MainWindow& main, DWORD now) {
     if (writing_ && !writing_->isDone()) return;
+    // What the disk did not take it may take later.
+    if (writing_ && writing_->hasFailed()) noteChange(writing_->page(), now);
+    awaitWriting();
     const auto due = std::find_if(due_.begin(), due_.end(), [now](const auto& entry) {
         return now - entry.second.last >= kAfterLast || now - entry.second.first >= kAfterFirst;
     });
     if (due == due_.end()) return;
-    const frmChild* page = main.find(due->first);
+    const DocumentId id = due->first;
+    const frmChild* page = main.find(id);
     due_.erase(due);
-    try {
-        if (page && page->isChanged()) write(*page);
-    } catch (const std::exception&) {
-        // No memory: the copy before stays.
-    }
+    if (page && page->isChanged() && !write(*page)) noteChange(id, now);
 }
 
 void Recovery::writeNow(const frmChild& page) {
-    try {
-        if (page.isChanged() && write(page)) due_.erase(page.id());
-    } catch (const std::exception&) {
-        // As above.
-    }
+    if (page.isChanged() && write(page) && !writing_->hasFailed()) due_.erase(page.id());
     awaitWriting();
 }
 
