@@ -6,7 +6,7 @@ namespace {
 
 class KilledTest : public MonkeyTest {
  protected:
-    static std::string temporary(const std::string& name) { return Environment("TEMP") + "\\" + name; }
+    static auto copies(const char* pattern) { return Listing(Environment("TEMP") + pattern); }
     // In no time at all, to be there in the middle of it.
     static void spinUntil(const std::function<bool()>& condition) {
         const DWORD start = ::GetTickCount();
@@ -19,7 +19,7 @@ class KilledTest : public MonkeyTest {
         for (Page& page : pages_) page.past.clear();
     }
     static bool isCopied(const Page& page) {
-        for (const auto& [name, details] : Listing(temporary("~quillon-*.page"))) {
+        for (const auto& [name, details] : copies("\\~quillon-*.page")) {
             const auto copy = files::Unpack(readFile(name));
             if (copy && copy->path == page.path && copy->caption == page.caption &&
                 copy->text == std::u16string(page.text.begin(), page.text.end()))
@@ -29,11 +29,10 @@ class KilledTest : public MonkeyTest {
     }
 
     // ---- What goes on when the end comes.
-    void nothing() {}
     void writing() {
-        const auto before = Listing(temporary("~qu*"));
+        const auto before = copies("\\~qu*");
         type();
-        spinUntil([&] { return Listing(temporary("~qu*")) != before; });
+        spinUntil([&] { return copies("\\~qu*") != before; });
     }
     void saving() {
         if (front().path.empty()) return;
@@ -43,18 +42,17 @@ class KilledTest : public MonkeyTest {
         if (below(2) == 0) spinUntil([&] { return Listing(scratch("*")) != before; });
     }
     void session() {
-        if (below(2) == 0) {
+        const auto end = [this](bool really) {
             EXPECT_EQ(send(quillon_->window(), WM_QUERYENDSESSION), TRUE);
-            send(quillon_->window(), WM_ENDSESSION, FALSE);
-            check();
-        }
+            send(quillon_->window(), WM_ENDSESSION, really);
+        };
+        end(false);
+        check();
         if (below(2) == 0) {
             quillon_->choose(front().changed ? mnuFileClose : mnuFileOpen);
-            EXPECT_TRUE(seen::Until([this] { return !::IsWindowEnabled(quillon_->window()); }))
-                << "no dialog";
+            EXPECT_TRUE(seen::Until([this] { return !::IsWindowEnabled(quillon_->window()); }));
         }
-        EXPECT_EQ(send(quillon_->window(), WM_QUERYENDSESSION), TRUE);
-        send(quillon_->window(), WM_ENDSESSION, TRUE);
+        end(true);
         safe();
     }
     void awaitCopies() {
@@ -81,10 +79,10 @@ class KilledTest : public MonkeyTest {
     State recognised(std::vector<Page>& before) {
         const std::string text = quillon_->pageText();
         const std::string caption = quillon_->pageCaption();
+        const auto isIt = [&](const State& state) {
+            return state.changed && state.text == text && state.caption == caption;
+        };
         for (auto page = before.begin(); page != before.end(); ++page) {
-            const auto isIt = [&](const State& state) {
-                return state.changed && state.text == text && state.caption == caption;
-            };
             const auto state = std::find_if(page->past.rbegin(), page->past.rend(), isIt);
             if (state == page->past.rend()) continue;
             ++(state->text == page->text ? asLast_ : older_);
@@ -109,8 +107,6 @@ class KilledTest : public MonkeyTest {
         gone(quillon_->waitForDialog("About Quillon"), WM_CLOSE);
         pages_.push_back({{document::kPageOutline, "", false, "Untitled1"}, quillon_->page(), tab_});
         const std::size_t count = quillon_->pages().size() - 1;
-        const char* label = count == 1 ? " unsaved page has come back." : " unsaved pages have come back.";
-        EXPECT_TRUE(count == 0 || quillon_->shows(std::to_string(count) + label));
         for (std::size_t i = 1; i <= count; ++i) {
             run(windowList + static_cast<int>(i));
             pages_.push_back({recognised(before), quillon_->page(), tab_});
@@ -127,8 +123,7 @@ class KilledTest : public MonkeyTest {
 
     void die(std::size_t number) {
         using K = KilledTest;
-        static constexpr void (K::*kMoments[])() = {&K::session, &K::saving, &K::type, &K::writing,
-                                                    &K::nothing};
+        static constexpr void (K::*kMoments[])() = {&K::session, &K::saving, &K::type, &K::writing};
         if (pages_.empty()) newPage();
         remember();
         (this->*kMoments[number % std::size(kMoments)])();
@@ -150,11 +145,11 @@ TEST_F(KilledTest, EachPageComesBackOrIsOnDisk) {
         die(static_cast<std::size_t>(done));
         start();
     }
+    std::printf("%d kills in %d actions with seed %u, %d at the end of a session: of the changed pages\n",
+                done, actions_, seed_, (done + 3) / 4);
     std::printf(
-        "%d kills with seed %u, %d of them at the end of a session, after %d actions: %d changed pages came "
-        "back "
-        "as they were, %d as some seconds before, %d had been changed for seconds only, none was lost\n",
-        done, seed_, (done + 4) / 5, actions_, asLast_, older_, fresh_);
+        "%d came back as they were, %d as seconds before, %d were changed for seconds only, none lost\n",
+        asLast_, older_, fresh_);
 }
 
 }  // namespace

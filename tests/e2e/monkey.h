@@ -343,7 +343,7 @@ class MonkeyTest : public QuillonTest {
                     static_cast<unsigned long>(held.kilobytes));
         if (++rests_ <= 3) warm_ = held;
         EXPECT_LE(held.windows, warm_.windows);
-        EXPECT_LE(held.gdi, warm_.gdi + 24);
+        EXPECT_LE(held.gdi, warm_.gdi + 40);
         EXPECT_LE(held.kilobytes, warm_.kilobytes + 4096);
         newPage();
     }
