@@ -57,8 +57,8 @@ class KilledTest : public MonkeyTest {
     }
     void awaitCopies() {
         const auto isKept = [](const Page& page) { return !page.changed || isCopied(page); };
-        EXPECT_TRUE(
-            seen::Until([&] { return std::all_of(pages_.begin(), pages_.end(), isKept); }, kPatience));
+        const auto areKept = [&] { return std::all_of(pages_.begin(), pages_.end(), isKept); };
+        EXPECT_TRUE(seen::Until(areKept, kPatience / 2)) << "some seconds after the last change";
         safe();
     }
 
