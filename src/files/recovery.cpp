@@ -58,7 +58,7 @@ std::vector<std::wstring> FilesLike(const std::wstring& pattern) {
 // The writing of one copy, on a thread of the system's pool. It owns all that it works with.
 class Recovery::Writing {
  public:
-    // False when there is no such thread.
+    // Null when there is no such thread.
     static std::unique_ptr<Writing> start(const frmChild& page, std::wstring path) {
         auto writing = std::make_unique<Writing>();
         writing->page_ = page.id();
