@@ -136,7 +136,7 @@ class KilledTest : public MonkeyTest {
 };
 
 TEST_F(KilledTest, EachPageComesBackOrIsOnDisk) {
-    const int kills = EnvironmentNumber("QUILLON_KILLS", 5);
+    const int kills = EnvironmentNumber("QUILLON_KILLS", 4);
     int done = 0;
     for (; done < kills && !HasFailure(); ++done) {
         SCOPED_TRACE("kill " + std::to_string(done));
