@@ -30,6 +30,11 @@ TEST_F(RecoveryTest, ACopyComesBackOnceItsProgramNoLongerRuns) {
         EXPECT_TRUE(later.takeOver().empty()) << "its program runs";
     }
     writeFile(scratch("~quillon-1-1.page"), "Quillon page 1\r\nand no more");
+    const win::UniqueFile huge(::CreateFileW(Wide(scratch("~quillon-0-1.page")).c_str(), GENERIC_WRITE, 7,
+                                             nullptr, CREATE_NEW, FILE_FLAG_DELETE_ON_CLOSE, nullptr));
+    // More than the memory of a program of 32 bits; others would take their time.
+    ::SetFilePointer(huge.get(), sizeof(void*) == 4 ? 0x7FFFFFF0 : 0, nullptr, FILE_BEGIN);
+    ::SetEndOfFile(huge.get());
     const auto back = later.takeOver();
     ASSERT_EQ(back.size(), 1U);
     EXPECT_EQ(back[0].copy, expected);
