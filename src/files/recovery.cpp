@@ -101,7 +101,9 @@ class Recovery::Writing {
 
 Recovery::Recovery(std::string folder) : folder_(std::move(folder)) {}
 
-Recovery::~Recovery() = default;
+Recovery::~Recovery() {
+    deleteOld();
+}
 
 std::wstring Recovery::copyPath(DocumentId page) const {
     return name_ + L'-' + std::to_wstring(page) + kCopyEnding;
@@ -134,6 +136,7 @@ bool Recovery::write(const frmChild& page) {
         if (!lock()) return false;
         std::wstring& file = copies_[page.id()];
         if (file.empty()) file = copyPath(page.id());
+        std::erase(toDelete_, file);
         writing_ = Writing::start(page, file);
     } catch (const std::exception&) {
         // No memory: the copy before stays.
@@ -174,8 +177,15 @@ void Recovery::remove(DocumentId page) {
     const auto copy = copies_.find(page);
     if (copy == copies_.end()) return;
     awaitWriting();
-    ::DeleteFileW(copy->second.c_str());
+    toDelete_.push_back(std::move(copy->second));
     copies_.erase(copy);
+    deleteOld();
+}
+
+void Recovery::deleteOld() {
+    std::erase_if(toDelete_, [](const std::wstring& file) {
+        return ::DeleteFileW(file.c_str()) || ::GetLastError() == ERROR_FILE_NOT_FOUND;
+    });
 }
 
 void Recovery::leave(DocumentId page) {

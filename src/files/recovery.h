@@ -56,12 +56,14 @@ class Recovery {
     bool lock();
     bool write(const frmChild& page);
     void awaitWriting();
+    void deleteOld();
 
     std::string folder_;
     std::wstring name_;  // of this program's files, up to the page's number; empty until it has written any
     win::UniqueFile lock_;  // held as long as the program runs, and deleted by the system with its end
     std::map<DocumentId, Due> due_;
     std::map<DocumentId, std::wstring> copies_;
+    std::vector<std::wstring> toDelete_;  // what a scanner, say, held when it was no longer needed
     std::unique_ptr<Writing> writing_;
 };
 
