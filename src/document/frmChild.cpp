@@ -292,9 +292,11 @@ void frmChild::kidDelete() {
 }
 
 void frmChild::kidUndo() {
-    if (::SendMessageW(txtPad_->hwnd(), EM_CANUNDO, 0, 0) != 0 || steps_.empty()) {
+    if (::SendMessageW(txtPad_->hwnd(), EM_CANUNDO, 0, 0) != 0) {
         ::SendMessageW(txtPad_->hwnd(), WM_UNDO, 0, 0);
-    } else {
+        // The page may have been saved with what is undone now.
+        txtPad_->setChanged(true);
+    } else if (!steps_.empty()) {
         takeStepBack();
     }
 }

@@ -143,7 +143,10 @@ void RichEdit::replaceSelection(std::u16string_view text) {
     if (isReadOnly()) return;
     if (text.find(u'\0') != std::u16string_view::npos) throw win::Failure("The text holds a NUL.");
     if (text.empty()) {
+        if (selection().length() == 0) return;
         send(WM_CLEAR);
+        // Not every version of the control counts this as a change.
+        setChanged(true);
         return;
     }
     if (LooksFormatted(text)) {

@@ -24,6 +24,16 @@ RecoveryCopy CopyOf(const frmChild& page) {
             static_cast<std::size_t>(page.txtPad().selection().start), page.txtPad().text()};
 }
 
+std::optional<RecoveryCopy> ReadCopy(const std::wstring& path) {
+    try {
+        const auto bytes = mBinOpen::ReadFileAtOnce(win::ToUtf8(path));
+        return bytes ? Unpack(*bytes) : std::nullopt;
+    } catch (const std::exception&) {
+        // Too much for the memory that is left.
+        return std::nullopt;
+    }
+}
+
 // Null when another program holds it; it goes with the handle.
 win::UniqueFile OpenLock(const std::wstring& path, DWORD disposition) {
     return win::UniqueFile(::CreateFileW(path.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, disposition,
@@ -48,17 +58,23 @@ std::vector<std::wstring> FilesLike(const std::wstring& pattern) {
 // The writing of one copy, on a thread of the system's pool. It owns all that it works with.
 class Recovery::Writing {
  public:
-    // False when there is no such thread.
-    static std::unique_ptr<Writing> start(RecoveryCopy copy, std::wstring path) {
+    // Null when there is no such thread.
+    static std::unique_ptr<Writing> start(const frmChild& page, std::wstring path) {
         auto writing = std::make_unique<Writing>();
-        writing->copy_ = std::move(copy);
+        writing->page_ = page.id();
+        writing->copy_ = CopyOf(page);
         writing->path_ = std::move(path);
         writing->done_.reset(::CreateEventW(nullptr, TRUE, FALSE, nullptr));
         writing->started_ =
             writing->done_ && ::QueueUserWorkItem(run, writing.get(), WT_EXECUTELONGFUNCTION) != FALSE;
         return writing->started_ ? std::move(writing) : nullptr;
     }
+    DocumentId page() const { return page_; }
     bool isDone() const { return ::WaitForSingleObject(done_.get(), 0) == WAIT_OBJECT_0; }
+    bool hasFailed() const {
+        ::WaitForSingleObject(done_.get(), INFINITE);
+        return failed_;
+    }
     ~Writing() {
         if (started_) ::WaitForSingleObject(done_.get(), INFINITE);
     }
@@ -67,7 +83,7 @@ class Recovery::Writing {
     static DWORD WINAPI run(void* self) {
         auto& writing = *static_cast<Writing*>(self);
         try {
-            ReplaceFileContents(win::ToUtf8(writing.path_), Pack(writing.copy_));
+            writing.failed_ = !ReplaceFileContents(win::ToUtf8(writing.path_), Pack(writing.copy_));
         } catch (const std::exception&) {
             // The copy before stays.
         }
@@ -75,31 +91,39 @@ class Recovery::Writing {
         return 0;
     }
 
+    DocumentId page_ = 0;
     RecoveryCopy copy_;
     std::wstring path_;
     win::UniqueHandle done_;
+    bool failed_ = true;
     bool started_ = false;
 };
 
 Recovery::Recovery(std::string folder) : folder_(std::move(folder)) {}
 
-Recovery::~Recovery() = default;
+Recovery::~Recovery() {
+    deleteOld();
+}
 
 std::wstring Recovery::copyPath(DocumentId page) const {
     return name_ + L'-' + win::ToWide(std::to_string(page)) + kCopyEnding;
 }
 
-// The lock tells that this program's copies are nobody else's.
+// The lock tells that this program's copies are nobody else's. A number comes again; what a program of that
+// number has left is not to be written over.
 bool Recovery::lock() {
     if (lock_) return true;
     DWORD number = ::GetCurrentProcessId();
-    for (int tries = 0; tries < 100 && !lock_; ++tries, number += ::GetTickCount() | 1U) {
+    for (int tries = 0; tries < 100; ++tries, number += ::GetTickCount() | 1U) {
         name_ = win::ToWide(folder_) + kPrefix + win::ToWide(std::to_string(number));
         lock_ = OpenLock(name_ + kLockEnding, CREATE_NEW);
+        if (lock_ && FilesLike(name_ + L"-*" + kCopyEnding).empty()) return true;
         if (!lock_ && ::GetLastError() != ERROR_FILE_EXISTS && ::GetLastError() != ERROR_SHARING_VIOLATION)
             break;
+        lock_.reset();
     }
-    return static_cast<bool>(lock_);
+    name_.clear();
+    return false;
 }
 
 void Recovery::awaitWriting() {
@@ -107,11 +131,16 @@ void Recovery::awaitWriting() {
 }
 
 bool Recovery::write(const frmChild& page) {
-    if (!lock()) return false;
     awaitWriting();
-    std::wstring& file = copies_[page.id()];
-    if (file.empty()) file = copyPath(page.id());
-    writing_ = Writing::start(CopyOf(page), file);
+    try {
+        if (!lock()) return false;
+        std::wstring& file = copies_[page.id()];
+        if (file.empty()) file = copyPath(page.id());
+        std::erase(toDelete_, file);
+        writing_ = Writing::start(page, file);
+    } catch (const std::exception&) {
+        // No memory: the copy before stays.
+    }
     return writing_ != nullptr;
 }
 
@@ -119,27 +148,27 @@ void Recovery::noteChange(DocumentId page, DWORD now) {
     due_.try_emplace(page, Due{now, now}).first->second.last = now;
 }
 
+bool Recovery::isAnyDue() const {
+    return !due_.empty() || writing_;
+}
+
 void Recovery::writeDue(MainWindow& main, DWORD now) {
     if (writing_ && !writing_->isDone()) return;
+    // What the disk did not take it may take later.
+    if (writing_ && writing_->hasFailed()) noteChange(writing_->page(), now);
+    awaitWriting();
     const auto due = std::find_if(due_.begin(), due_.end(), [now](const auto& entry) {
         return now - entry.second.last >= kAfterLast || now - entry.second.first >= kAfterFirst;
     });
     if (due == due_.end()) return;
-    const frmChild* page = main.find(due->first);
+    const DocumentId id = due->first;
+    const frmChild* page = main.find(id);
     due_.erase(due);
-    try {
-        if (page && page->isChanged()) write(*page);
-    } catch (const std::exception&) {
-        // No memory: the copy before stays.
-    }
+    if (page && page->isChanged() && !write(*page)) noteChange(id, now);
 }
 
 void Recovery::writeNow(const frmChild& page) {
-    try {
-        if (page.isChanged() && write(page)) due_.erase(page.id());
-    } catch (const std::exception&) {
-        // As above.
-    }
+    if (page.isChanged() && write(page) && !writing_->hasFailed()) due_.erase(page.id());
     awaitWriting();
 }
 
@@ -148,8 +177,15 @@ void Recovery::remove(DocumentId page) {
     const auto copy = copies_.find(page);
     if (copy == copies_.end()) return;
     awaitWriting();
-    ::DeleteFileW(copy->second.c_str());
+    toDelete_.push_back(std::move(copy->second));
     copies_.erase(copy);
+    deleteOld();
+}
+
+void Recovery::deleteOld() {
+    std::erase_if(toDelete_, [](const std::wstring& file) {
+        return ::DeleteFileW(file.c_str()) || ::GetLastError() == ERROR_FILE_NOT_FOUND;
+    });
 }
 
 void Recovery::leave(DocumentId page) {
@@ -168,8 +204,7 @@ std::vector<Recovery::Found> Recovery::takeOver() {
         // While this is held nobody else takes that program's copies.
         const win::UniqueFile ownerLock = OpenLock(folder + owner + kLockEnding, OPEN_ALWAYS);
         if (!ownerLock) continue;
-        const auto bytes = mBinOpen::ReadFileAtOnce(win::ToUtf8(folder + name));
-        auto copy = bytes ? Unpack(*bytes) : std::nullopt;
+        auto copy = ReadCopy(folder + name);
         if (!copy || !lock()) continue;
         const std::wstring mine = name_ + L"-back" + win::ToWide(std::to_string(found.size())) + ending;
         if (::MoveFileExW((folder + name).c_str(), mine.c_str(), 0))

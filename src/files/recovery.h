@@ -24,9 +24,10 @@ class Recovery {
 
     // The page has been edited; `now` is GetTickCount(), here and below.
     void noteChange(DocumentId page, DWORD now);
-    bool isAnyDue() const { return !due_.empty(); }
+    bool isAnyDue() const;
     // Writes the copies that are due: some seconds after the last change, half a minute after the first one
-    // at the latest. The file is written beside, so that this takes no longer than reading the page does.
+    // at the latest, and again when the disk did not take it. The file is written beside, so that this takes
+    // no longer than reading the page does.
     void writeDue(MainWindow& main, DWORD now);
     // Has the page's copy hold what the page holds now; returns when it is written.
     void writeNow(const frmChild& page);
@@ -55,12 +56,14 @@ class Recovery {
     bool lock();
     bool write(const frmChild& page);
     void awaitWriting();
+    void deleteOld();
 
     std::string folder_;
     std::wstring name_;  // of this program's files, up to the page's number; empty until it has written any
     win::UniqueFile lock_;  // held as long as the program runs, and deleted by the system with its end
     std::map<DocumentId, Due> due_;
     std::map<DocumentId, std::wstring> copies_;
+    std::vector<std::wstring> toDelete_;  // what a scanner, say, held when it was no longer needed
     std::unique_ptr<Writing> writing_;
 };
 

@@ -109,17 +109,6 @@ TEST_F(EditingTest, WhatCannotBeOpenedAtTheStartIsToldAndCostsNothing) {
     EXPECT_TRUE(locked.isRunning());
 }
 
-// The names and sizes of files.
-std::string Listing(const std::string& pattern) {
-    std::string files;
-    WIN32_FIND_DATAA found{};
-    const HANDLE find = ::FindFirstFileA(pattern.c_str(), &found);
-    for (BOOL any = find != INVALID_HANDLE_VALUE; any; any = ::FindNextFileA(find, &found))
-        files += found.cFileName + (" " + std::to_string(found.nFileSizeLow)) + "\n";
-    ::FindClose(find);
-    return files;
-}
-
 TEST_F(EditingTest, UnsavedPagesComeBackAfterAKill) {
     const std::string path = scratch("za\u017C\u00F3\u0142\u0107.htm");
     writeFile(path, "\u0141\u00F3d\u017A");
@@ -158,7 +147,7 @@ TEST_F(EditingTest, KilledInMidSaveItLeavesTheOldFileOrTheNewOne) {
         writeFile(path, page);
         Quillon quillon(path);
         ::PostMessageA(quillon.pad(), WM_CHAR, 'x', 0);
-        const std::string before = Listing(scratch("*"));
+        const auto before = Listing(scratch("*"));
         quillon.choose(mnuFileSave);
         const DWORD start = ::GetTickCount();
         while (Listing(scratch("*")) == before) ASSERT_LT(::GetTickCount() - start, 10000U);

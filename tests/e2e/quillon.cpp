@@ -52,12 +52,7 @@ bool Quillon::waitForEnd() {
 }
 
 void ForgetCopies() {
-    const std::string folder = Environment("TEMP") + "\\";
-    WIN32_FIND_DATAA found{};
-    const HANDLE find = ::FindFirstFileA((folder + "~quillon-*").c_str(), &found);
-    for (BOOL any = find != INVALID_HANDLE_VALUE; any; any = ::FindNextFileA(find, &found))
-        ::DeleteFileA((folder + found.cFileName).c_str());
-    ::FindClose(find);
+    for (const auto& [copy, details] : Listing(Environment("TEMP") + "\\~qu*")) ::DeleteFileA(copy.c_str());
 }
 
 void Quillon::kill() {

@@ -22,6 +22,17 @@ void DeleteTree(const std::string& folder) {
     ::SHFileOperationW(&operation);
 }
 
+std::map<std::string, std::string> Listing(const std::string& pattern) {
+    std::map<std::string, std::string> files;
+    WIN32_FIND_DATAW found{};
+    const HANDLE find = ::FindFirstFileW(Wide(pattern).c_str(), &found);
+    for (BOOL any = find != INVALID_HANDLE_VALUE; any; any = ::FindNextFileW(find, &found))
+        files[pattern.substr(0, pattern.rfind('\\') + 1) + Narrow(found.cFileName)] =
+            std::to_string(found.nFileSizeLow) + ", " + std::to_string(found.ftLastWriteTime.dwLowDateTime);
+    ::FindClose(find);
+    return files;
+}
+
 FilesTest::FilesTest() {
     ::OleInitialize(nullptr);
 }

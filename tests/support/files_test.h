@@ -1,6 +1,7 @@
 // What every test on Windows starts from: an empty folder, and ways to leave nothing behind.
 #pragma once
 
+#include <map>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -12,6 +13,9 @@ std::string Environment(const char* name);
 
 // Deletes a folder with all that is in it.
 void DeleteTree(const std::string& folder);
+
+// The paths of files, each with its size and time.
+std::map<std::string, std::string> Listing(const std::string& pattern);
 
 class FilesTest : public ::testing::Test {
  public:

@@ -19,15 +19,18 @@ struct State {
     DWORD error = 0;
     bool forGood = false;
     bool newFilesRefused = false;
-    bool memory = false;
+    Calls which = Calls::changing;
     int answer = IDYES;
     std::string failed;
     std::vector<std::string> said;
 };
 
-bool Fails(const char* name, bool memory = false) {
+bool Fails(const char* name, Calls kind = Calls::changing) {
     State* state = State::now;
-    if (!state || ::GetCurrentThreadId() != state->thread || memory != state->memory) return false;
+    if (!state) return false;
+    const bool isHere = ::GetCurrentThreadId() == state->thread;
+    const bool counts = state->which == Calls::any ? kind != Calls::memory : isHere && kind == state->which;
+    if (!counts) return false;
     --state->left;
     if (state->left > 0 || (state->left < 0 && !state->forGood)) return false;
     if (state->left == 0) state->failed = name;
@@ -68,13 +71,15 @@ struct Name {
     char text[kSize] = {};
 };
 
-template <Name kName, typename Function>
+template <Name kName, typename Function, Calls kKind = Calls::changing>
 struct Hook;
-template <Name kName, typename Result, typename... Args>
-struct Hook<kName, Result(WINAPI*)(Args...)> {
+template <Name kName, typename Result, typename... Args, Calls kKind>
+struct Hook<kName, Result(WINAPI*)(Args...), kKind> {
     static inline Result(WINAPI* real)(Args...) = nullptr;
 
-    static Result WINAPI call(Args... args) { return Fails(kName.text) ? Refusal<Result>() : real(args...); }
+    static Result WINAPI call(Args... args) {
+        return Fails(kName.text, kKind) ? Refusal<Result>() : real(args...);
+    }
     static void put(Result(WINAPI* function)(Args...) = call) {
         void** slot = ImportSlot(kName.text);
         if (!real) std::memcpy(&real, slot, sizeof real);
@@ -84,21 +89,25 @@ struct Hook<kName, Result(WINAPI*)(Args...)> {
 };
 
 #define HOOK(function) Hook<#function, decltype(&::function)>
+#define READ_HOOK(function) Hook<#function, decltype(&::function), Calls::any>
 using Create = HOOK(CreateFileW);
 using Copy = HOOK(CopyFileW);
 using Write = HOOK(WriteFile);
 using Close = HOOK(CloseHandle);
 using Box = HOOK(MessageBoxW);
+using Find = READ_HOOK(FindFirstFileW);
 
 template <typename... Hooks>
 struct All {
     static void put() { (Hooks::put(), ...); }
     static void restore() { (Hooks::restore(), ...); }
 };
-using Plain =
-    All<HOOK(RegCreateKeyExW), HOOK(RegSetValueExW), HOOK(RegDeleteValueW), HOOK(RegDeleteKeyW),
-        HOOK(SetEndOfFile), HOOK(FlushFileBuffers), HOOK(MoveFileExW), HOOK(DeleteFileW),
-        HOOK(SetFileAttributesW), HOOK(SetFileSecurityW), HOOK(CreateDirectoryW), HOOK(GetTempFileNameW)>;
+using Plain = All<HOOK(RegCreateKeyExW), HOOK(RegSetValueExW), HOOK(RegDeleteValueW), HOOK(RegDeleteKeyW),
+                  HOOK(SetEndOfFile), HOOK(FlushFileBuffers), HOOK(MoveFileExW), HOOK(DeleteFileW),
+                  HOOK(SetFileAttributesW), HOOK(SetFileSecurityW), HOOK(CreateDirectoryW),
+                  HOOK(GetTempFileNameW), READ_HOOK(CreateEventW), READ_HOOK(QueueUserWorkItem),
+                  READ_HOOK(ReadFile), READ_HOOK(GetFileSizeEx), READ_HOOK(FindNextFileW)>;
+#undef READ_HOOK
 #undef HOOK
 
 HANDLE WINAPI CreateOrRefuse(LPCWSTR path, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security,
@@ -107,7 +116,8 @@ HANDLE WINAPI CreateOrRefuse(LPCWSTR path, DWORD access, DWORD share, LPSECURITY
         ::SetLastError(ERROR_ACCESS_DENIED);
         return INVALID_HANDLE_VALUE;
     }
-    if ((access & GENERIC_WRITE) != 0 && Fails("CreateFileW")) return INVALID_HANDLE_VALUE;
+    if (Fails("CreateFileW", (access & GENERIC_WRITE) != 0 ? Calls::changing : Calls::any))
+        return INVALID_HANDLE_VALUE;
     return Create::real(path, access, share, security, disposition, flags, like);
 }
 
@@ -117,6 +127,10 @@ BOOL WINAPI CopyOrRefuse(LPCWSTR from, LPCWSTR to, BOOL asNew) {
         return FALSE;
     }
     return !Fails("CopyFileW") && Copy::real(from, to, asNew);
+}
+
+HANDLE WINAPI FindOrRefuse(LPCWSTR pattern, LPWIN32_FIND_DATAW found) {
+    return Fails("FindFirstFileW", Calls::any) ? INVALID_HANDLE_VALUE : Find::real(pattern, found);
 }
 
 BOOL WINAPI WriteOrHalf(HANDLE file, LPCVOID bytes, DWORD size, LPDWORD written, LPOVERLAPPED where) {
@@ -149,12 +163,13 @@ class Hooked {
         Write::put(WriteOrHalf);
         Close::put(CloseAnyway);
         Box::put(Answer);
+        Find::put(FindOrRefuse);
         State::now = &state;
     }
     ~Hooked() {
         State::now = nullptr;
         Plain::restore();
-        All<Create, Copy, Write, Close, Box>::restore();
+        All<Create, Copy, Write, Close, Box, Find>::restore();
     }
 };
 
@@ -165,7 +180,7 @@ bool FailOne(const FaultyWork& test, int call, bool forGood, DWORD error) {
     now.error = error;
     now.forGood = forGood;
     now.newFilesRefused = test.newFilesRefused;
-    now.memory = test.memory;
+    now.which = test.which;
     now.answer = test.answer;
     test.prepare();
     {
@@ -174,7 +189,7 @@ bool FailOne(const FaultyWork& test, int call, bool forGood, DWORD error) {
     }
     test.check({"call " + std::to_string(call) + (forGood ? " and all after it" : "") + ", error " +
                     std::to_string(error) + " " + now.failed,
-                now.said});
+                now.said, !now.failed.empty()});
     return !now.failed.empty();
 }
 
@@ -182,8 +197,9 @@ bool FailOne(const FaultyWork& test, int call, bool forGood, DWORD error) {
 
 void* operator new(std::size_t size) {
     constexpr std::size_t kMuch = 1000;
-    void* memory =
-        size > kMuch && Fails("operator new", true) ? nullptr : std::malloc(std::max<std::size_t>(size, 1));
+    void* memory = size > kMuch && Fails("operator new", Calls::memory)
+                       ? nullptr
+                       : std::malloc(std::max<std::size_t>(size, 1));
     if (!memory) throw std::bad_alloc();
     return memory;
 }
@@ -198,7 +214,7 @@ int FailEachCall(const FaultyWork& test) {
     int faults = 0;
     for (const DWORD error : test.errors) {
         for (const bool forGood : {false, true}) {
-            if (forGood && test.memory) continue;
+            if (forGood && test.which == Calls::memory) continue;
             for (int call = 1; call < 500 && FailOne(test, call, forGood, error); ++call) ++faults;
         }
     }

@@ -8,6 +8,13 @@
 struct Fault {
     std::string what;               // which call failed and how, for the messages of a test
     std::vector<std::string> said;  // by message boxes, which were answered with their first button
+    bool isAny = true;              // false the last time
+};
+
+enum class Calls {
+    changing,  // a file or a setting, on this thread
+    any,       // those that only read as well, on whatever thread
+    memory,    // requests for much of it at once, on this thread, one at a time
 };
 
 struct FaultyWork {
@@ -16,14 +23,13 @@ struct FaultyWork {
     std::function<void(const Fault&)> check;
     bool newFilesRefused = false;                  // a folder that takes no new file at all
     std::vector<unsigned long> errors = {5, 112};  // access denied, disk full
-    bool memory = false;  // not calls fail, but requests for much memory at once, one at a time
-    int answer = 6;       // IDYES, to questions
+    Calls which = Calls::changing;
+    int answer = 6;  // IDYES, to questions
 };
 
-// Does the work over and over, with its first, second, ... call that changes a file or a setting failing,
-// alone or with all calls after it; the last time none fails. Only calls by the program's own code on this
-// thread count. What fails has no effect, but for a write, which gets half of its bytes in, and a close.
-// Gives how many faults there were.
+// Does the work over and over, with its first, second, ... call of a kind failing, alone or with all calls
+// after it; the last time none fails. Only calls by the program's own code count. What fails has no effect,
+// but for a write, which gets half of its bytes in, and a close. Gives how many faults there were.
 int FailEachCall(const FaultyWork& test);
 
 // Does the work once with nothing failing but what fails by itself, and gives what message boxes said.

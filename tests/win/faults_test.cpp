@@ -137,7 +137,7 @@ TEST_F(FaultsTest, WhereMemoryRunsOutACommandSaysSoInItsOwnWords) {
             const std::string first = fault.said.empty() ? words : fault.said.front();
             EXPECT_TRUE(first.starts_with(words) || first.ends_with("now?\r\n\r\n")) << first;
         };
-        EXPECT_GE(FailEachCall({prepare, work, check, false, {0}, true, IDNO}), fewest) << words;
+        EXPECT_GE(FailEachCall({prepare, work, check, false, {0}, Calls::memory, IDNO}), fewest) << words;
     };
     const std::string large(2000, 'x');
     frmChild& page = newPage(large);

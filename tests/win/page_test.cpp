@@ -215,6 +215,7 @@ TEST_F(PageTest, CutPasteAndUndo) {
     active().txtPad().select(0, 4);
     run(mnuEditCut);
     EXPECT_EQ(clipboard(), "one ");
+    EXPECT_TRUE(active().isChanged());
     active().txtPad().select(0, 0);
     run(mnuEditCut);
     EXPECT_EQ(pageText(), "two") << "cutting nothing";
@@ -222,8 +223,10 @@ TEST_F(PageTest, CutPasteAndUndo) {
     EXPECT_EQ(pageText(), "one two");
     run(mnuEditClear);
     EXPECT_EQ(pageText(), "");
+    active().txtPad().setChanged(false);
     run(mnuEditUndo);
     EXPECT_EQ(pageText(), "one two") << "one step";
+    EXPECT_TRUE(active().isChanged()) << "what was saved was without it";
     setClipboard("{\\rtf1 \\b bold}");
     active().selectAll();
     ::SendMessageA(active().txtPad().hwnd(), WM_PASTE, 0, 0);

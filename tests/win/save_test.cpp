@@ -8,7 +8,7 @@
 #include "settings/app_settings.h"
 #include "win/app_test.h"
 #include "win/failing_calls.h"
-#include "win/late.h"
+#include "win/system_dll.h"
 #include "win/unique.h"
 #include "win/wide_path.h"
 

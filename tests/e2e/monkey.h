@@ -1,0 +1,379 @@
+// A user who does anything at any time, and a plain model of what every page and file must hold.
+#pragma once
+
+#include <algorithm>
+#include <cstdio>
+#include <map>
+#include <optional>
+#include <random>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "authoring/tags/core/tag_fragments.h"
+#include "document/core/page_outline.h"
+#include "e2e/quillon.h"
+#include "menu_ids.h"
+
+class MonkeyTest : public QuillonTest {
+ protected:
+    struct State {
+        std::string text;
+        std::string path;
+        bool changed = false;
+        std::string caption = {};
+        DWORD until = 0;  // GetTickCount() when it was last seen to be so
+    };
+    struct Page : State {
+        HWND window = nullptr;
+        std::size_t tab = 4;
+        // What it was before, since it was last safe: on the disk, or in a recovery copy that was looked at.
+        std::vector<State> past = {};
+    };
+
+    void SetUp() override {
+        QuillonTest::SetUp();
+        random_.seed(seed_);
+        quillon_.emplace();
+        opened(document::kPageOutline, "");
+        run(mnuEditAll);
+        run(mnuEditCopy);
+        clipboard_ = document::kPageOutline;
+    }
+    void TearDown() override {
+        quillon_.reset();
+        for (int i = 0; i < 20; ++i) RemoveTemplate("monkey" + std::to_string(i) + ".htm");
+    }
+
+    // ---- What chance decides.
+    std::size_t below(std::size_t count) { return random_() % count; }
+    // A place in the page that is not inside a line end.
+    std::size_t place() {
+        const std::string& text = front().text;
+        const std::size_t at = below(text.size() + 1);
+        return at > 0 && at < text.size() && text[at] == '\n' ? at - 1 : at;
+    }
+    std::string word() {
+        std::string text(1 + below(8), ' ');
+        for (char& c : text) c = static_cast<char>('a' + below(26));
+        return text;
+    }
+
+    // The longest that a change may be in no recovery copy, in milliseconds.
+    static constexpr DWORD kPatience = 30000;
+
+    // ---- The program.
+    Page& front() {
+        const auto found =
+            std::find_if(pages_.begin(), pages_.end(),
+                         [window = quillon_->page()](auto& page) { return page.window == window; });
+        EXPECT_TRUE(found != pages_.end()) << "a page that nobody opened";
+        return found == pages_.end() ? pages_.front() : *found;
+    }
+    static LRESULT send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+        DWORD_PTR result = 0;
+        if (!::SendMessageTimeoutA(window, message, wParam, lParam, SMTO_NORMAL, 20000, &result))
+            ADD_FAILURE() << "no answer to message " << message;
+        return static_cast<LRESULT>(result);
+    }
+    // Until it is done; with choose() a dialog may come up meanwhile.
+    void run(int command) { send(quillon_->window(), WM_COMMAND, static_cast<WPARAM>(command)); }
+    // Waits until the window has gone, after a message to it where one is needed.
+    static void gone(HWND window, UINT message = WM_NULL) {
+        ::PostMessageA(window, message, 0, 0);
+        EXPECT_TRUE(seen::Until([window] { return !::IsWindow(window); }));
+    }
+    // Takes the page that has come to the front into the model.
+    void opened(const std::string& text, const std::string& path) {
+        EXPECT_TRUE(seen::Until([this] { return quillon_->pages().size() == pages_.size() + 1; }));
+        pages_.push_back({{text, path, false, quillon_->pageCaption()}, quillon_->page(), tab_});
+    }
+    // Keeps a page as it is now: what will be done to it may not be done when the program ends.
+    void remember() { remember(front()); }
+    static void remember(Page& page) {
+        std::erase_if(page.past,
+                      [now = ::GetTickCount()](auto& state) { return now - state.until > kPatience; });
+        page.past.push_back(page);
+        page.past.back().until = ::GetTickCount();
+    }
+
+    // ---- Changes of the page in front.
+    // Selects something, mostly nothing, for what comes next to replace.
+    void select() {
+        start_ = end_ = place();
+        if (below(3) == 0) end_ = place();
+        if (end_ < start_ || end_ - start_ > 400) end_ = start_;
+        send(quillon_->pad(), EM_SETSEL, start_, static_cast<LPARAM>(end_));
+    }
+    void replaced(std::string_view with) {
+        front().text.replace(start_, end_ - start_, with);
+        front().changed = true;
+    }
+    void type() {
+        select();
+        const std::string typed = word();
+        for (const char& c : typed) {
+            replaced({&c, 1});
+            remember();
+            end_ = ++start_;
+        }
+        const HWND pad = quillon_->pad();
+        const std::pair<WPARAM, std::string> keys[] = {
+            {0, ""}, {VK_RETURN, "\r\n"}, {VK_TAB, std::string(front().tab, ' ')}, {VK_BACK, ""}};
+        const auto& [key, inserted] = keys[below(4)];
+        if (key == VK_BACK) --start_;
+        replaced(inserted);
+        for (const char c : typed) ::PostMessageA(pad, WM_CHAR, static_cast<unsigned char>(c), 0);
+        if (key != 0) ::PostMessageA(pad, WM_KEYDOWN, key, 0);
+    }
+    void insertTag() {
+        using authoring::TagMenu;
+        static constexpr std::pair<int, TagMenu> kMenus[] = {
+            {mnuTagsBasicList, TagMenu::Basic}, {mnuTagsModList, TagMenu::Mod},
+            {mnutagsTableList, TagMenu::Table}, {mnuTagsFSetList, TagMenu::FSet},
+            {mnuTagsLsList, TagMenu::Ls},       {mnuTagsSpecialChar, TagMenu::Special}};
+        const auto [first, menu] = kMenus[below(std::size(kMenus))];
+        const int index = static_cast<int>(below(4));
+        const std::string_view tag = authoring::TagFragment(menu, index);
+        if (tag.empty()) return;
+        const std::string before = front().text;
+        select();
+        replaced(tag);
+        run(first + index);
+        if (below(3) != 0) return;
+        EXPECT_EQ(quillon_->pageText(), front().text);
+        remember();
+        run(mnuEditUndo);
+        front().text = before;
+    }
+    void color() {
+        select();
+        run(tbrColor);
+        const HWND chart = quillon_->waitForDialog("Click for Color Tag...");
+        clipboard_ = below(2) == 0 ? "\"#CC00FF\"" : "\"#003399\"";
+        const HWND box = seen::Child(chart, clipboard_);
+        ::PostMessageA(box, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+        ::PostMessageA(box, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
+        gone(chart);
+        replaced(clipboard_);
+    }
+    void paste() {
+        select();
+        run(mnuEditPaste);
+        replaced(clipboard_);
+    }
+    void cutOrCopy() {
+        select();
+        const bool cuts = below(2) == 0;
+        run(cuts ? mnuEditCut : mnuEditCopy);
+        if (start_ == end_) return;
+        clipboard_ = front().text.substr(start_, end_ - start_);
+        if (cuts) replaced("");
+    }
+    void replace() {
+        std::string& text = front().text;
+        const std::string find = text.substr(place(), 1 + below(3));
+        if (find.empty() || find.find_first_of("\r\n") != std::string::npos) return;
+        const std::string with = word();
+        const bool all = below(2) == 0;
+        for (std::size_t at = text.find(find); at != std::string::npos;) {
+            text.replace(at, find.size(), with);
+            at = all ? text.find(find, at + with.size()) : std::string::npos;
+        }
+        front().changed = true;
+        run(tbrReplace);
+        const HWND dialog = quillon_->waitForDialog("Replace");
+        seen::FillIn(dialog, find, with, all ? "Replace All" : "Replace");
+        if (all) clipboard_ = text;
+        if (!all) ::PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+        gone(dialog);
+    }
+    void reset() {
+        Page& page = front();
+        quillon_->choose(tbrReset);
+        if (page.path.empty() || !page.changed) return void(quillon_->answer("Quillon", IDOK));
+        if (!page.text.empty()) clipboard_ = page.text;
+        page.text = files_[page.path];
+        page.changed = false;
+        page.past.clear();
+    }
+
+    // ---- Pages and files.
+    void newPage() {
+        run(mnuFileNew);
+        opened(document::kPageOutline, "");
+    }
+    void saved(const std::string& path) {
+        Page& page = front();
+        page.path = recent_ = path;
+        page.changed = false;
+        page.past.clear();
+        files_[path] = page.text + "\r\n";
+        EXPECT_TRUE(quillon_->shows("Saved :  " + path));
+        page.caption = quillon_->pageCaption();
+    }
+    void save() {
+        if (front().path.empty()) return saveAs();
+        run(mnuFileSave);
+        saved(front().path);
+    }
+    bool isOpen(const std::string& path) const {
+        return std::any_of(pages_.begin(), pages_.end(), [&](const Page& page) { return page.path == path; });
+    }
+    void saveAs() {
+        const std::string path = scratch("page" + std::to_string(below(9)) + ".htm");
+        quillon_->choose(mnuFileSaveAs);
+        quillon_->chooseFile("Save File As...", path, files_.count(path) != 0);
+        if (isOpen(path) && front().path != path) return void(quillon_->answer("Quillon", IDOK));
+        saved(path);
+    }
+    void expectOpened(const std::string& path) {
+        if (isOpen(path)) {
+            quillon_->answer("Quillon", IDOK);
+        } else {
+            opened(files_[path], recent_ = path);
+        }
+    }
+    void openFile() {
+        if (files_.empty()) return;
+        const std::string path = std::next(files_.begin(), static_cast<long>(below(files_.size())))->first;
+        quillon_->choose(mnuFileOpen);
+        quillon_->chooseFile("Open File...", path);
+        expectOpened(path);
+    }
+    void openRecent() {
+        if (recent_.empty()) return;
+        quillon_->choose(mnuFileMRU + 1);
+        expectOpened(recent_);
+    }
+    void addTemplate() {
+        const std::string name = "monkey" + std::to_string(below(20)) + ".htm";
+        for (const auto& [known, page] : templates_) {
+            if (known == name) return;
+        }
+        quillon_->choose(mnuOptsTempAdd);
+        const HWND dialog = quillon_->waitForDialog("Add a Template");
+        seen::FillIn(dialog, name, "ID " + name, "Enter");
+        gone(dialog);
+        templates_.insert(templates_.begin(), {name, front().text + "\r\n"});
+        if (templates_.size() > 9) templates_.pop_back();
+    }
+    void openTemplate() {
+        if (templates_.empty()) return;
+        const std::size_t slot = below(templates_.size());
+        run(mnuOptsTempList + static_cast<int>(slot));
+        opened(templates_[slot].second, "");
+        EXPECT_EQ(quillon_->pageCaption(), "ID " + templates_[slot].first);
+    }
+    void deleteTemplate() {
+        if (templates_.empty()) return;
+        const std::size_t slot = below(templates_.size());
+        quillon_->choose(mnuOptsTempOrg);
+        const HWND dialog = quillon_->waitForDialog("Organize Templates");
+        send(seen::Child(dialog, "Delete", "Button"), BM_CLICK);
+        send(seen::ChildOfClass(dialog, "ComboBox"), CB_SETCURSEL, slot);
+        ::PostMessageA(seen::Child(dialog, "Enter", "Button"), BM_CLICK, 0, 0);
+        quillon_->answer("Confirm file deletion", IDYES);
+        gone(dialog);
+        templates_.erase(templates_.begin() + static_cast<long>(slot));
+    }
+    void closePage() {
+        const Page page = front();
+        const bool keeps = page.changed && !isOpen(scratch("kept.htm")) && below(10) == 0;
+        quillon_->choose(mnuFileClose);
+        if (page.changed) quillon_->answer("Quillon", keeps ? IDYES : IDNO);
+        if (keeps) {
+            recent_ = scratch("kept.htm");
+            quillon_->chooseFile("Save File As...", recent_, files_.count(recent_) != 0);
+            files_[recent_] = page.text + "\r\n";
+        }
+        gone(page.window);
+        std::erase_if(pages_, [&](const Page& other) { return other.window == page.window; });
+    }
+    void switchPage() {
+        const std::size_t index = below(pages_.size());
+        run(windowList + static_cast<int>(index));
+        EXPECT_EQ(quillon_->page(), pages_[index].window);
+    }
+    void arrange() {
+        constexpr int kCommands[] = {mnuWind, mnuWind + 2, mnuOptWW};
+        run(kCommands[below(std::size(kCommands))]);
+    }
+    void setTab() {
+        tab_ = front().tab = 3 + below(6);
+        run(mnuOptTabsList + static_cast<int>(tab_) - 3);
+    }
+    void look() {
+        static constexpr std::pair<int, const char*> kDialogs[] = {{mnuHelpCont, "Quillon Help"},
+                                                                   {mnuHelpAbout, "About Quillon"},
+                                                                   {mnuOptFont, "Fonts"},
+                                                                   {mnuUploadSite, "ADD An Upload Site"},
+                                                                   {mnuFileOpen, "Open File..."},
+                                                                   {mnuOptsTempAdd, "Add a Template"},
+                                                                   {tbrColor, "Click for Color Tag..."},
+                                                                   {tbrFind, "Find"}};
+        const auto [command, title] = kDialogs[below(std::size(kDialogs))];
+        quillon_->choose(command);
+        gone(quillon_->waitForDialog(title), WM_CLOSE);
+    }
+
+    // ---- What must hold at any time.
+    void check() {
+        EXPECT_TRUE(quillon_->isRunning());
+        EXPECT_TRUE(seen::Until([this] {
+            return seen::TopLevel(quillon_->process()).size() == 1 && ::IsWindowEnabled(quillon_->window());
+        })) << "something is still open";
+        if (pages_.empty()) return;
+        seen::Until([this] { return quillon_->pageText() == front().text; });
+        EXPECT_EQ(quillon_->pageText(), front().text);
+        EXPECT_EQ(send(quillon_->pad(), EM_GETMODIFY) != 0, front().changed);
+    }
+    void checkAll() {
+        ASSERT_EQ(quillon_->pages().size(), pages_.size());
+        for (const Page& page : pages_)
+            EXPECT_EQ(seen::TextOf(seen::ChildOfClass(page.window, "RICHEDIT")), page.text);
+        for (const auto& [path, bytes] : files_) EXPECT_EQ(readFile(path), bytes) << path;
+    }
+    // With all pages closed. The first rests are there to get warm.
+    void rest() {
+        checkAll();
+        while (!pages_.empty() && !HasFailure()) closePage();
+        const seen::Holdings held = seen::HeldBy(quillon_->process());
+        std::printf("%6d actions: %d windows, %d GDI objects, %lu KB\n", actions_, held.windows, held.gdi,
+                    static_cast<unsigned long>(held.kilobytes));
+        if (++rests_ <= 3) warm_ = held;
+        EXPECT_LE(held.windows, warm_.windows);
+        EXPECT_LE(held.gdi, warm_.gdi + 40);
+        EXPECT_LE(held.kilobytes, warm_.kilobytes + 4096);
+        newPage();
+    }
+    void act() {
+        using M = MonkeyTest;
+        static constexpr void (M::*kActions[])() = {
+            &M::type,      &M::type,        &M::type,         &M::type,           &M::insertTag,
+            &M::insertTag, &M::insertTag,   &M::paste,        &M::cutOrCopy,      &M::color,
+            &M::replace,   &M::reset,       &M::save,         &M::save,           &M::saveAs,
+            &M::newPage,   &M::openFile,    &M::openRecent,   &M::look,           &M::arrange,
+            &M::setTab,    &M::addTemplate, &M::openTemplate, &M::deleteTemplate, &M::closePage,
+            &M::switchPage};
+        if (pages_.empty()) return newPage();
+        if (pages_.size() > 6) return closePage();
+        remember();
+        const std::size_t action = below(std::size(kActions));
+        SCOPED_TRACE("action " + std::to_string(++actions_) + " is of kind " + std::to_string(action));
+        (this->*kActions[action])();
+        check();
+    }
+
+    const unsigned seed_ = static_cast<unsigned>(EnvironmentNumber("QUILLON_MONKEY_SEED", 1));
+    std::mt19937 random_;
+    std::optional<Quillon> quillon_;
+    std::vector<Page> pages_;
+    std::map<std::string, std::string> files_;
+    std::vector<std::pair<std::string, std::string>> templates_;  // newest first
+    std::string recent_, clipboard_;
+    std::size_t start_ = 0, end_ = 0;  // of the selection
+    std::size_t tab_ = 4;
+    int actions_ = 0, rests_ = 0;
+    seen::Holdings warm_;
+};
