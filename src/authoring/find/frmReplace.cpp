@@ -129,8 +129,13 @@ std::u16string frmReplace::replaced(std::u16string_view text, std::u16string_vie
                                     std::u16string_view with) const {
     ::SetFocus(hwnd());
     const win::Disabled others(hwnd());
-    return authoring::ReplaceText<char16_t>(text, find, with, [this] {
+    // To look for messages takes much longer than to replace a word.
+    constexpr DWORD kBetweenLooks = 10;  // milliseconds
+    DWORD lastLook = ::GetTickCount() - kBetweenLooks;
+    return authoring::ReplaceText<char16_t>(text, find, with, [this, &lastLook] {
+        if (::GetTickCount() - lastLook < kBetweenLooks) return;
         win::RunPending();
+        lastLook = ::GetTickCount();
         if (cancelled_) throw win::Failure("cancelled");
     });
 }
