@@ -13,26 +13,47 @@ namespace {
 constexpr LONG kTextLimit = 0x7FFFFFFE;
 constexpr WPARAM kUnicodeText = SF_TEXT | SF_UNICODE;
 
+// What is left of the process's address space, in megabytes.
+double AddressSpaceLeft() {
+    double left = 0;
+    MEMORY_BASIC_INFORMATION region{};
+    for (const BYTE* at = nullptr; ::VirtualQuery(at, &region, sizeof region) != 0;) {
+        if (region.State == MEM_FREE) left += static_cast<double>(region.RegionSize) / (1 << 20);
+        const BYTE* next = static_cast<const BYTE*>(region.BaseAddress) + region.RegionSize;
+        if (next <= at) break;
+        at = next;
+    }
+    return left;
+}
+
 struct Source {
+    explicit Source(std::u16string_view text) : rest(text), size(text.size()) {}
+
     std::u16string_view rest;
+    std::size_t size;  // of the whole
+    double leftBefore = AddressSpaceLeft();
     unsigned chunks = 0;
     bool tooLarge = false;
 };
 
-// The control takes some hundred bytes for a character and does not get over it when there are none left.
-bool MemoryIsShort() {
-    constexpr DWORDLONG kRest = 160U << 20U;  // bytes
-    MEMORYSTATUSEX memory{};
-    memory.dwLength = sizeof memory;
-    return ::GlobalMemoryStatusEx(&memory) && memory.ullAvailVirtual < kRest;
+// The control does not get over it when its memory ends. When it has the text, or is given no more of it, it
+// lays out the rows of what it has, which takes some versions up to eight times as much again.
+bool MemoryWillEnd(const Source& source) {
+    constexpr double kRest = 160;  // megabytes, for all else
+    constexpr double kWithRows = 9;
+    constexpr double kTelling = 128;  // below that the heap's own steps hide what a character takes
+    const double used = source.leftBefore - AddressSpaceLeft();
+    const auto fed = static_cast<double>(source.size - source.rest.size());
+    const double whole = used < kTelling ? used : used / fed * static_cast<double>(source.size);
+    return source.leftBefore < kRest + whole * kWithRows;
 }
 
 // A chunk that ended between CR and LF would give an extra line.
 DWORD CALLBACK Feed(DWORD_PTR cookie, LPBYTE buffer, LONG size, LONG* done) {
     auto& source = *reinterpret_cast<Source*>(cookie);
     auto& rest = source.rest;
-    constexpr unsigned kBetweenLooks = 8;  // chunks
-    source.tooLarge = source.chunks++ % kBetweenLooks == 0 && MemoryIsShort();
+    constexpr unsigned kBetweenLooks = 64;  // chunks
+    source.tooLarge = source.chunks++ % kBetweenLooks == 0 && MemoryWillEnd(source);
     *done = 0;
     if (source.tooLarge) return ERROR_NOT_ENOUGH_MEMORY;
     std::size_t count = std::min(rest.size(), static_cast<std::size_t>(size) / sizeof(char16_t));
@@ -97,8 +118,7 @@ void RichEdit::create(HWND parent, int id, const Font& font) {
 
 bool RichEdit::load(std::u16string_view text) {
     const LRESULT events = send(EM_SETEVENTMASK, 0, ENM_NONE);
-    Source source;
-    source.rest = text;
+    Source source(text);
     EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&source), 0, Feed};
     send(EM_STREAMIN, kUnicodeText, reinterpret_cast<LPARAM>(&stream));
     select(0, 0);

@@ -22,11 +22,18 @@ namespace {
 constexpr int kLeft = 180;  // twips
 constexpr int kTop = 160;
 
-// Opens the start document. False when the file cannot be read.
-bool OpenStartDocument(MainWindow& main, const std::string& path) {
-    if (!path.empty()) return files::OpenFile(main, path) != nullptr;
-    OnFileNew(main, 0);
-    return true;
+// Opens the start document and gives why that cannot be done; nothing when it is open.
+std::string OpenStartDocument(MainWindow& main, const std::string& path) {
+    try {
+        if (path.empty()) {
+            OnFileNew(main, 0);
+        } else if (!files::OpenFile(main, path)) {
+            return "Unable to open File";
+        }
+        return {};
+    } catch (const document::PageTooLarge& error) {
+        return error.what();
+    }
 }
 
 // The recent files. A first start greets, unless it has a file to show or to tell of.
@@ -45,11 +52,11 @@ void LoadAll(MainWindow& main, const std::string& file) {
     mTemplateLoad::ShowTemplateMenu(main);
     // The window comes up with its page in it, so that all is painted once.
     const std::string path = modPubFuncs::FileExists(file) ? file : std::string();
-    const bool opened = OpenStartDocument(main, path);
+    const std::string problem = OpenStartDocument(main, path);
     ::ShowWindow(main.mainHwnd(), SW_SHOWDEFAULT);
-    FillRecentFiles(main, path, opened);
-    if (!opened) {
-        win::ShowMessage(main.mainHwnd(), "Unable to open File", "Quillon Note:");
+    FillRecentFiles(main, path, problem.empty());
+    if (!problem.empty()) {
+        win::ShowMessage(main.mainHwnd(), problem, "Quillon Note:");
     } else if (!path.empty()) {
         basMRU::AddRecentFile(main, path);
     }
