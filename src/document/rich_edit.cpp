@@ -13,17 +13,13 @@ namespace {
 constexpr LONG kTextLimit = 0x7FFFFFFE;
 constexpr WPARAM kUnicodeText = SF_TEXT | SF_UNICODE;
 
-// What is left of the process's address space, in megabytes.
+// What is left of the process's address space, in megabytes. Some versions of the system do not count what is
+// reserved and was never touched.
 double AddressSpaceLeft() {
-    double left = 0;
-    MEMORY_BASIC_INFORMATION region{};
-    for (const BYTE* at = nullptr; ::VirtualQuery(at, &region, sizeof region) != 0;) {
-        if (region.State == MEM_FREE) left += static_cast<double>(region.RegionSize) / (1 << 20);
-        const BYTE* next = static_cast<const BYTE*>(region.BaseAddress) + region.RegionSize;
-        if (next <= at) break;
-        at = next;
-    }
-    return left;
+    MEMORYSTATUSEX memory{};
+    memory.dwLength = sizeof memory;
+    ::GlobalMemoryStatusEx(&memory);
+    return static_cast<double>(memory.ullAvailVirtual) / (1 << 20);
 }
 
 struct Source {
@@ -39,7 +35,7 @@ struct Source {
 // The control does not get over it when its memory ends. When it has the text, or is given no more of it, it
 // lays out the rows of what it has, which takes some versions up to eight times as much again.
 bool MemoryWillEnd(const Source& source) {
-    constexpr double kRest = 160;  // megabytes, for all else
+    constexpr double kRest = 256;  // megabytes, for all else
     constexpr double kWithRows = 9;
     constexpr double kTelling = 128;  // below that the heap's own steps hide what a character takes
     const double used = source.leftBefore - AddressSpaceLeft();

@@ -95,6 +95,7 @@ using Copy = HOOK(CopyFileW);
 using Write = HOOK(WriteFile);
 using Close = HOOK(CloseHandle);
 using Box = HOOK(MessageBoxW);
+using MemoryStatus = HOOK(GlobalMemoryStatusEx);
 using Find = READ_HOOK(FindFirstFileW);
 
 template <typename... Hooks>
@@ -152,6 +153,12 @@ int WINAPI Answer(HWND owner, LPCWSTR text, LPCWSTR title, UINT style) {
     state->said.push_back(Narrow(text));
     State::now = state;
     return (style & MB_YESNO) == MB_YESNO ? state->answer : IDOK;
+}
+
+BOOL WINAPI Shrinking(MEMORYSTATUSEX* memory) {
+    static unsigned asked = 0;
+    memory->ullAvailVirtual = (1000ULL - 100 * (asked++ % 10)) << 20U;
+    return TRUE;
 }
 
 class Hooked {
@@ -219,6 +226,13 @@ int FailEachCall(const FaultyWork& test) {
         }
     }
     return faults;
+}
+
+std::vector<std::string> SaidWhileMemoryShrinks(const std::function<void()>& work) {
+    MemoryStatus::put(Shrinking);
+    const auto said = SaidBy(work);
+    MemoryStatus::restore();
+    return said;
 }
 
 std::vector<std::string> SaidBy(const std::function<void()>& work) {
