@@ -139,17 +139,6 @@ void Quillon::chooseFile(const std::string& title, const std::string& path, bool
     seen::Until([dialog] { return !::IsWindow(dialog); });
 }
 
-std::string TemplatePath(const std::string& name) {
-    const std::string exe = Environment("QUILLON_EXE");
-    return exe.substr(0, exe.rfind('\\')) + "\\Templates\\" + name;
-}
-
-void RemoveTemplate(const std::string& name) {
-    ::SetFileAttributesA(TemplatePath(name).c_str(), FILE_ATTRIBUTE_NORMAL);
-    ::DeleteFileA(TemplatePath(name).c_str());
-    ::RemoveDirectoryA(TemplatePath("").c_str());
-}
-
 int EnvironmentNumber(const char* name, int otherwise) {
     const std::string text = Environment(name);
     return text.empty() ? otherwise : std::atoi(text.c_str());

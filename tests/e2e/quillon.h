@@ -56,11 +56,6 @@ class Quillon {
 // Deletes what killed programs have left to be brought back.
 void ForgetCopies();
 
-// A file in the folder of the templates, which lies beside the program.
-std::string TemplatePath(const std::string& name);
-// The folder goes with its last file.
-void RemoveTemplate(const std::string& name);
-
 // A number from the environment of the test run.
 int EnvironmentNumber(const char* name, int otherwise);
 

@@ -20,10 +20,15 @@ HWND FirstOf(const std::vector<HWND>& windows, const std::function<bool(HWND)>& 
     return found == windows.end() ? nullptr : *found;
 }
 
-bool BelongsTo(HWND window, DWORD process) {
-    DWORD owner = 0;
-    ::GetWindowThreadProcessId(window, &owner);
-    return owner == process;
+std::vector<HWND> WindowsOf(DWORD process) {
+    std::vector<HWND> windows;
+    ::EnumWindows(Collect, reinterpret_cast<LPARAM>(&windows));
+    std::erase_if(windows, [process](HWND window) {
+        DWORD owner = 0;
+        ::GetWindowThreadProcessId(window, &owner);
+        return owner != process;
+    });
+    return windows;
 }
 
 // The system's own counter answers 0 in Wine; the table that every process has of its objects is the same in
@@ -53,10 +58,7 @@ int GdiObjects(HANDLE process, DWORD id) {
 
 Holdings HeldBy(DWORD process) {
     Holdings held;
-    std::vector<HWND> windows;
-    ::EnumWindows(Collect, reinterpret_cast<LPARAM>(&windows));
-    std::erase_if(windows, [process](HWND window) { return !BelongsTo(window, process); });
-    for (const HWND window : windows) held.windows += 1 + static_cast<int>(Below(window).size());
+    for (const HWND window : WindowsOf(process)) held.windows += 1 + static_cast<int>(Below(window).size());
     const HANDLE handle = ::OpenProcess(PROCESS_ALL_ACCESS, FALSE, process);
     held.gdi = GdiObjects(handle, process);
     PROCESS_MEMORY_COUNTERS memory{};
@@ -90,11 +92,9 @@ RECT PlaceOf(HWND window) {
 }
 
 std::vector<HWND> TopLevel(DWORD process) {
-    std::vector<HWND> all;
-    ::EnumWindows(Collect, reinterpret_cast<LPARAM>(&all));
-    std::erase_if(
-        all, [process](HWND window) { return !::IsWindowVisible(window) || !BelongsTo(window, process); });
-    return all;
+    std::vector<HWND> windows = WindowsOf(process);
+    std::erase_if(windows, [](HWND window) { return !::IsWindowVisible(window); });
+    return windows;
 }
 
 std::vector<HWND> Below(HWND parent) {

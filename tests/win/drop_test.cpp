@@ -59,13 +59,9 @@ TEST_F(DropTest, WhatGivesNoTagIsToldAndTheRestGoesOn) {
                                         unknown, unknown, error, unknown}));
     EXPECT_EQ(pageText(), tag("c.gif"));
     EXPECT_EQ(said([&] { drop(page, {}), win::RunPending(); }, "Quillon"), "Unknown Object");
-}
-
-TEST_F(DropTest, AMessageOfAnotherProgramIsNoDrop) {
-    const frmChild& page = newPage("page");
     ::SendMessageA(page.txtPad().hwnd(), win::kDropped, 1, 0x1234);
     win::RunPending();
-    EXPECT_EQ(pageText(), "page");
+    EXPECT_EQ(pageText(), tag("c.gif")) << "a message of another program is no drop";
 }
 
 }  // namespace

@@ -38,10 +38,6 @@ void FtpTest::addSite(const std::string& url, const std::string& name, const std
     ftp::Apply(ftp::AddSite(ftp::ReadSections(), site).changes);
 }
 
-std::string FtpTest::onServer(const std::string& name) {
-    return Environment("QUILLON_FTP_FOLDER") + "\\own\\" + name;
-}
-
 HWND FtpTest::openHonest(const std::vector<std::string>& files) {
     DeleteTree(onServer(""));
     ::CreateDirectoryA(onServer("").c_str(), nullptr);
@@ -69,10 +65,6 @@ HWND FtpTest::openScripted(const std::string& behaviour) {
     return ftpWindow();
 }
 
-std::string FtpTest::saidToClick(int id, const std::string& title) {
-    return said([&] { click(id); }, title);
-}
-
 std::string FtpTest::saidToDrop(std::vector<std::string> files, const std::string& title) {
     const auto drop = [&] {
         win::SendDropped(control(lstRemoteFiles), files);
@@ -93,14 +85,6 @@ void FtpTest::savePage(const std::string& name, const std::string& text) {
     newPage(text);
     writeFile(scratch(name), text);
     active().setTag(scratch(name));
-}
-
-HWND FtpTest::ftpWindow() {
-    return seen::Titled(::GetCurrentProcessId(), kFtpTitle);
-}
-
-std::string FtpTest::told() {
-    return readFile(Environment("QUILLON_FTP_LOG"));
 }
 
 std::string FtpTest::lines() {

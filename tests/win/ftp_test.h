@@ -25,18 +25,22 @@ class FtpTest : public AppTest {
     HWND reopen();  // the first site as it is stored
     HWND openScripted(const std::string& behaviour);
     // Null when there is none.
-    static HWND ftpWindow();
+    static HWND ftpWindow() { return window(kFtpTitle); }
     // What the scripted server was told since the test's start, a command a line.
-    static std::string told();
+    static std::string told() { return readFile(Environment("QUILLON_FTP_LOG")); }
 
     // A file of the folder that openHonest() starts in, as the server's disk has it.
-    static std::string onServer(const std::string& name);
+    static std::string onServer(const std::string& name) {
+        return Environment("QUILLON_FTP_FOLDER") + "\\own\\" + name;
+    }
 
     static HWND control(int id) { return ::GetDlgItem(ftpWindow(), id); }
     static std::string textOf(int id) { return seen::TextOf(control(id)); }
     static void click(int id) { ::SendMessageA(control(id), BM_CLICK, 0, 0); }
     // Clicks, and gives what the message box with this title then says.
-    static std::string saidToClick(int id, const std::string& title);
+    static std::string saidToClick(int id, const std::string& title) {
+        return said([id] { click(id); }, title);
+    }
     // The same for files that are dropped on the list.
     static std::string saidToDrop(std::vector<std::string> files, const std::string& title);
     // Chooses a command of the list's menus for a line, and gives what the last dialog then says.

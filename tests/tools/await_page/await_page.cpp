@@ -11,28 +11,14 @@ bool IsPainted(HWND window) {
     return !::IsWindowVisible(window) || !::GetUpdateRect(window, nullptr, FALSE);
 }
 
-BOOL CALLBACK LookAt(HWND window, LPARAM found) {
-    char caption[16] = "";
-    ::GetWindowTextA(window, caption, sizeof caption);
-    const std::vector<HWND> controls = seen::Below(window);
-    if (!std::string(caption).starts_with("Quillon") || !::IsWindowVisible(window) || !IsPainted(window) ||
-        !seen::ChildOfClass(window, "RICHEDIT") ||
-        !std::all_of(controls.begin(), controls.end(), IsPainted)) {
-        return TRUE;
-    }
-    *reinterpret_cast<bool*>(found) = true;
-    return FALSE;
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
-    bool found = false;
-    seen::Until(
-        [&] {
-            ::EnumWindows(LookAt, reinterpret_cast<LPARAM>(&found));
-            return found;
-        },
-        argc > 1 ? std::strtoul(argv[1], nullptr, 10) * 1000 : 30000);
-    return found ? 0 : 1;
+    const auto stands = [] {
+        const HWND editor = ::FindWindowA("frmNotePad", nullptr);
+        const std::vector<HWND> controls = seen::Below(editor);
+        return ::IsWindowVisible(editor) && IsPainted(editor) && seen::ChildOfClass(editor, "RICHEDIT") &&
+               std::all_of(controls.begin(), controls.end(), IsPainted);
+    };
+    return seen::Until(stands, argc > 1 ? std::strtoul(argv[1], nullptr, 10) * 1000 : 30000) ? 0 : 1;
 }
