@@ -6,7 +6,6 @@
 #include "document/system_code_pages.h"
 #include "files/page_writer.h"
 #include "win/app_test.h"
-#include "win/clipboard.h"
 #include "win/message_loop.h"
 
 namespace {
@@ -231,25 +230,6 @@ TEST_F(PageTest, CutPasteAndUndo) {
     active().selectAll();
     ::SendMessageA(active().txtPad().hwnd(), WM_PASTE, 0, 0);
     EXPECT_EQ(pageText(), "{\\rtf1 \\b bold}") << "characters only";
-}
-
-TEST_F(PageTest, ClosingAsksOnlyForAChangedPageAndSavesTheOneItAsksAbout) {
-    newPage("unchanged");
-    run(mnuFileClose);
-    EXPECT_TRUE(main().documents().empty());
-
-    const std::string path = scratch("asked.htm");
-    newPage("asked").setCaption("asked.htm");
-    type("x");
-    frmChild* asked = &active();
-    newPage("in front");
-    const auto close = [&] { ::SendMessageA(asked->hwnd(), WM_CLOSE, 0, 0); };
-    EXPECT_EQ(
-        User::hears(close, {User::press("Quillon", IDYES), User::chooseFile("Save File As...", path)})[0],
-        "ASKED.HTM has changed since last saved...(or has not yet been saved.)\r\n\r\n"
-        "                     Would you like to save that file now?\r\n\r\n");
-    EXPECT_EQ(readFile(path), "xasked\r\n");
-    EXPECT_EQ(main().documents().size(), 1U);
 }
 
 TEST_F(PageTest, APageThatClosesUnsavedAfterAllIsOnTheClipboard) {
