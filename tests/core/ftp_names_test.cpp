@@ -3,7 +3,6 @@
 #include <array>
 #include <utility>
 
-#include "files/core/device_name.h"
 #include "ftp/core/password.h"
 #include "ftp/core/remote_names.h"
 #include "ftp/core/server_text.h"
@@ -137,15 +136,6 @@ TEST(ProposedLocalName, StaysInTheDialogsFolderAndHoldsNothingThatWindowsForbids
     EXPECT_EQ(ProposedLocalName(std::string(ftp::kMaxLocalName - 1, 'x') + "é"),
               std::string(ftp::kMaxLocalName - 1, 'x'))
         << "no half letters";
-}
-
-TEST(DeviceName, IsOneWhateverFollowsIt) {
-    for (const char* device :
-         {"con", "CONIN$", "Aux .tar.gz", "com1.txt", "LPT9", "lpt\u00B9", "COM\u00B3.a"})
-        EXPECT_TRUE(files::IsDeviceName(device)) << device;
-    for (const char* file :
-         {"", "COM", "COM0", "lpt0.txt", "COM10", "CLOCK$", "console", "xCON", "COM\u2074"})
-        EXPECT_FALSE(files::IsDeviceName(file)) << file;
 }
 
 }  // namespace

@@ -55,24 +55,11 @@ class IconvCodePages : public document::CodePages {
 
  private:
     static const char* NameOf(unsigned codePage) {
-        switch (codePage) {
-            case 37:
-                return "IBM037";
-            case 932:
-                return "CP932";
-            case 936:
-                return "CP936";
-            case 950:
-                return "CP950";
-            case 1251:
-                return "CP1251";
-            case 1252:
-                return "CP1252";
-            case 54936:
-                return "GB18030";
-            default:
-                return nullptr;
-        }
+        static const std::map<unsigned, const char*> names{
+            {37, "IBM037"},   {932, "CP932"},   {936, "CP936"},    {950, "CP950"},
+            {1251, "CP1251"}, {1252, "CP1252"}, {54936, "GB18030"}};
+        const auto name = names.find(codePage);
+        return name == names.end() ? nullptr : name->second;
     }
 
     // With the substitute for each byte or unit of the input that is no character.

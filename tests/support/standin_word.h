@@ -20,14 +20,7 @@ class StandinWord {
 
     // Has it run before anybody asks for it. True when it does.
     bool start() const {
-        STARTUPINFOA info{};
-        PROCESS_INFORMATION process{};
-        std::string command = command_;
-        if (!::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &info,
-                              &process))
-            return false;
-        ::CloseHandle(process.hThread);
-        ::CloseHandle(process.hProcess);
+        if (::WinExec(command_.c_str(), SW_SHOWNORMAL) <= 31) return false;
         return seen::Until([] {
             IUnknown* active = nullptr;
             if (SUCCEEDED(::GetActiveObject(kWordClass, nullptr, &active))) active->Release();

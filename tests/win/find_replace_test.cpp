@@ -1,5 +1,4 @@
 #include "win/app_test.h"
-#include "win/clipboard.h"
 #include "win/message_loop.h"
 
 namespace {

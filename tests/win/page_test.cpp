@@ -6,7 +6,6 @@
 #include "document/system_code_pages.h"
 #include "files/page_writer.h"
 #include "win/app_test.h"
-#include "win/clipboard.h"
 #include "win/failing_calls.h"
 #include "win/message_loop.h"
 

@@ -1,7 +1,6 @@
 #include "files/modPubFuncs.h"
 #include "support/standin_browser.h"
 #include "win/app_test.h"
-#include "win/clipboard.h"
 #include "win/message_loop.h"
 
 namespace {
@@ -27,7 +26,7 @@ class PreviewTest : public AppTest {
         EXPECT_NE(shown.find('\\' + name), std::string::npos) << shown;
     }
     std::string shownPage() const { return browser_->page(); }
-    bool copyIsThere() { return modPubFuncs::FileExists(scratch("$$index.htm")); }
+    bool copyIsThere() { return modPubFuncs::FileExists(scratch("$$my index.htm")); }
     // The wait is over before its time.
     static void passTime() {
         if (const HWND wait = ::FindWindowA("modPreview", nullptr)) ::SendMessageA(wait, WM_TIMER, 1, 0);
@@ -38,7 +37,7 @@ class PreviewTest : public AppTest {
 };
 
 TEST_F(PreviewTest, AnEditedPageIsShownFromACopyThatGoesAfterThreeSeconds) {
-    const frmChild& page = openPage("index.htm", "<P>saved", "new ");
+    const frmChild& page = openPage("my index.htm", "<P>saved", "new ");
     const DWORD start = ::GetTickCount();
     run(tbrPreview);
     EXPECT_LT(::GetTickCount() - start, 2500U) << "the window is not held up";
@@ -49,42 +48,34 @@ TEST_F(PreviewTest, AnEditedPageIsShownFromACopyThatGoesAfterThreeSeconds) {
     }));
     EXPECT_GE(::GetTickCount() - start, 2900U);
     EXPECT_EQ(shownPage(), "new <P>saved\r\n");
-    EXPECT_EQ(readFile(scratch("index.htm")), "<P>saved");
+    EXPECT_EQ(readFile(scratch("my index.htm")), "<P>saved");
     EXPECT_TRUE(page.txtPad().isChanged()) << "the edits are still unsaved";
 }
 
 TEST_F(PreviewTest, AnUnchangedPageIsShownFromItsOwnFile) {
-    openPage("index.htm", "<P>saved");
-    preview("index.htm");
+    openPage("my index.htm", "<P>saved");
+    preview("my index.htm");
     passTime();
-    EXPECT_EQ(readFile(scratch("index.htm")), "<P>saved");
+    EXPECT_EQ(readFile(scratch("my index.htm")), "<P>saved");
     run(mnuFileSave);
-    preview("index.htm");
+    preview("my index.htm");
     // Written by another program meanwhile: that is not for a preview to undo.
-    writeFile(scratch("index.htm"), "<P>newer\r\n");
-    preview("$$index.htm");
+    writeFile(scratch("my index.htm"), "<P>newer\r\n");
+    preview("$$my index.htm");
     EXPECT_EQ(shownPage(), "<P>saved\r\n");
-    EXPECT_EQ(readFile(scratch("index.htm")), "<P>newer\r\n");
+    EXPECT_EQ(readFile(scratch("my index.htm")), "<P>newer\r\n");
     passTime();
     EXPECT_FALSE(copyIsThere());
 }
 
-TEST_F(PreviewTest, ANameWithoutExtensionAndOneWithBlanksReachTheBrowser) {
-    openPage("my page", "a", "b");
-    preview("$$my page.htm\"");
-    passTime();
-    EXPECT_EQ(readFile(scratch("$$my page.htm")), "(no file)");
-    EXPECT_EQ(readFile(scratch("my page")), "a");
-}
-
 TEST_F(PreviewTest, APreviewDuringAnotherShowsTheNewTextAndHasItsOwnTime) {
-    openPage("index.htm", "1", "2");
-    preview("$$index.htm");
+    openPage("my index.htm", "1", "2");
+    preview("$$my index.htm");
     type("3");
-    preview("$$index.htm");
+    preview("$$my index.htm");
     EXPECT_EQ(shownPage(), "231\r\n");
     {
-        const win::UniqueFile held = hold(scratch("$$index.htm"), FILE_SHARE_READ);
+        const win::UniqueFile held = hold(scratch("$$my index.htm"), FILE_SHARE_READ);
         passTime();
         EXPECT_TRUE(copyIsThere()) << "somebody is still at it";
     }
@@ -94,29 +85,29 @@ TEST_F(PreviewTest, APreviewDuringAnotherShowsTheNewTextAndHasItsOwnTime) {
 }
 
 TEST_F(PreviewTest, AFileOfTheAuthorsIsNeitherWrittenNorDeleted) {
-    openPage("index.htm", "1", "2");
-    writeFile(scratch("$$index.htm"), "the author's");
-    preview("$$$index.htm");
+    openPage("my index.htm", "1", "2");
+    writeFile(scratch("$$my index.htm"), "the author's");
+    preview("$$$my index.htm");
     // Over our copy, while the browser has it.
-    writeFile(scratch("$$$index.htm"), "the author's own");
+    writeFile(scratch("$$$my index.htm"), "the author's own");
     passTime();
-    EXPECT_EQ(readFile(scratch("$$index.htm")), "the author's");
-    EXPECT_EQ(readFile(scratch("$$$index.htm")), "the author's own");
+    EXPECT_EQ(readFile(scratch("$$my index.htm")), "the author's");
+    EXPECT_EQ(readFile(scratch("$$$my index.htm")), "the author's own");
     EXPECT_FALSE(::FindWindowA("modPreview", nullptr));
-    preview("$$$$index.htm");
-    ::DeleteFileA(scratch("$$$$index.htm").c_str());
+    preview("$$$$my index.htm");
+    ::DeleteFileA(scratch("$$$$my index.htm").c_str());
     passTime();
     EXPECT_FALSE(::FindWindowA("modPreview", nullptr)) << "a copy that has gone is not waited for";
     // Unchanged, but its file has gone: that is not made anew.
     active().txtPad().setChanged(false);
-    ::DeleteFileA(scratch("index.htm").c_str());
-    preview("$$$$index.htm");
-    EXPECT_EQ(readFile(scratch("index.htm")), "(no file)");
+    ::DeleteFileA(scratch("my index.htm").c_str());
+    preview("$$$$my index.htm");
+    EXPECT_EQ(readFile(scratch("my index.htm")), "(no file)");
 }
 
 TEST_F(PreviewTest, TheCopyGoesWithTheProgram) {
-    frmChild& page = openPage("index.htm", "1", "2");
-    preview("$$index.htm");
+    frmChild& page = openPage("my index.htm", "1", "2");
+    preview("$$my index.htm");
     page.txtPad().setChanged(false);
     ::SendMessageA(page.hwnd(), WM_CLOSE, 0, 0);
     EXPECT_TRUE(copyIsThere()) << "the page may go before";
@@ -126,7 +117,7 @@ TEST_F(PreviewTest, TheCopyGoesWithTheProgram) {
 
 TEST_F(PreviewTest, ABrowserThatIsMissingOrDoesNotStartIsTold) {
     use("");
-    openPage("index.htm", "1", "2");
+    openPage("my index.htm", "1", "2");
     run(tbrPreview);
     EXPECT_TRUE(copyIsThere());
     EXPECT_EQ(
@@ -137,7 +128,7 @@ TEST_F(PreviewTest, ABrowserThatIsMissingOrDoesNotStartIsTold) {
     // No plain executable is found, but the shell knows how to open the page.
     ::SetEnvironmentVariableA("PATH", (Environment("PATH") + ';' + ToolPath("")).c_str());
     use("standin_browser");
-    preview("$$index.htm");
+    preview("$$my index.htm");
     passTime();
     writeFile(scratch("broken.exe"), "no program");
     use(scratch("broken.exe"));
@@ -149,7 +140,7 @@ TEST_F(PreviewTest, WithNowhereToWriteThereIsOneMessage) {
     newPage("untitled");
     EXPECT_EQ(said(tbrPreview), kFailure);
     ::CreateDirectoryA(scratch("gone").c_str(), nullptr);
-    const frmChild& page = openPage("gone\\index.htm", "1", "2");
+    const frmChild& page = openPage("gone\\my index.htm", "1", "2");
     DeleteTree(scratch("gone"));
     EXPECT_EQ(said(tbrPreview), kFailure);
     EXPECT_EQ(pageText(), "21");

@@ -153,14 +153,4 @@ TEST_F(RecoveryTest, WhatAProgramOfTheSameNumberHasLeftComesBackAndIsNotWrittenO
     EXPECT_EQ(later.takeOver().size(), 2U);
 }
 
-TEST_F(RecoveryTest, TheEndOfTheSessionAsksNothingAndChangesNothing) {
-    changedPage();
-    EXPECT_EQ(::SendMessageW(main().mainHwnd(), WM_QUERYENDSESSION, 0, 0), TRUE);
-    ::SendMessageW(main().mainHwnd(), WM_ENDSESSION, FALSE, 0);
-    EXPECT_EQ(main().documents().size(), 1U);
-    EXPECT_TRUE(active().isChanged());
-    files::Recovery next(main().temporaryFolder());
-    EXPECT_TRUE(next.takeOver().empty()) << "it still runs";
-}
-
 }  // namespace

@@ -81,16 +81,4 @@ TEST_F(TagsTest, TheDateIsTodays) {
     expectReplacedBy(isOfBefore ? before : today());  // at midnight it may be either
 }
 
-TEST_F(TagsTest, AnInsertAnUndoAndASaveKeepEveryByteOfThePage) {
-    const std::string page = "<BODY>\r\n\tcaf\u00E9 \u20AC\u00FF\r\n\r\n</BODY>";
-    openPage("page.htm", page).txtPad().select(8, 8);
-    run(mnuTagsLsList);
-    EXPECT_EQ(pageText(),
-              "<BODY>\r\n" + std::string(authoring::TagFragment(TagMenu::Ls, 0)) + page.substr(8));
-    run(mnuEditUndo);
-    EXPECT_EQ(pageText(), page);
-    run(mnuFileSave);
-    EXPECT_EQ(readFile(scratch("page.htm")), page + "\r\n");
-}
-
 }  // namespace

@@ -162,7 +162,7 @@ TEST_F(TemplateTest, AStartHidesWhatHasNoFileAndOnlyRebuildingDropsIt) {
     EXPECT_EQ(ids(), "---------");
 }
 
-TEST_F(TemplateTest, ATemplateIsRenamedInTheMenuOnly) {
+TEST_F(TemplateTest, ATemplateIsRenamedInTheMenuOnlyAndDeletedWithItsFileUnlessThatIsCalledOff) {
     add("one.htm", "One");
     add("two.htm", "Two");
     const auto enterNothing = [](HWND dialog) {
@@ -188,11 +188,6 @@ TEST_F(TemplateTest, ATemplateIsRenamedInTheMenuOnly) {
     run(mnuOptsTempList + 1);
     EXPECT_EQ(active().Caption(), "Uno");
     EXPECT_EQ(pageText(), "page\r\n");
-}
-
-TEST_F(TemplateTest, DeletingTakesTheFileTooUnlessItIsCalledOff) {
-    add("one.htm", "One");
-    add("two.htm", "Two");
     const auto enterAgain = [](HWND dialog) {
         EXPECT_EQ(attributes("two.htm"), kReadOnly);
         Press(dialog, "Enter");
@@ -201,7 +196,7 @@ TEST_F(TemplateTest, DeletingTakesTheFileTooUnlessItIsCalledOff) {
               User::press("Confirm file deletion", IDNO),
               {kOrganize, enterAgain},
               User::press("Confirm file deletion", IDYES)});
-    EXPECT_EQ(ids(), "One,--------");
+    EXPECT_EQ(ids(), "Uno,--------");
     EXPECT_EQ(attributes("two.htm"), INVALID_FILE_ATTRIBUTES);
     EXPECT_EQ(attributes("one.htm"), kReadOnly);
 }
