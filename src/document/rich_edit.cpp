@@ -1,5 +1,9 @@
 #include "document/rich_edit.h"
 
+#include "win/windows.h"
+
+#include <psapi.h>
+
 #include <algorithm>
 #include <cstring>
 
@@ -13,13 +17,23 @@ namespace {
 constexpr LONG kTextLimit = 0x7FFFFFFE;
 constexpr WPARAM kUnicodeText = SF_TEXT | SF_UNICODE;
 
-// What is left of the process's address space, in megabytes. Some versions of the system do not count what is
-// reserved and was never touched.
+constexpr double kMegabyte = 1 << 20;
+
+// What is left of the process's address space, in megabytes.
 double AddressSpaceLeft() {
     MEMORYSTATUSEX memory{};
     memory.dwLength = sizeof memory;
     ::GlobalMemoryStatusEx(&memory);
-    return static_cast<double>(memory.ullAvailVirtual) / (1 << 20);
+    return static_cast<double>(memory.ullAvailVirtual) / kMegabyte;
+}
+
+// What the process has taken of the system's memory, in megabytes.
+double MemoryTaken() {
+    constexpr win::DelayLoaded<decltype(&::GetProcessMemoryInfo)> kGetMemoryInfo{"psapi.dll",
+                                                                                 "GetProcessMemoryInfo"};
+    PROCESS_MEMORY_COUNTERS counters{};
+    kGetMemoryInfo(::GetCurrentProcess(), &counters, static_cast<DWORD>(sizeof counters));
+    return static_cast<double>(counters.PagefileUsage) / kMegabyte;
 }
 
 struct Source {
@@ -28,17 +42,18 @@ struct Source {
     std::u16string_view rest;
     std::size_t size;  // of the whole
     double leftBefore = AddressSpaceLeft();
+    double takenBefore = MemoryTaken();
     unsigned chunks = 0;
     bool tooLarge = false;
 };
 
 // The control does not get over it when its memory ends. When it has the text, or is given no more of it, it
-// lays out the rows of what it has, which takes some versions up to eight times as much again.
+// lays out the rows of what it has, which takes some versions thirteen times as much again.
 bool MemoryWillEnd(const Source& source) {
     constexpr double kRest = 256;  // megabytes, for all else
-    constexpr double kWithRows = 9;
-    constexpr double kTelling = 128;  // below that the heap's own steps hide what a character takes
-    const double used = source.leftBefore - AddressSpaceLeft();
+    constexpr double kWithRows = 14;
+    constexpr double kTelling = 24;  // below that the heap's own steps hide what a character takes
+    const double used = MemoryTaken() - source.takenBefore;
     const auto fed = static_cast<double>(source.size - source.rest.size());
     const double whole = used < kTelling ? used : used / fed * static_cast<double>(source.size);
     return source.leftBefore < kRest + whole * kWithRows;

@@ -155,9 +155,8 @@ int WINAPI Answer(HWND owner, LPCWSTR text, LPCWSTR title, UINT style) {
     return (style & MB_YESNO) == MB_YESNO ? state->answer : IDOK;
 }
 
-BOOL WINAPI Shrinking(MEMORYSTATUSEX* memory) {
-    static unsigned asked = 0;
-    memory->ullAvailVirtual = (1000ULL - 100 * (asked++ % 10)) << 20U;
+BOOL WINAPI HardlyAny(MEMORYSTATUSEX* memory) {
+    memory->ullAvailVirtual = 300 << 20;
     return TRUE;
 }
 
@@ -228,8 +227,8 @@ int FailEachCall(const FaultyWork& test) {
     return faults;
 }
 
-std::vector<std::string> SaidWhileMemoryShrinks(const std::function<void()>& work) {
-    MemoryStatus::put(Shrinking);
+std::vector<std::string> SaidWhileMemoryIsShort(const std::function<void()>& work) {
+    MemoryStatus::put(HardlyAny);
     const auto said = SaidBy(work);
     MemoryStatus::restore();
     return said;

@@ -34,5 +34,5 @@ int FailEachCall(const FaultyWork& test);
 
 // Does the work once with nothing failing but what fails by itself, and gives what message boxes said.
 std::vector<std::string> SaidBy(const std::function<void()>& work);
-// The same, while of 1,000 MB of address space 100 MB less are left each time that somebody asks.
-std::vector<std::string> SaidWhileMemoryShrinks(const std::function<void()>& work);
+// The same, while hardly any address space is left.
+std::vector<std::string> SaidWhileMemoryIsShort(const std::function<void()>& work);

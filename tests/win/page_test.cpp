@@ -165,7 +165,7 @@ TEST_F(PageTest, ShiftAndEnterEndALine) {
 TEST_F(PageTest, APageThatTheMemoryDoesNotLastForIsTold) {
     newPage("the other page");
     writeFile(scratch("large.htm"), std::string(1000000, '\n'));
-    const auto said = SaidWhileMemoryShrinks(
+    const auto said = SaidWhileMemoryIsShort(
         [&] { heard([&] { run(mnuFileOpen); }, {User::chooseFile("Open File...", scratch("large.htm"))}); });
     ASSERT_EQ(said.size(), 1U);
     EXPECT_EQ(said[0].substr(0, said[0].find(':')), "large.htm (1000000 bytes) is too large to be opened");
