@@ -1,4 +1,4 @@
-// Dragging files or text out of this process with the mouse.
+// Dragging files out of this process with the mouse.
 #pragma once
 
 #include <atomic>

@@ -47,7 +47,11 @@ TEST_F(PublishingTest, APageIsPublishedChangedAndFetchedAgain) {
     quillon.choose(mnuUploadFile);
     upload(quillon);
     const std::string changed = "<!-- new -->" + onServer() + "\n";  // a save adds a line end
-    ::SetForegroundWindow(quillon.window());
+    // The FTP window takes the keyboard back when its message has gone.
+    ASSERT_TRUE(isReady(quillon));
+    EXPECT_TRUE(seen::Until([&] {
+        return ::SetForegroundWindow(quillon.window()) && ::GetForegroundWindow() == quillon.window();
+    }));
     quillon.typeText("<!-- new -->");
     ASSERT_TRUE(seen::Until([&] { return quillon.pageText().substr(0, 12) == "<!-- new -->"; }));
     quillon.pressKey('S', true);

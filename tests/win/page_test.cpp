@@ -286,21 +286,4 @@ TEST_F(PageTest, ACloseWhileABoxWaitsIsIgnoredAndExitAsksForEveryChangedPage) {
     EXPECT_FALSE(::IsWindow(window));
 }
 
-TEST_F(PageTest, ManyPagesLeaveNothingBehind) {
-    for (int i = 0; i < 5; ++i) {
-        newPage("warm");
-        run(mnuFileClose);
-    }
-    const seen::Holdings before = seen::HeldBy(::GetCurrentProcessId());
-    ASSERT_GT(before.gdi, 0);
-    for (int i = 0; i < 200; ++i) {
-        newPage("page");
-        run(mnuFileClose);
-        win::RunPending();
-    }
-    const seen::Holdings after = seen::HeldBy(::GetCurrentProcessId());
-    EXPECT_LE(after.windows, before.windows);
-    EXPECT_LE(after.gdi, before.gdi);
-}
-
 }  // namespace
