@@ -3,9 +3,9 @@
 #include "shell/frmNotePad.h"
 #include "shell/modPrevious.h"
 #include "shell/start_up.h"
-#include "win/system_dll.h"
 #include "win/message_box.h"
 #include "win/message_loop.h"
+#include "win/system_dll.h"
 
 namespace {
 

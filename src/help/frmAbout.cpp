@@ -6,9 +6,9 @@
 #include "forms/frmAbout.h"
 #include "help/core/links.h"
 #include "win/error.h"
-#include "win/system_dll.h"
 #include "win/shell_open.h"
 #include "win/system_colours.h"
+#include "win/system_dll.h"
 #include "win/unicode.h"
 #include "win/window.h"
 

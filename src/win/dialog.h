@@ -67,7 +67,7 @@ class Dialog {
     HWND hwnd_ = nullptr;
     bool modal_ = false;
     std::optional<std::string> failure_;  // of onInit()
-    int depth_ = 0;  // handlers of this object on the stack
+    int depth_ = 0;                       // handlers of this object on the stack
 };
 
 }  // namespace win

@@ -19,8 +19,8 @@ const std::vector<std::string>* DroppedFiles();
 // Tells a window of a drop.
 void SendDropped(HWND window, const std::vector<std::string>& paths);
 
-// In place of a drop target that the window's class has registered. Where the system refuses, the window takes
-// no drops. It calls RefuseDrops before it goes.
+// In place of a drop target that the window's class has registered. Where the system refuses, the window
+// takes no drops. It calls RefuseDrops before it goes.
 void AcceptDrops(HWND window);
 void RefuseDrops(HWND window);
 
