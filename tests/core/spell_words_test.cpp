@@ -62,7 +62,7 @@ TEST(SpellLanguage, IsThatOfTheFirstTagThatNamesOne) {
         {u"<!-- <p lang=de> --><script language=x>'<p lang=de>'</script><br/><p xml:lang=\"fr\"/>", u"fr"},
         {u"<html lang=\"\"><b title='a > lang=de'><i class=lang data-lang=de><a lang>x < lang=de>", u""},
         {u"<p lang=en_US><p lang=e><p lang='d e'><p lang=\"cy\"", u""},
-        {u"<p lang=en_US><p nowrap lang=x-a><", u"x-a"}};
+        {u"<p lang=en_US><p nowrap/lang=x-a><", u"x-a"}};
     for (const auto& [page, language] : kPages) EXPECT_EQ(PageLanguage(page), language);
 }
 
