@@ -50,7 +50,8 @@ fi
 # configure PRESET [OPTION...]: readies build/PRESET; silent unless CMake complains.
 configure() {
     mkdir -p "$project/build"
-    CMAKE_CXX_COMPILER_LAUNCHER=$(command -v ccache || true) cmake --preset "$@" >"$project/build/configure-$1.log" 2>&1 || die "$(<"$project/build/configure-$1.log")"
+    local log=$project/build/configure-$1.log
+    CMAKE_CXX_COMPILER_LAUNCHER=$(command -v ccache || true) cmake --preset "$@" >"$log" 2>&1 || die "$(<"$log")"
 }
 
 # build_program [TARGET...]: $program, and targets that go with it.

@@ -30,8 +30,8 @@ with_small_disk() {
     fi
 }
 
-# in_windows PROGRAM FILTER [OPTION...]: runs a test program of build/$preset/tests on a display and in a prefix of its
-# own.
+# in_windows PROGRAM FILTER [OPTION...]: runs a test program of build/$preset/tests on a display and in a
+# prefix of its own.
 in_windows() {
     local scratch=$results/$1-scratch
     rm -rf "$scratch"
