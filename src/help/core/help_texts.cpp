@@ -107,7 +107,8 @@ const std::array<Topic, 14> kTopics{{
     {"Change Spying",
      "   Quillon keeps watch over every open page and knows whether it has changed since it was last saved. Close a "
      "changed page, or the whole program with changed pages in it, and you are asked for each one, by its name, "
-     "whether to save it. Unchanged pages close without a word.\r\n\r\n"
+     "whether to save it. Unchanged pages close without a word. Should the program or the machine break off, changed "
+     "pages are there again at the next start.\r\n\r\n"
      "   Yes opens the Save As dialog, so that you can keep the old file and store the new text under another name. "
      "If no file comes of it, the page's text is left on the clipboard. No throws the changes away for good.\r\n\r\n"
      "   The same watch tells Preview whether it needs a copy, and Reset whether there is anything to take back. "
@@ -202,7 +203,8 @@ constexpr auto kButtonWords = std::to_array<const char*>({
     "The Save document Button...\r\n\r\n"
     "   Writes the page to its file. A page that has no file yet, or whose file has been moved, opens the Save As "
     "dialog instead. The line at the bottom of the main window confirms where the page went.\r\n\r\n"
-    "   A saved file always ends with a line break, whether or not the page does. F7 does the same as this button.",
+    "   A saved file always ends with a line break, whether or not the page does, and is in the encoding that the "
+    "page names: write <META CHARSET=\"utf-8\"> into it to have it saved in that. F7 does the same as this button.",
 
     "The Save As document Button...\r\n\r\n"
     "   Writes the page to a file of your choice, and goes on with that file from then on. The former file stays as "
@@ -214,7 +216,7 @@ constexpr auto kButtonWords = std::to_array<const char*>({
     "clipboard's text at the caret or in place of the selected text; it takes the plain text only, so nothing but "
     "characters comes over from a word processor or a browser.\r\n\r\n"
     "   Undo takes back the last step. Count on one step only: use it as soon as you notice a slip. For everything "
-    "since the last save there is Reset.\r\n\r\n"
+    "since the last save there is Reset. Undo takes back Reset, Replace All and the spelling of a page too.\r\n\r\n"
     "   The keys are the usual ones: Ctrl+X, Ctrl+C, Ctrl+V and Ctrl+Z.",
 
     "The Find Button...\r\n\r\n"
