@@ -80,8 +80,9 @@ HANDLE OpenForWriting(const std::wstring& path, DWORD disposition) {
 
 // A copy of a file has its streams and attributes. They are worth a second try, but not a save that fails.
 HANDLE OpenEmptiedCopy(const std::wstring& target, const std::wstring& path) {
-    const bool copied =
-        Persistently([&] { return ::CopyFileW(target.c_str(), path.c_str(), TRUE) != FALSE; });
+    const auto copy = [&] { return ::CopyFileW(target.c_str(), path.c_str(), TRUE) != FALSE; };
+    // A folder that takes no second file is not waited for.
+    const bool copied = copy() || (::GetLastError() != ERROR_ACCESS_DENIED && Persistently(copy));
     if (!copied) return INVALID_HANDLE_VALUE;
     const HANDLE file = OpenForWriting(path, TRUNCATE_EXISTING);
     if (file == INVALID_HANDLE_VALUE) ::DeleteFileW(path.c_str());
