@@ -6,18 +6,16 @@
 #include <utility>
 
 #include "document/core/font_size.h"
-#include "document/page_keys.h"
+#include "document/page_edit.h"
 #include "document/system_code_pages.h"
 #include "settings/CRegSettings.h"
 #include "win/clipboard.h"
-#include "win/drop_target.h"
 #include "win/message_box.h"
 #include "win/message_loop.h"
 #include "win/unicode.h"
 
 namespace {
 
-constexpr int kPadId = 1;
 constexpr char kDefaultFace[] = "Courier New";
 
 // Posted to a document: something was dropped onto its page.
@@ -37,89 +35,6 @@ std::string UpperCase(const std::string& text) {
 }
 
 }  // namespace
-
-// The page's control, with the keys that the page treats in its own way.
-class frmChild::Pad : public document::RichEdit {
- public:
-    explicit Pad(frmChild& page) : page_(page) {}
-
- private:
-    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
-        switch (message) {
-            case WM_KEYDOWN:
-                if (!document::HandleKey(page_, page_.main_, wParam)) break;
-                dropTypedCharacter();
-                return 0;
-            case WM_CHAR:
-            case WM_IME_CHAR:
-                if (wParam == '\t') return 0;
-                if (wParam < 0x80) break;
-                type(static_cast<char16_t>(wParam));
-                return 0;
-            case EM_REPLACESEL:
-                page_.insert(win::AsUtf16(reinterpret_cast<const wchar_t*>(lParam)));
-                return 0;
-            case WM_LBUTTONDOWN:
-                dropSelectionAt(lParam);
-                break;
-            case WM_PASTE:
-                page_.kidPaste();
-                return 0;
-            case WM_RBUTTONUP: {
-                POINT at{};
-                ::GetCursorPos(&at);
-                document::ShowEditMenu(page_, page_.main_, at);
-                return 0;
-            }
-            case WM_CONTEXTMENU:
-                document::ShowEditMenu(
-                    page_, page_.main_,
-                    {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))});
-                return 0;
-            case win::kDropped:
-                if (!win::DroppedFiles()) return 0;
-                page_.drops_.push_back(page_.main_.filesDropped(page_.id(), *win::DroppedFiles()));
-                ::PostMessageW(page_.hwnd(), kDropsWaiting, 0, 0);
-                return 0;
-            case WM_DESTROY:
-                win::RefuseDrops(hwnd());
-                break;
-            default:
-                break;
-        }
-        return RichEdit::onMessage(message, wParam, lParam);
-    }
-
-    // The control would take a character through the code page. One beyond U+FFFF comes as two messages.
-    void type(char16_t unit) {
-        const bool opensPair = unit >= 0xD800 && unit < 0xDC00;
-        const std::u16string typed = std::exchange(pending_, {}) + unit;
-        if (opensPair) {
-            pending_ = unit;
-        } else {
-            page_.insert(typed);
-        }
-    }
-
-    // A press on selected words would begin to drag them, to nowhere that takes them.
-    void dropSelectionAt(LPARAM point) {
-        const document::Selection selected = selection();
-        if (selected.length() == 0) return;
-        POINTL at{static_cast<short>(LOWORD(point)), static_cast<short>(HIWORD(point))};
-        const long pressed = static_cast<long>(send(EM_CHARFROMPOS, 0, reinterpret_cast<LPARAM>(&at)));
-        if (pressed >= selected.start && pressed < selected.end && ::GetKeyState(VK_SHIFT) >= 0)
-            select(pressed, pressed);
-    }
-
-    // The character of a key that we have dealt with is already in the queue.
-    void dropTypedCharacter() const {
-        MSG typed{};
-        ::PeekMessageW(&typed, hwnd(), WM_CHAR, WM_CHAR, PM_REMOVE);
-    }
-
-    frmChild& page_;
-    std::u16string pending_;  // the first half of a character
-};
 
 frmChild& frmChild::open(MainWindow& main, const std::string& caption, const document::Page& page) {
     WNDCLASSEXW cls{};
@@ -144,9 +59,8 @@ frmChild& frmChild::open(MainWindow& main, const std::string& caption, const doc
 }
 
 std::unique_ptr<document::RichEdit> frmChild::makePad(const document::Font& font) {
-    auto pad = std::make_unique<Pad>(*this);
-    pad->create(hwnd(), kPadId, font);
-    win::AcceptDrops(pad->hwnd());
+    auto pad = std::make_unique<document::PageEdit>(*this, main_);
+    pad->create(font);
     return pad;
 }
 
@@ -303,6 +217,11 @@ void frmChild::kidUndo() {
 
 void frmChild::selectAll() {
     txtPad_->select(0, txtPad_->textLength());
+}
+
+void frmChild::takeDrop(const std::vector<std::string>& paths) {
+    drops_.push_back(main_.filesDropped(id_, paths));
+    ::PostMessageW(hwnd(), kDropsWaiting, 0, 0);
 }
 
 void frmChild::finishDrops() {

@@ -60,6 +60,9 @@ class frmChild : public win::Window {
     void setTab(const std::string& tabText) { tabText_ = tabText; }
     const std::string& tabText() const { return tabText_; }
 
+    // Reads files that were dropped onto the page while their owner waits; the rest is done after that.
+    void takeDrop(const std::vector<std::string>& paths);
+
     // Brings the page to the front; only the left mouse button does that by itself.
     void activate() const;
     void focusPage() const { ::SetFocus(txtPad_->hwnd()); }
@@ -71,7 +74,6 @@ class frmChild : public win::Window {
     bool keepsCopy() const { return keepsCopy_; }
 
  private:
-    class Pad;
     // A page as it was before it was replaced whole.
     struct Step {
         std::unique_ptr<document::RichEdit> pad;

@@ -4,6 +4,7 @@
 
 #include <array>
 
+#include "win/core/ascii.h"
 #include "win/disabled.h"
 #include "win/system_dll.h"
 #include "win/unicode.h"
@@ -12,12 +13,6 @@ namespace files {
 namespace {
 
 using Show = BOOL(WINAPI*)(OPENFILENAMEW*);
-
-std::string Trimmed(std::wstring_view text) {
-    const std::size_t first = text.find_first_not_of(L' ');
-    if (first == std::wstring_view::npos) return {};
-    return win::ToUtf8(text.substr(first, text.find_last_not_of(L' ') - first + 1));
-}
 
 // The dialog makes the folder of what was chosen the program's current one, which then could not be renamed
 // or removed, nor its drive be taken out.
@@ -53,11 +48,12 @@ std::optional<std::string> Ask(const FileDialog& dialog, Show show) {
     record.Flags = dialog.flags;
     const win::Disabled others(dialog.owner);
     const SystemFolderAfter after;
-    if (show(&record)) return Trimmed(path.data());
+    const auto chosen = [&path] { return std::string(win::Trimmed(win::ToUtf8(path.data()))); };
+    if (show(&record)) return chosen();
     // A page may be titled with what is no file name. The system then shows no dialog at all.
     if (::CommDlgExtendedError() != FNERR_INVALIDFILENAME) return std::nullopt;
     path[0] = L'\0';
-    return show(&record) ? std::optional(Trimmed(path.data())) : std::nullopt;
+    return show(&record) ? std::optional(chosen()) : std::nullopt;
 }
 
 }  // namespace

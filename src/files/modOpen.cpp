@@ -7,12 +7,12 @@
 #include <optional>
 
 #include "document/frmChild.h"
+#include "files/atomic_file.h"
 #include "files/basMRU.h"
 #include "files/file_dialog.h"
 #include "files/modPubFuncs.h"
 #include "files/open_file.h"
-#include "files/page_writer.h"
-#include "files/replace_file.h"
+#include "files/page_bytes.h"
 #include "settings/CRegSettings.h"
 #include "win/message_box.h"
 #include "win/message_loop.h"

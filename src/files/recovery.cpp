@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "document/frmChild.h"
+#include "files/atomic_file.h"
 #include "files/mBinOpen.h"
-#include "files/replace_file.h"
 #include "win/unicode.h"
 #include "win/wide_path.h"
 

@@ -17,11 +17,7 @@ constexpr int kFromMainTop = 900;
 }  // namespace
 
 void frmCrypt::open(MainWindow& main) {
-    if (const Dialog* shown = find(main.mainHwnd(), "frmCrypt")) {
-        ::SetForegroundWindow(shown->hwnd());
-    } else {
-        (new frmCrypt(main))->showModeless(main.mainHwnd());
-    }
+    if (!bringForward(main.mainHwnd(), "frmCrypt")) (new frmCrypt(main))->showModeless(main.mainHwnd());
 }
 
 bool frmCrypt::onInit() {

@@ -1,12 +1,11 @@
 #include "ftp/transfers.h"
 
-#include <array>
 #include <utility>
 
 #include "document/system_code_pages.h"
+#include "files/atomic_file.h"
 #include "files/core/path.h"
 #include "ftp/core/server_text.h"
-#include "win/unicode.h"
 #include "win/wide_path.h"
 
 namespace ftp {
@@ -17,21 +16,6 @@ constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELE
 // In bytes: of one file that is read whole, and of all that are sent together.
 constexpr LONGLONG kLargestInMemory = 16 << 20;
 constexpr std::size_t kRoom = 64 << 20;
-
-// Empty when the folder takes no new file.
-std::string NewFileBeside(const std::string& path) {
-    const std::string full = win::FullPath(path);
-    std::array<wchar_t, MAX_PATH> name{};
-    const std::string folder = full.substr(0, full.rfind('\\') + 1);
-    return ::GetTempFileNameW(win::ToWide(folder).c_str(), L"qui", 0, name.data()) ? win::ToUtf8(name.data())
-                                                                                   : std::string();
-}
-
-bool Receive(FtpSession& session, const std::string& remote, const std::wstring& path, TransferType type) {
-    const win::UniqueFile file(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                                             FILE_ATTRIBUTE_NORMAL, nullptr));
-    return file && session.get(remote, file.get(), type);
-}
 
 }  // namespace
 
@@ -91,14 +75,8 @@ Unsent Send(FtpSession& session, std::vector<LocalFile>& files, const std::strin
 }
 
 bool Download(FtpSession& session, const std::string& remote, const std::string& path, TransferType type) {
-    const std::string arriving = NewFileBeside(path);
-    if (arriving.empty()) return false;
-    const std::wstring from = win::WidePath(arriving);
-    const bool done = Receive(session, remote, from, type) &&
-                      ::MoveFileExW(from.c_str(), win::WidePath(path).c_str(),
-                                    MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
-    if (!done) ::DeleteFileW(from.c_str());
-    return done;
+    files::AtomicFile file(path);
+    return file.handle() && session.get(remote, file.handle(), type) && file.commit();
 }
 
 }  // namespace ftp

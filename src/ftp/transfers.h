@@ -46,8 +46,7 @@ struct Unsent {
 // Sends each file into a remote directory until the server has gone: then the rest has failed too.
 Unsent Send(FtpSession& session, std::vector<LocalFile>& files, const std::string& directory);
 
-// True when the file at `path` is the remote file, whole. The bytes arrive in a file beside the target that
-// takes its place in one step at the end; false leaves the target as it was.
+// True when the file at `path` is the remote file, whole; false leaves what was there.
 bool Download(FtpSession& session, const std::string& remote, const std::string& path, TransferType type);
 
 }  // namespace ftp

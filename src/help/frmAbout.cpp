@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "forms/frmAbout.h"
-#include "help/core/links.h"
+#include "win/core/ascii.h"
 #include "win/error.h"
 #include "win/shell_open.h"
 #include "win/system_colours.h"
@@ -59,6 +59,12 @@ void MakeLink(HWND link) {
     ::DefWindowProcW(link, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(caption.c_str()));
 }
 
+// What a link with this caption opens: a mail to the address that an "@" makes of it, or the page itself.
+std::string LinkTarget(const std::string& caption) {
+    const bool isAddress = caption.find('@') != std::string::npos;
+    return isAddress ? "mailto:" + std::string(win::Trimmed(caption)) : caption;
+}
+
 }  // namespace
 
 bool frmAbout::onInit() {
@@ -79,7 +85,7 @@ INT_PTR frmAbout::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_NOTIFY) {
         const auto& notification = *reinterpret_cast<const NMHDR*>(lParam);
         if (notification.code != NM_CLICK && notification.code != NM_RETURN) return FALSE;
-        win::OpenAddress(help::LinkTarget(itemText(static_cast<int>(notification.idFrom))));
+        win::OpenAddress(LinkTarget(itemText(static_cast<int>(notification.idFrom))));
         return TRUE;
     }
     if (message == WM_SYSCOLORCHANGE || message == WM_SETTINGCHANGE)

@@ -48,12 +48,7 @@ LRESULT frmHelp::Words::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 frmHelp::frmHelp() : Dialog(kName), heading_(help::kIntroHeading), text_(help::kIntroWords) {}
 
 void frmHelp::show(MainWindow& main) {
-    if (const Dialog* open = find(main.mainHwnd(), kName)) {
-        ::ShowWindow(open->hwnd(), SW_RESTORE);
-        ::SetActiveWindow(open->hwnd());
-    } else {
-        (new frmHelp)->showModeless(main.mainHwnd());
-    }
+    if (!bringForward(main.mainHwnd(), kName)) (new frmHelp)->showModeless(main.mainHwnd());
 }
 
 bool frmHelp::onInit() {

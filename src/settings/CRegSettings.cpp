@@ -1,18 +1,13 @@
 #include "settings/CRegSettings.h"
 
+#include "win/core/ascii.h"
 #include "win/registry_key.h"
 
 namespace {
 
-std::string Trimmed(const std::string& text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 std::string TrimmedOr(const std::string& text, const char* fallback) {
-    std::string trimmed = Trimmed(text);
-    return trimmed.empty() ? fallback : trimmed;
+    const std::string_view trimmed = win::Trimmed(text);
+    return std::string(trimmed.empty() ? fallback : trimmed);
 }
 
 const char* ValueName(const std::string& key) {

@@ -41,6 +41,14 @@ Dialog* Dialog::find(HWND owner, const char* templateName) {
     return window ? reinterpret_cast<Dialog*>(::GetWindowLongPtrW(window, DWLP_USER)) : nullptr;
 }
 
+Dialog* Dialog::bringForward(HWND owner, const char* templateName) {
+    Dialog* open = find(owner, templateName);
+    if (!open) return nullptr;
+    if (::IsIconic(open->hwnd())) ::ShowWindow(open->hwnd(), SW_RESTORE);
+    ::SetActiveWindow(open->hwnd());
+    return open;
+}
+
 void Dialog::close(INT_PTR result) {
     if (modal_) {
         ::EndDialog(hwnd_, result);

@@ -19,6 +19,8 @@ class Dialog {
 
     // The modeless dialog of this template that was shown last for `owner`; null when it is not open.
     static Dialog* find(HWND owner, const char* templateName);
+    // The same, brought to the front and restored if it is minimised.
+    static Dialog* bringForward(HWND owner, const char* templateName);
 
     // Whether this window is a dialog of ours.
     static bool isDialog(HWND window);

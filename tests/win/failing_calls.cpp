@@ -106,8 +106,8 @@ struct All {
 using Plain = All<HOOK(RegCreateKeyExW), HOOK(RegSetValueExW), HOOK(RegDeleteValueW), HOOK(RegDeleteKeyW),
                   HOOK(SetEndOfFile), HOOK(FlushFileBuffers), HOOK(MoveFileExW), HOOK(DeleteFileW),
                   HOOK(SetFileAttributesW), HOOK(SetFileSecurityW), HOOK(CreateDirectoryW),
-                  HOOK(GetTempFileNameW), READ_HOOK(CreateEventW), READ_HOOK(QueueUserWorkItem),
-                  READ_HOOK(ReadFile), READ_HOOK(GetFileSizeEx), READ_HOOK(FindNextFileW)>;
+                  READ_HOOK(CreateEventW), READ_HOOK(QueueUserWorkItem), READ_HOOK(ReadFile),
+                  READ_HOOK(GetFileSizeEx), READ_HOOK(FindNextFileW)>;
 #undef READ_HOOK
 #undef HOOK
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "files/replace_file.h"
+#include "files/atomic_file.h"
 #include "forms/frmToUp.h"
 #include "forms/frmUpload.h"
 #include "ftp/frmUpload.h"

@@ -4,7 +4,7 @@
 #include "document/core/page_outline.h"
 #include "document/mTxtBoxAPI.h"
 #include "document/system_code_pages.h"
-#include "files/page_writer.h"
+#include "files/page_bytes.h"
 #include "win/app_test.h"
 #include "win/failing_calls.h"
 #include "win/message_loop.h"

@@ -1,10 +1,10 @@
 #include <algorithm>
 
+#include "files/atomic_file.h"
 #include "files/basMRU.h"
 #include "files/core/recent_files.h"
 #include "files/modOpen.h"
 #include "files/open_file.h"
-#include "files/replace_file.h"
 #include "settings/app_settings.h"
 #include "win/app_test.h"
 #include "win/failing_calls.h"

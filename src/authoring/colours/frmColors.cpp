@@ -33,9 +33,8 @@ void MoveToCorner(HWND chart) {
 }  // namespace
 
 void frmColors::open(MainWindow& main) {
-    if (const Dialog* chart = find(main.mainHwnd(), kTemplate)) {
+    if (const Dialog* chart = bringForward(main.mainHwnd(), kTemplate)) {
         MoveToCorner(chart->hwnd());
-        ::SetActiveWindow(chart->hwnd());
     } else {
         (new frmColors(main))->showModeless(main.mainHwnd());
     }

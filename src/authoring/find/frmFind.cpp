@@ -19,11 +19,8 @@ frmFind::frmFind(MainWindow& owner)
     : PageDialog(kName, owner, kDown), mFindOriginalKid(owner.activeDocument()->hwnd()) {}
 
 void frmFind::show(MainWindow& main) {
-    if (const Dialog* open = find(main.mainHwnd(), kName)) {
-        ::SetActiveWindow(open->hwnd());
-    } else if (main.activeDocument()) {
-        (new frmFind(main))->showModeless(main.mainHwnd());
-    }
+    if (bringForward(main.mainHwnd(), kName) || !main.activeDocument()) return;
+    (new frmFind(main))->showModeless(main.mainHwnd());
 }
 
 bool frmFind::onInit() {
@@ -92,7 +89,7 @@ void frmFind::SelectFound(const frmChild& page, std::size_t position, std::size_
     const auto start = static_cast<long>(position - 1);
     page.txtPad().select(start, start + static_cast<long>(length));
     page.txtPad().scrollToCaret();
-    focusPage(page);
+    page.focusPage();
 }
 
 void frmFind::FindAndCount() {

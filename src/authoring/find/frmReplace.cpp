@@ -21,8 +21,7 @@ frmReplace::frmReplace(MainWindow& owner)
     : PageDialog(kName, owner, kDown), mReplaceOriginalKid(owner.activeDocument()->hwnd()) {}
 
 void frmReplace::show(MainWindow& main) {
-    if (const Dialog* open = find(main.mainHwnd(), kName)) {
-        ::SetActiveWindow(open->hwnd());
+    if (const Dialog* open = bringForward(main.mainHwnd(), kName)) {
         ::SetFocus(::GetDlgItem(open->hwnd(), txtReplace));
     } else if (main.activeDocument()) {
         (new frmReplace(main))->showModeless(main.mainHwnd());
@@ -85,7 +84,7 @@ void frmReplace::clickReplace() {
     pad.select(start, start + static_cast<long>(texts->find.size()));
     target->insert(texts->with);
     pad.scrollToCaret();
-    focusPage(*target);
+    target->focusPage();
     enableButtons(authoring::FindFrom(pad.text(), texts->find, at + 1) != authoring::kNotFound);
 }
 

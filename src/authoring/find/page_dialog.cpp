@@ -47,15 +47,6 @@ void PageDialog::bringPageToTop() const {
     ::SendMessageW(main_.mdiClient(), WM_MDIACTIVATE, reinterpret_cast<WPARAM>(kid), 0);
 }
 
-void PageDialog::focusPage(const frmChild& target) const {
-    target.focusPage();
-    // Where no window manager keeps the order the main window, activated, is drawn over even its topmost
-    // dialogs, until they change their place.
-    for (const HWND place : {HWND_NOTOPMOST, HWND_TOPMOST}) {
-        ::SetWindowPos(hwnd(), place, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);
-    }
-}
-
 int PageDialog::ask(const std::string& text, const char* title, UINT style) const {
     return win::ShowMessage(hwnd(), text, title, style | MB_SETFOREGROUND);
 }

@@ -27,8 +27,6 @@ class PageDialog : public win::Dialog {
     frmChild* page() const;
     // Makes the page the active document.
     void bringPageToTop() const;
-    // Puts the focus into the page and keeps this dialog in sight.
-    void focusPage(const frmChild& target) const;
     // A message box over the dialog.
     int ask(const std::string& text, const char* title, UINT style = MB_OK) const;
     void setDefaultButton(int id) const { ::SendMessageW(hwnd(), DM_SETDEFID, static_cast<WPARAM>(id), 0); }

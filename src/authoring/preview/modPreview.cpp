@@ -9,7 +9,7 @@
 #include "document/frmChild.h"
 #include "files/mBinOpen.h"
 #include "files/modPubFuncs.h"
-#include "files/page_writer.h"
+#include "files/page_bytes.h"
 #include "win/error.h"
 #include "win/message_box.h"
 #include "win/message_loop.h"

@@ -3,8 +3,9 @@
 #include "authoring/templates/mTemplateLoad.h"
 #include "authoring/templates/template_store.h"
 #include "document/frmChild.h"
+#include "files/atomic_file.h"
 #include "files/modPubFuncs.h"
-#include "files/page_writer.h"
+#include "files/page_bytes.h"
 #include "forms/frmTemplatesAdd.h"
 #include "win/message_box.h"
 #include "win/message_loop.h"
@@ -65,12 +66,12 @@ void frmTemplatesAdd::enter() {
 bool frmTemplatesAdd::writeFile(const std::string& name) {
     const win::WaitCursor wait;
     const frmChild* page = main_.activeDocument();
-    if (!page) return false;
+    if (!page || page->txtPad().isReadOnly()) return false;
     ::CreateDirectoryW(win::WidePath(authoring::TemplateFolder()).c_str(), nullptr);
     const std::string path = authoring::TemplatePath(name);
     // A template that has dropped off the list may still have its file there.
     const authoring::WritableFile old(path);
-    if (!files::WritePage(*page, path)) return false;
+    if (!files::ReplaceFileContents(path, files::FileOf(*page).bytes)) return false;
     authoring::SetFileReadOnly(path, true);
     return true;
 }

@@ -3,8 +3,16 @@
 #include <algorithm>
 #include <utility>
 
+#include "win/core/utf.h"
+
 namespace document {
 namespace {
+
+using win::AppendUtf16;
+using win::AppendUtf8;
+using win::Character;
+using win::FirstOfUtf16;
+using win::IsSurrogate;
 
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 constexpr std::string_view kUtf16Mark = "\xFF\xFE";
@@ -23,14 +31,6 @@ constexpr unsigned Value(char byte) {
 
 constexpr bool IsAscii(char32_t c) {
     return c < 0x80;
-}
-
-constexpr bool IsHigh(char32_t c) {
-    return c >= 0xD800 && c < 0xDC00;
-}
-
-constexpr bool IsSurrogate(char32_t c) {
-    return c >= 0xD800 && c < 0xE000;
 }
 
 constexpr bool IsRaw(char32_t c) {
@@ -56,18 +56,6 @@ constexpr std::string_view MarkOf(const Encoding& encoding) {
     return encoding.codePage == kUtf16BigEndian ? kUtf16BigEndianMark : std::string_view();
 }
 
-// A character that starts a text: a pair, or one unit, which may be a lone surrogate.
-struct Character {
-    char32_t value;
-    std::size_t units;
-};
-
-Character First(std::u16string_view text) {
-    const char32_t first = text[0];
-    if (!IsHigh(first) || text.size() == 1 || (text[1] & 0xFC00) != 0xDC00) return {first, 1};
-    return {0x10000 + ((first - 0xD800) << 10) + (text[1] - 0xDC00U), 2};
-}
-
 std::size_t FirstSurrogate(std::u16string_view text) {
     return static_cast<std::size_t>(std::find_if(text.begin(), text.end(), IsSurrogate) - text.begin());
 }
@@ -78,46 +66,23 @@ std::u16string_view WithoutLone(std::u16string_view text) {
     for (;;) {
         at += FirstSurrogate(text.substr(at));
         if (at == text.size()) return text;
-        const Character character = First(text.substr(at));
-        if (character.units == 1) return text.substr(0, at);
-        at += character.units;
+        const Character character = FirstOfUtf16(text.substr(at));
+        if (character.length == 1) return text.substr(0, at);
+        at += character.length;
     }
 }
 
-void AppendUtf16(std::u16string& text, char32_t c) {
-    if (c >= 0x10000) {
-        text += static_cast<char16_t>(0xD800 + ((c - 0x10000) >> 10));
-        c = 0xDC00 + (c & 0x3FF);
-    }
-    text += static_cast<char16_t>(c);
-}
-
-// The character of UTF-8 that starts here, and its bytes: 0 where none does.
-struct Utf8Character {
-    char32_t value;
-    std::size_t length;
-};
-
-Utf8Character FirstUtf8(std::string_view bytes) {
-    const unsigned lead = Value(bytes[0]);
-    if (IsAscii(lead)) return {lead, 1};
-    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-    if (lead < 0xC2 || lead > 0xF4 || bytes.size() < length) return {0, 0};
-    char32_t value = lead & (0x7FU >> length);
-    for (const char c : bytes.substr(1, length - 1)) {
-        if ((Value(c) & 0xC0) != 0x80) return {0, 0};
-        value = value << 6 | (Value(c) & 0x3F);
-    }
-    if (length == 3 && (value < 0x800 || IsSurrogate(value))) return {0, 0};
-    if (length == 4 && (value < 0x10000 || value > 0x10FFFF)) return {0, 0};
-    return {value, length};
+// The character that UTF-8 starts with; of length 0 where that is none.
+Character FirstStrictly(std::string_view bytes) {
+    const Character character = win::FirstOfUtf8(bytes);
+    return IsSurrogate(character.value) ? Character{} : character;
 }
 
 std::u16string DecodeUtf8(std::string_view bytes) {
     std::u16string text;
     text.reserve(bytes.size());
     while (!bytes.empty()) {
-        const Utf8Character character = FirstUtf8(bytes);
+        const Character character = FirstStrictly(bytes);
         if (character.length == 0) {
             text += RawByte(Value(bytes[0]));
             bytes.remove_prefix(1);
@@ -129,21 +94,11 @@ std::u16string DecodeUtf8(std::string_view bytes) {
     return text;
 }
 
-void AppendUtf8(std::string& bytes, char32_t c) {
-    if (IsAscii(c)) {
-        bytes += Byte(c);
-        return;
-    }
-    const unsigned more = c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
-    bytes += Byte(0xF00U >> (more + 1) | c >> 6 * more);
-    for (unsigned i = more; i-- > 0;) bytes += Byte(0x80 | (c >> 6 * i & 0x3F));
-}
-
 void EncodeUtf8(std::string& bytes, std::u16string_view text) {
     bytes.reserve(bytes.size() + text.size() + text.size() / 4);
     while (!text.empty()) {
-        const Character character = First(text);
-        text.remove_prefix(character.units);
+        const Character character = FirstOfUtf16(text);
+        text.remove_prefix(character.length);
         if (IsRaw(character.value)) {
             bytes += Byte(character.value);
         } else {
@@ -186,7 +141,7 @@ void EncodeUtf16(std::string& bytes, std::u16string_view text, bool bigEndian) {
     };
     bool half = false;
     while (!text.empty()) {
-        const Character character = First(text);
+        const Character character = FirstOfUtf16(text);
         if (IsRaw(character.value)) {
             bytes += Byte(character.value);
             half = !half;
@@ -194,9 +149,9 @@ void EncodeUtf16(std::string& bytes, std::u16string_view text, bool bigEndian) {
             if (half) CompleteUnit(bytes, bigEndian);
             half = false;
             append(IsSurrogate(character.value) ? kReplacement : text[0]);
-            if (character.units == 2) append(text[1]);
+            if (character.length == 2) append(text[1]);
         }
-        text.remove_prefix(character.units);
+        text.remove_prefix(character.length);
     }
 }
 
@@ -318,8 +273,8 @@ void AppendReference(std::u16string& text, char32_t character) {
 void AppendHeld(std::u16string& result, const Encoding& encoding, std::u16string_view text,
                 const CodePages& pages) {
     while (!text.empty()) {
-        Character character = First(text);
-        text.remove_prefix(character.units);
+        Character character = FirstOfUtf16(text);
+        text.remove_prefix(character.length);
         if (IsSurrogate(character.value) && !IsRaw(character.value)) character.value = kReplacement;
         if (IsAscii(character.value) || Holds(encoding, character.value, pages)) {
             AppendUtf16(result, character.value);
@@ -375,7 +330,7 @@ std::u16string WithReferences(const Encoding& encoding, std::u16string_view text
     result.reserve(text.size());
     while (!text.empty()) {
         std::size_t length = std::min(kFiner, text.size());
-        length += First(text.substr(length - 1)).units - 1;
+        length += FirstOfUtf16(text.substr(length - 1)).length - 1;
         const std::u16string_view piece = text.substr(0, length);
         text.remove_prefix(length);
         if (HoldsWhole(encoding, piece, pages)) {
@@ -389,7 +344,7 @@ std::u16string WithReferences(const Encoding& encoding, std::u16string_view text
 
 bool IsUtf8(std::string_view bytes) {
     while (!bytes.empty()) {
-        const std::size_t length = FirstUtf8(bytes).length;
+        const std::size_t length = FirstStrictly(bytes).length;
         if (length == 0) return false;
         bytes.remove_prefix(length);
     }

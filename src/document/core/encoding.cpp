@@ -7,6 +7,7 @@
 #include <string>
 
 #include "document/core/codec.h"
+#include "win/core/ascii.h"
 
 namespace document {
 namespace {
@@ -73,30 +74,14 @@ constexpr Row kLabels[] = {
     {20932, "cseucpkdfmtjapanese euc-jp x-euc-jp"},
 };
 
-constexpr char Lower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 constexpr bool IsSpace(char c) {
     return kSpace.find(c) != kSpace.npos;
-}
-
-// Of ASCII, in any case.
-bool SameName(std::string_view one, std::string_view other) {
-    return std::equal(one.begin(), one.end(), other.begin(), other.end(),
-                      [](char a, char b) { return Lower(a) == Lower(b); });
-}
-
-std::size_t FindName(std::string_view text, std::string_view name) {
-    std::size_t at = 0;
-    while (at < text.size() && !SameName(text.substr(at, name.size()), name)) ++at;
-    return at;
 }
 
 bool HasLabel(std::string_view labels, std::string_view label) {
     for (;;) {
         const std::size_t end = labels.find(' ');
-        if (SameName(labels.substr(0, end), label)) return true;
+        if (win::SameName(labels.substr(0, end), label)) return true;
         if (end == labels.npos) return false;
         labels.remove_prefix(end + 1);
     }
@@ -114,10 +99,9 @@ bool IsForPages(unsigned codePage, const CodePages& pages) {
 
 // The code page that a label means; 0 for what counts as no declaration.
 unsigned CodePageOfLabel(std::string_view label, const CodePages& pages) {
-    while (!label.empty() && IsSpace(label.front())) label.remove_prefix(1);
-    while (!label.empty() && IsSpace(label.back())) label.remove_suffix(1);
+    const std::string_view name = win::Trimmed(label, kSpace);
     for (const Row& row : kLabels)
-        if (HasLabel(row.labels, label) && IsForPages(row.codePage, pages)) return row.codePage;
+        if (HasLabel(row.labels, name) && IsForPages(row.codePage, pages)) return row.codePage;
     return 0;
 }
 
@@ -138,9 +122,9 @@ std::string_view WithoutLeadingSpace(std::string_view text) {
 std::string_view CharsetOfContent(std::string_view content) {
     constexpr std::string_view kCharset = "charset";
     do {
-        content.remove_prefix(FindName(content, kCharset));
-        if (content.empty()) return {};
-        content = WithoutLeadingSpace(content.substr(kCharset.size()));
+        const std::size_t at = win::FindName(content, kCharset);
+        if (at == content.npos) return {};
+        content = WithoutLeadingSpace(content.substr(at + kCharset.size()));
     } while (!content.starts_with('='));
     content = WithoutLeadingSpace(content.substr(1));
     if (!content.starts_with('"') && !content.starts_with('\''))
@@ -170,7 +154,9 @@ class Prescan {
  private:
     bool atEnd() const { return at_ >= bytes_.size(); }
 
-    bool startsWith(std::string_view name) const { return SameName(bytes_.substr(at_, name.size()), name); }
+    bool startsWith(std::string_view name) const {
+        return win::SameName(bytes_.substr(at_, name.size()), name);
+    }
 
     char byteAt(std::size_t offset) const {
         return at_ + offset < bytes_.size() ? bytes_[at_ + offset] : '\0';
@@ -193,8 +179,7 @@ class Prescan {
             at_ += 3;
             return directive();
         }
-        const char letter = Lower(byteAt(byteAt(1) == '/' ? 2 : 1));
-        if (letter >= 'a' && letter <= 'z') {
+        if (win::IsAsciiLetter(byteAt(byteAt(1) == '/' ? 2 : 1))) {
             skipTo(bytes_.find_first_of("\t\n\f\r >", at_));
             while (attribute()) {}
         } else if (startsWith("<!") || startsWith("</") || startsWith("<?")) {
@@ -206,20 +191,20 @@ class Prescan {
     unsigned meta() {
         std::optional<std::string_view> pragma, content, charset;
         while (const auto found = attribute()) {
-            if (!pragma && SameName(found->name, "http-equiv")) pragma = found->value;
-            if (!content && SameName(found->name, "content")) content = found->value;
-            if (!charset && SameName(found->name, "charset")) charset = found->value;
+            if (!pragma && win::SameName(found->name, "http-equiv")) pragma = found->value;
+            if (!content && win::SameName(found->name, "content")) content = found->value;
+            if (!charset && win::SameName(found->name, "charset")) charset = found->value;
         }
         if (atEnd()) return 0;  // it may go on in another way
         if (charset) return CodePageOfLabel(*charset, pages_);
-        if (!content || !pragma || !SameName(*pragma, "content-type")) return 0;
+        if (!content || !pragma || !win::SameName(*pragma, "content-type")) return 0;
         return CodePageOfLabel(CharsetOfContent(*content), pages_);
     }
 
     unsigned directive() {
         std::optional<std::string_view> number;
         while (const auto found = attribute())
-            if (!number && SameName(found->name, "codepage")) number = found->value;
+            if (!number && win::SameName(found->name, "codepage")) number = found->value;
         return number && !atEnd() ? CodePageOfNumber(*number, pages_) : 0;
     }
 

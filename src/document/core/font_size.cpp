@@ -4,12 +4,12 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "win/core/ascii.h"
+
 namespace document {
 
 float ParseFontSize(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return 0;
-    std::string number(text.substr(first, text.find_last_not_of(' ') - first + 1));
+    std::string number(win::Trimmed(text));
     std::replace(number.begin(), number.end(), ',', '.');
     if (number.find_first_not_of("0123456789.") != std::string::npos) return 0;
     char* end = nullptr;

@@ -2,20 +2,13 @@
 
 #include <algorithm>
 
+#include "win/core/ascii.h"
+
 namespace files {
 namespace {
 
 constexpr std::string_view kDevices[] = {"CON", "PRN", "AUX", "NUL", "CONIN$", "CONOUT$"};
 constexpr std::string_view kPorts[] = {"COM", "LPT"};
-
-char Upper(char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
-
-bool Is(std::string_view text, std::string_view upper) {
-    return std::equal(text.begin(), text.end(), upper.begin(), upper.end(),
-                      [](char a, char b) { return Upper(a) == b; });
-}
 
 // 1 to 9, or 1 to 3 raised, which Windows reads as those. COM0 and LPT0 are ordinary names.
 bool IsPortNumber(std::string_view text) {
@@ -30,11 +23,11 @@ bool IsDeviceName(std::string_view name) {
     std::string_view stem = name.substr(0, name.find('.'));
     while (stem.ends_with(' ')) stem.remove_suffix(1);
     if (std::any_of(std::begin(kDevices), std::end(kDevices),
-                    [stem](std::string_view device) { return Is(stem, device); }))
+                    [stem](std::string_view device) { return win::SameName(stem, device); }))
         return true;
     return stem.size() > 3 && IsPortNumber(stem.substr(3)) &&
            std::any_of(std::begin(kPorts), std::end(kPorts),
-                       [stem](std::string_view port) { return Is(stem.substr(0, 3), port); });
+                       [stem](std::string_view port) { return win::SameName(stem.substr(0, 3), port); });
 }
 
 }  // namespace files

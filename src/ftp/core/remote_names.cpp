@@ -6,6 +6,7 @@
 
 #include "files/core/device_name.h"
 #include "ftp/core/server_text.h"
+#include "win/core/ascii.h"
 
 namespace ftp {
 namespace {
@@ -31,15 +32,8 @@ bool LiesAbove(std::string_view directory, std::string_view other) {
     return directory.empty() || directory.back() == '/' || other[directory.size()] == '/';
 }
 
-char Lower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool EndsWith(std::string_view name, std::string_view lowerEnding) {
-    if (name.size() < lowerEnding.size()) return false;
-    const std::string_view end = name.substr(name.size() - lowerEnding.size());
-    return std::equal(end.begin(), end.end(), lowerEnding.begin(),
-                      [](char a, char b) { return Lower(a) == b; });
+bool EndsWith(std::string_view name, std::string_view ending) {
+    return name.size() >= ending.size() && win::SameName(name.substr(name.size() - ending.size()), ending);
 }
 
 bool IsForbidden(char c) {

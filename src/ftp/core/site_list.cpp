@@ -6,6 +6,8 @@
 #include <iterator>
 #include <utility>
 
+#include "win/core/ascii.h"
+
 namespace ftp {
 namespace {
 
@@ -14,13 +16,8 @@ using settings::Row;
 constexpr int kFirstReservedKey = 99;  // the mark's; no site can have a name there
 constexpr int kLargestNumber = 32766;  // its successor is the largest selected index that there can be
 constexpr std::string_view kSchemeEnd = "://";
+constexpr std::string_view kBlanks = " \t";
 constexpr SiteSection kSections[] = {SiteSection::sites, SiteSection::names, SiteSection::passes};
-
-std::string_view TrimBlanks(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(" \t");
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
 
 const std::vector<Row>& Rows(const SiteSections& stored, SiteSection section) {
     switch (section) {
@@ -262,9 +259,9 @@ bool LooksLikeUrl(std::string_view url) {
 SiteUrl SplitSiteUrl(std::string_view stored) {
     const std::string_view url = StripScheme(stored);
     const std::size_t slash = url.find('/');
-    SiteUrl site{std::string(TrimBlanks(url.substr(0, slash))), {}};
+    SiteUrl site{std::string(win::Trimmed(url.substr(0, slash), kBlanks)), {}};
     if (slash == std::string_view::npos) return site;
-    std::string_view path = TrimBlanks(url.substr(slash + 1));
+    std::string_view path = win::Trimmed(url.substr(slash + 1), kBlanks);
     while (!path.empty() && path.back() == '/') path.remove_suffix(1);
     site.path = path;
     return site;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "win/core/utf.h"
+
 namespace modPrint {
 namespace {
 
@@ -15,8 +17,7 @@ std::size_t SkipLineEnd(std::u16string_view text, std::size_t position) {
 }
 
 bool IsPair(std::u16string_view text, std::size_t at) {
-    return at + 1 < text.size() && text[at] >= 0xD800 && text[at] < 0xDC00 && text[at + 1] >= 0xDC00 &&
-           text[at + 1] < 0xE000;
+    return at < text.size() && win::FirstOfUtf16(text.substr(at)).length == 2;
 }
 
 // `length` units of `line`, or one less where that would cut a character in two.

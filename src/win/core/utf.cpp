@@ -1,77 +1,66 @@
 #include "win/core/utf.h"
 
-#include <cstddef>
-#include <cstdint>
-
 namespace win {
 namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
 
-bool IsHigh(char16_t unit) {
-    return unit >= 0xD800 && unit <= 0xDBFF;
-}
-bool IsLow(char16_t unit) {
-    return unit >= 0xDC00 && unit <= 0xDFFF;
+unsigned Value(char byte) {
+    return static_cast<unsigned char>(byte);
 }
 
-void AppendUtf8(std::string& text, char32_t c) {
-    const auto tail = [&text](char32_t bits) { text += static_cast<char>(0x80U | (bits & 0x3FU)); };
-    if (c < 0x80) {
-        text += static_cast<char>(c);
-    } else if (c < 0x800) {
-        text += static_cast<char>(0xC0U | c >> 6U);
-        tail(c);
-    } else if (c < 0x10000) {
-        text += static_cast<char>(0xE0U | c >> 12U);
-        tail(c >> 6U);
-        tail(c);
-    } else {
-        text += static_cast<char>(0xF0U | c >> 18U);
-        tail(c >> 12U);
-        tail(c >> 6U);
-        tail(c);
-    }
-}
-
-struct Read {
-    char32_t character = kReplacement;
-    std::size_t bytes = 1;
-};
-
-std::size_t LengthByLead(std::uint8_t lead) {
-    if (lead < 0x80) return 1;
-    if (lead >= 0xC2 && lead < 0xE0) return 2;
-    if (lead >= 0xE0 && lead < 0xF0) return 3;
-    return lead >= 0xF0 && lead < 0xF5 ? 4 : 0;
-}
-
-Read ReadUtf8(std::string_view text) {
-    const auto byte = [text](std::size_t i) { return static_cast<std::uint8_t>(text[i]); };
-    const std::size_t length = LengthByLead(byte(0));
-    if (length == 1) return {byte(0), 1};
-    if (length == 0 || length > text.size()) return {};
-    char32_t c = byte(0) & (0x7FU >> length);
-    for (std::size_t i = 1; i < length; ++i) {
-        if ((byte(i) & 0xC0U) != 0x80) return {};
-        c = c << 6U | (byte(i) & 0x3FU);
-    }
-    constexpr char32_t kSmallest[] = {0, 0, 0x80, 0x800, 0x10000};
-    if (c < kSmallest[length] || c > 0x10FFFF) return {};
-    return {c, length};
+char Byte(char32_t value) {
+    return static_cast<char>(value & 0xFFU);
 }
 
 }  // namespace
 
+Character FirstOfUtf16(std::u16string_view text) {
+    const char32_t first = text[0];
+    if (!IsHighSurrogate(first) || text.size() == 1 || (text[1] & 0xFC00U) != 0xDC00) return {first, 1};
+    return {0x10000 + ((first - 0xD800) << 10U) + (text[1] - 0xDC00U), 2};
+}
+
+Character FirstOfUtf8(std::string_view text) {
+    const unsigned lead = Value(text[0]);
+    if (lead < 0x80) return {lead, 1};
+    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+    if (lead < 0xC2 || lead > 0xF4 || text.size() < length) return {};
+    char32_t value = lead & (0x7FU >> length);
+    for (const char c : text.substr(1, length - 1)) {
+        if ((Value(c) & 0xC0U) != 0x80) return {};
+        value = value << 6U | (Value(c) & 0x3FU);
+    }
+    if (length == 3 && value < 0x800) return {};
+    if (length == 4 && (value < 0x10000 || value > 0x10FFFF)) return {};
+    return {value, length};
+}
+
+void AppendUtf16(std::u16string& text, char32_t character) {
+    if (character >= 0x10000) {
+        text += static_cast<char16_t>(0xD800 + ((character - 0x10000) >> 10U));
+        character = 0xDC00 + (character & 0x3FFU);
+    }
+    text += static_cast<char16_t>(character);
+}
+
+void AppendUtf8(std::string& text, char32_t character) {
+    if (character < 0x80) {
+        text += Byte(character);
+        return;
+    }
+    const unsigned more = character < 0x800 ? 1 : character < 0x10000 ? 2 : 3;
+    text += Byte(0xF00U >> (more + 1) | character >> 6 * more);
+    for (unsigned i = more; i-- > 0;) text += Byte(0x80U | (character >> 6 * i & 0x3FU));
+}
+
 std::string Utf8FromUtf16(std::u16string_view text) {
     std::string result;
     result.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        char32_t c = text[i];
-        if (IsHigh(text[i]) && i + 1 < text.size() && IsLow(text[i + 1])) {
-            c = 0x10000 + ((c - 0xD800) << 10U) + (static_cast<char32_t>(text[++i]) - 0xDC00);
-        }
-        AppendUtf8(result, c);
+    while (!text.empty()) {
+        const Character character = FirstOfUtf16(text);
+        AppendUtf8(result, character.value);
+        text.remove_prefix(character.length);
     }
     return result;
 }
@@ -80,14 +69,10 @@ std::u16string Utf16FromUtf8(std::string_view text) {
     std::u16string result;
     result.reserve(text.size());
     while (!text.empty()) {
-        const auto [c, bytes] = ReadUtf8(text);
-        if (c >= 0x10000) {
-            result += static_cast<char16_t>(0xD800 + ((c - 0x10000) >> 10U));
-            result += static_cast<char16_t>(0xDC00 + ((c - 0x10000) & 0x3FFU));
-        } else {
-            result += static_cast<char16_t>(c);
-        }
-        text.remove_prefix(bytes);
+        const Character character = FirstOfUtf8(text);
+        const bool isNone = character.length == 0;
+        AppendUtf16(result, isNone ? kReplacement : character.value);
+        text.remove_prefix(isNone ? 1 : character.length);
     }
     return result;
 }

@@ -3,15 +3,14 @@
 #include <algorithm>
 #include <string_view>
 
+#include "win/core/ascii.h"
+
 namespace authoring {
 namespace {
 
 // "en-US" is a kind of "en".
 bool IsKindOf(std::string_view tag, std::string_view language) {
-    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-    const std::string_view primary = tag.substr(0, tag.find('-'));
-    return std::equal(primary.begin(), primary.end(), language.begin(), language.end(),
-                      [lower](char a, char b) { return lower(a) == lower(b); });
+    return win::SameName(tag.substr(0, tag.find('-')), language);
 }
 
 }  // namespace

@@ -3,45 +3,22 @@
 #include <algorithm>
 #include <utility>
 
+#include "win/core/ascii.h"
+#include "win/core/utf.h"
+
 namespace authoring {
 namespace {
 
+using win::IsAsciiLetter;
+using win::SameName;
+
 constexpr std::size_t kNowhere = std::u16string_view::npos;
 
-bool IsAsciiLetter(char16_t c) {
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
 bool IsDigit(char16_t c) {
     return c >= '0' && c <= '9';
 }
-char16_t Lower(char16_t c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char16_t>(c + ('a' - 'A')) : c;
-}
-bool IsHighHalf(char16_t c) {
-    return c >= 0xD800 && c < 0xDC00;
-}
-bool IsLowHalf(char16_t c) {
-    return c >= 0xDC00 && c < 0xE000;
-}
 bool IsBlank(char16_t c) {
     return c <= ' ' || c == u'\u00A0';
-}
-
-bool StartsWithText(std::u16string_view text, std::u16string_view lowerPrefix) {
-    return text.size() >= lowerPrefix.size() &&
-           std::equal(lowerPrefix.begin(), lowerPrefix.end(), text.begin(),
-                      [](char16_t wanted, char16_t c) { return wanted == Lower(c); });
-}
-
-bool IsText(std::u16string_view text, std::u16string_view lower) {
-    return text.size() == lower.size() && StartsWithText(text, lower);
-}
-
-std::size_t FindText(std::u16string_view page, std::u16string_view lowerText, std::size_t from) {
-    for (; from + lowerText.size() <= page.size(); ++from) {
-        if (StartsWithText(page.substr(from), lowerText)) return from;
-    }
-    return kNowhere;
 }
 
 // Just behind `end`, searched from `from`; what is never ended goes to the end of the page.
@@ -75,8 +52,8 @@ std::size_t TagEnd(std::u16string_view page, std::size_t start, bool quotes) {
 std::size_t RawContentEnd(std::u16string_view page, std::size_t tag, std::size_t behindTag) {
     for (const std::u16string_view name : {u"script", u"style"}) {
         const std::u16string_view tagText = page.substr(tag + 1, behindTag - tag - 1);
-        if (!StartsWithText(tagText, name) || IsAsciiLetter(tagText[name.size()])) continue;
-        const std::size_t end = FindText(page, name == u"script" ? u"</script" : u"</style", behindTag);
+        if (!SameName(tagText.substr(0, name.size()), name) || IsAsciiLetter(tagText[name.size()])) continue;
+        const std::size_t end = win::FindName(page, name == u"script" ? u"</script" : u"</style", behindTag);
         return end == kNowhere ? page.size() : end;
     }
     return behindTag;
@@ -195,10 +172,8 @@ class Finder {
     // Behind the letter at `i`, which may be of two units; `i` itself when there is none.
     std::size_t letterEnd(std::size_t i) const {
         if (i >= page_.size()) return i;
-        const bool isPair = IsHighHalf(page_[i]) && i + 1 < page_.size() && IsLowHalf(page_[i + 1]);
-        if (!isPair) return letters_(page_[i]) ? i + 1 : i;
-        const char32_t c = 0x10000U + ((page_[i] - 0xD800U) << 10U) + (page_[i + 1] - 0xDC00U);
-        return letters_(c) ? i + 2 : i;
+        const win::Character character = win::FirstOfUtf16(page_.substr(i));
+        return letters_(character.value) ? i + character.length : i;
     }
     bool isLetter(std::size_t i) const { return letterEnd(i) > i; }
     bool isLetterBefore(std::size_t i) const {
@@ -286,7 +261,7 @@ std::u16string PageLanguage(std::u16string_view page) {
         } else if (IsAsciiLetter(page[at + 1])) {
             for (Attributes attributes(page.substr(at, end - at)); attributes.next();) {
                 const bool isLanguage =
-                    IsText(attributes.name(), u"lang") || IsText(attributes.name(), u"xml:lang");
+                    SameName(attributes.name(), u"lang") || SameName(attributes.name(), u"xml:lang");
                 if (isLanguage && IsLanguageTag(attributes.value()))
                     return std::u16string(attributes.value());
             }

@@ -1,11 +1,10 @@
-#include "files/replace_file.h"
+#include "files/atomic_file.h"
 
 #include <algorithm>
 #include <optional>
 #include <vector>
 
 #include "files/mBinOpen.h"
-#include "win/unique.h"
 #include "win/wide_path.h"
 #include "win/windows.h"
 
@@ -51,15 +50,11 @@ bool Flush(HANDLE file) {
            error == ERROR_CALL_NOT_IMPLEMENTED;
 }
 
-bool WriteAndClose(HANDLE file, std::string_view bytes) {
-    const bool done = Write(file, bytes) && ::SetEndOfFile(file) && Flush(file);
+// The file ends where it was written last, and is on the disk.
+bool FinishAndClose(HANDLE file) {
+    const bool done = ::SetEndOfFile(file) && Flush(file);
     return ::CloseHandle(file) && done;
 }
-
-struct TemporaryFile {
-    HANDLE file = INVALID_HANDLE_VALUE;
-    std::wstring path;
-};
 
 // "~qu" and eight digits that no other page and no other process comes upon at the same time.
 std::wstring TemporaryName() {
@@ -89,18 +84,6 @@ HANDLE OpenEmptiedCopy(const std::wstring& target, const std::wstring& path) {
     return file;
 }
 
-// Made new, never opened over a file that is there.
-TemporaryFile CreateBeside(const std::wstring& target, bool exists) {
-    TemporaryFile made;
-    for (int tries = 0; tries < 100 && made.file == INVALID_HANDLE_VALUE; ++tries) {
-        made.path = target.substr(0, target.rfind(L'\\') + 1) + TemporaryName();
-        if (exists) made.file = OpenEmptiedCopy(target, made.path);
-        if (made.file == INVALID_HANDLE_VALUE) made.file = OpenForWriting(made.path, CREATE_NEW);
-        if (made.file == INVALID_HANDLE_VALUE && ::GetLastError() != ERROR_FILE_EXISTS) break;
-    }
-    return made;
-}
-
 // The old bytes are read first and put back when the new ones do not go in whole.
 bool OverwriteInPlace(const std::string& path, std::string_view bytes) {
     const std::optional<std::string> old = mBinOpen::ReadFileAtOnce(path);
@@ -112,8 +95,12 @@ bool OverwriteInPlace(const std::string& path, std::string_view bytes) {
         return file != INVALID_HANDLE_VALUE;
     };
     if (!Persistently(open)) return false;
-    if (WriteAndClose(file, bytes)) return true;
-    if (open()) WriteAndClose(file, *old);
+    const auto write = [&](std::string_view contents) {
+        const bool isWritten = Write(file, contents);
+        return FinishAndClose(file) && isWritten;
+    };
+    if (write(bytes)) return true;
+    if (open()) write(*old);
     return false;
 }
 
@@ -150,38 +137,68 @@ bool TakeOverDetails(HANDLE made, const std::wstring& path, const std::wstring& 
            ::SetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, access.data());
 }
 
-bool TakePlace(const std::wstring& made, const std::wstring& target) {
-    return Persistently([&] {
-        return ::MoveFileExW(made.c_str(), target.c_str(),
-                             MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
-    });
+bool IsWritable(DWORD attributes) {
+    return attributes == INVALID_FILE_ATTRIBUTES ||
+           (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) == 0;
 }
 
 }  // namespace
 
+AtomicFile::AtomicFile(const std::string& target) : target_(win::WidePath(target)) {
+    const DWORD attributes = ::GetFileAttributesW(target_.c_str());
+    const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
+    if (!IsWritable(attributes)) {
+        ::SetLastError(ERROR_ACCESS_DENIED);
+        return;
+    }
+    // Made new, never opened over a file that is there.
+    for (int tries = 0; tries < 100 && !file_; ++tries) {
+        path_ = target_.substr(0, target_.rfind(L'\\') + 1) + TemporaryName();
+        HANDLE made = exists ? OpenEmptiedCopy(target_, path_) : INVALID_HANDLE_VALUE;
+        if (made == INVALID_HANDLE_VALUE) made = OpenForWriting(path_, CREATE_NEW);
+        if (made == INVALID_HANDLE_VALUE && ::GetLastError() != ERROR_FILE_EXISTS) break;
+        file_ = win::UniqueFile(made);
+    }
+    if (file_ && exists) isAlike_ = TakeOverDetails(file_.get(), path_, target_);
+}
+
+AtomicFile::~AtomicFile() {
+    if (file_) discard();
+}
+
+void AtomicFile::discard() {
+    file_.reset();
+    ::DeleteFileW(path_.c_str());
+}
+
+bool AtomicFile::commit() {
+    const auto takePlace = [this] {
+        return ::MoveFileExW(path_.c_str(), target_.c_str(),
+                             MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
+    };
+    const bool isWritten = FinishAndClose(file_.release());
+    if (isWritten && isAlike_ && Persistently(takePlace)) return true;
+    refused_ = isWritten && (!isAlike_ || ::GetLastError() == ERROR_ACCESS_DENIED);
+    discard();
+    return false;
+}
+
 bool ReplaceFileContents(const std::string& path, std::string_view bytes,
                          const std::function<void()>& beforeOverwriting) {
     const std::wstring target = win::WidePath(path);
-    if (target.empty()) return false;
     const DWORD attributes = ::GetFileAttributesW(target.c_str());
+    if (target.empty() || !IsWritable(attributes)) return false;
     const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
-    if (exists && (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0) return false;
     const auto overwrite = [&] {
         if (beforeOverwriting) beforeOverwriting();
         return OverwriteInPlace(path, bytes);
     };
     if (exists && HasOtherNames(target, attributes)) return overwrite();
 
-    const TemporaryFile made = CreateBeside(target, exists);
-    if (made.file == INVALID_HANDLE_VALUE) {
-        return exists && ::GetLastError() == ERROR_ACCESS_DENIED && overwrite();
-    }
-    const bool isAlike = !exists || TakeOverDetails(made.file, made.path, target);
-    const bool isWritten = WriteAndClose(made.file, bytes);
-    if (isWritten && isAlike && TakePlace(made.path, target)) return true;
-    const bool isRefused = isWritten && exists && (!isAlike || ::GetLastError() == ERROR_ACCESS_DENIED);
-    ::DeleteFileW(made.path.c_str());
-    return isRefused && overwrite();
+    AtomicFile fresh(path);
+    if (!fresh.handle()) return exists && ::GetLastError() == ERROR_ACCESS_DENIED && overwrite();
+    if (!Write(fresh.handle(), bytes)) return false;
+    return fresh.commit() || (exists && fresh.isRefused() && overwrite());
 }
 
 }  // namespace files

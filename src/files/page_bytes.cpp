@@ -1,11 +1,10 @@
-#include "files/page_writer.h"
+#include "files/page_bytes.h"
 
 #include <algorithm>
 
 #include "document/mTxtBoxAPI.h"
 #include "document/system_code_pages.h"
 #include "files/core/page_lines.h"
-#include "files/replace_file.h"
 
 namespace files {
 namespace {
@@ -67,10 +66,6 @@ PageFile FileOf(const frmChild& page) {
     PageFile file{document::Encode(encoding, written, pages), encoding, std::nullopt};
     if (written != lines) file.shown = document::WithReferences(encoding, page.txtPad().text(), pages);
     return file;
-}
-
-bool WritePage(const frmChild& page, const std::string& path) {
-    return !page.txtPad().isReadOnly() && ReplaceFileContents(path, FileOf(page).bytes);
 }
 
 }  // namespace files

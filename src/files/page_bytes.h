@@ -1,4 +1,4 @@
-// Writing a page as a file.
+// A page as the bytes of a file.
 #pragma once
 
 #include <optional>
@@ -8,7 +8,6 @@
 
 namespace files {
 
-// A page as a file.
 struct PageFile {
     std::string bytes;
     document::Encoding encoding;
@@ -20,9 +19,5 @@ struct PageFile {
 // The page's lines as its control counts them without word wrap, each followed by CR LF, in the encoding that
 // the page declares by now.
 PageFile FileOf(const frmChild& page);
-
-// Writes the page to the path, whose file is replaced as a whole; the page itself stays as it is. False when
-// that fails.
-bool WritePage(const frmChild& page, const std::string& path);
 
 }  // namespace files
