@@ -11,7 +11,7 @@ namespace {
 
 int RunProgram() {
     win::SearchSystemDllsOnly();
-    // No box of the system's about a drive that is empty: whoever cannot read a file says so.
+    // No message of the system's about an empty drive: what cannot be read is reported where it is opened.
     ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
     modPrevious::InstanceMark mark;
     const std::string file = shell::CommandLineFile();

@@ -37,9 +37,9 @@ class MainWindow {
     virtual void enableNew(bool state) = 0;
     virtual bool isEnabled(Command command) const = 0;
 
-    // Runs a command as if its menu item had been chosen, after the messages now under way.
+    // Runs a command as if its menu item had been chosen, once the current message is handled.
     virtual void postCommand(Command command) = 0;
-    // Until it is taken back by an empty one: asked before the program closes, and false keeps it open.
+    // Is called before the program closes, and keeps it open by false. An empty function takes it back.
     virtual void askBeforeClosing(std::function<bool()> mayClose) = 0;
     // The save-as dialog for this document, active or not.
     virtual void saveAs(frmChild& document) = 0;
@@ -50,11 +50,11 @@ class MainWindow {
     virtual void documentRenamed(frmChild& document) = 0;
     virtual void documentChanged(frmChild& document) = 0;
     virtual void documentSaved(frmChild& document) = 0;
-    // Has its recovery copy hold what the page holds now.
+    // Brings its recovery copy up to date.
     virtual void keepCopy(frmChild& document) = 0;
     virtual void documentActivated(frmChild& document) = 0;
-    // The files that were dropped onto its page, in their order; none when it was something else. Reads them
-    // at once, for their owner waits and may delete them afterwards; the result is what is left to do then.
+    // Files were dropped onto its page, in this order; none when it was something else. Reads them at once,
+    // because their owner may delete them afterwards. The function that is returned does the rest.
     virtual std::function<void()> filesDropped(DocumentId document,
                                                const std::vector<std::string>& paths) = 0;
 

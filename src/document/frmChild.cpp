@@ -65,7 +65,7 @@ std::unique_ptr<document::RichEdit> frmChild::makePad(const document::Font& font
 }
 
 void frmChild::loadInto(document::RichEdit& pad, std::u16string_view text) {
-    // The control paints a long row that it does not wrap in time that grows with its square.
+    // The control takes time that grows with the square of a row's length to paint one that it does not wrap.
     if (document::HasLongLine(text) && !document::HasLongWord(text)) pad.setWordWrap(true);
     if (pad.load(text)) return;
     pad.setReadOnly();
@@ -84,7 +84,7 @@ void frmChild::setCaption(const std::string& caption) {
 void frmChild::setSaved(const document::Encoding& encoding) {
     encoding_ = encoding;
     txtPad_->setChanged(false);
-    // What can be brought back is no longer what the file holds.
+    // What Undo can bring back is no longer what the file holds.
     for (const Step& step : steps_) step.pad->setChanged(true);
     main_.documentSaved(*this);
 }
@@ -162,7 +162,7 @@ void frmChild::replacePage(std::u16string_view text) {
 }
 
 void frmChild::keepText() const {
-    // Of an empty page nothing would be left to paste: the clipboard keeps what it has.
+    // An empty page leaves on the clipboard what is there.
     if (const std::u16string edited = txtPad_->text(); !edited.empty()) win::SetClipboardText(hwnd(), edited);
 }
 
@@ -225,7 +225,7 @@ void frmChild::takeDrop(const std::vector<std::string>& paths) {
 }
 
 void frmChild::finishDrops() {
-    // Messages about the files may outlast the page.
+    // The page may be closed while messages about the files are shown.
     for (const auto& finish : std::exchange(drops_, {})) finish();
 }
 
@@ -236,7 +236,7 @@ void frmChild::activate() const {
 
 void frmChild::closingCheck() {
     if (!isChanged()) return;
-    // The page that is asked about is the one in sight.
+    // The page that the question is about has to be in sight.
     if (::IsIconic(hwnd()))
         ::SendMessageW(main_.mdiClient(), WM_MDIRESTORE, reinterpret_cast<WPARAM>(hwnd()), 0);
     activate();
@@ -251,14 +251,14 @@ void frmChild::closingCheck() {
     ::Sleep(1000);
     keepsCopy_ = true;
     main_.saveAs(*this);
-    // It closes all the same: what the disk did not take, or nobody named a file for, can be pasted. Where
-    // the clipboard cannot be had, the recovery copy stays.
+    // It closes all the same: a text that was not saved is left on the clipboard. Where that cannot be
+    // opened, the recovery copy stays.
     if (isChanged()) keepText();
     keepsCopy_ = false;
 }
 
 void frmChild::close() {
-    // A second close while the user is being asked, or while another box waits, is a slip of the hand.
+    // Closing a second time, while the user is being asked or another box is open, is a slip of the hand.
     if (closing_ || !::IsWindowEnabled(main_.mainHwnd())) return;
     closing_ = true;
     try {

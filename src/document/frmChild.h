@@ -18,9 +18,9 @@ class frmChild : public win::Window {
     static constexpr char kDefaultTab[] = "    ";
     static constexpr float kDefaultPoints = 10;
 
-    // Creates the window, shown and active, with this caption and page, unchanged and with no path. Where the
-    // control does not hold the text as it is, the page is read-only. Throws when the window cannot be made,
-    // and document::PageTooLarge when the memory does not last.
+    // Opens a window with this caption and page: shown, active, unchanged and without a path. The page is
+    // read-only where the control does not hold exactly its text. Throws when the window cannot be created,
+    // and document::PageTooLarge when there is not enough memory.
     static frmChild& open(MainWindow& main, const std::string& caption, const document::Page& page);
 
     DocumentId id() const { return id_; }
@@ -36,15 +36,16 @@ class frmChild : public win::Window {
     const document::Encoding& encoding() const { return encoding_; }
 
     bool isChanged() const { return txtPad_->isChanged(); }
-    // The page is what its file holds, in this encoding.
+    // The file now holds the page, in this encoding.
     void setSaved(const document::Encoding& encoding);
 
     // Replaces the selection as one step that can be undone; the caret ends behind the text. What the page's
     // encoding cannot hold goes in as numeric character references.
     void insert(std::u16string_view text);
-    // Replaces the whole page as one step that can be undone, behind which all earlier ones still are. The
-    // page counts as changed; the caret and the lines in view stay where they are. The control is made anew,
-    // because refilling a full one is slower by orders of magnitude; the old one is kept as the step.
+    // Replaces the whole page as one step that can be undone, after which the earlier steps can be undone
+    // too. The page counts as changed; the caret and the lines in view stay where they are. The text goes
+    // into a new control, because refilling a full one is slower by orders of magnitude; the old control is
+    // kept as the step.
     void replacePage(std::u16string_view text);
     // The same with the page as it was saved, which then counts as unchanged. The edited text goes to the
     // clipboard.
@@ -68,9 +69,9 @@ class frmChild : public win::Window {
     void focusPage() const { ::SetFocus(txtPad_->hwnd()); }
     // Shows the caret's line in the main window.
     void showLine() const;
-    // The user is being asked about saving; the window goes as soon as that is done.
+    // The user is being asked about saving, and the window closes after that.
     bool isClosing() const { return closing_; }
-    // The page goes without having been saved although its user wanted that.
+    // The page is being closed unsaved although the user wanted it saved.
     bool keepsCopy() const { return keepsCopy_; }
 
  private:

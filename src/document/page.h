@@ -13,8 +13,7 @@ struct Page {
     Encoding encoding;
 };
 
-// Whether a line of the text is so long that the control takes no time for it only when its words are
-// wrapped.
+// Whether the text has a line so long that the control is fast only while it wraps it.
 bool HasLongLine(std::u16string_view text);
 // Whether a word is so long that wrapping makes it slower still.
 bool HasLongWord(std::u16string_view text);

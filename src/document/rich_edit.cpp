@@ -47,12 +47,12 @@ struct Source {
     bool tooLarge = false;
 };
 
-// The control does not get over it when its memory ends. When it has the text, or is given no more of it, it
-// lays out the rows of what it has, which takes some versions thirteen times as much again.
+// The control does not survive running out of memory. Once it has the text, or is given no more of it, it
+// lays out the rows of what it has, for which some versions take thirteen times the memory of the text.
 bool MemoryWillEnd(const Source& source) {
-    constexpr double kRest = 256;  // megabytes, for all else
+    constexpr double kRest = 256;  // megabytes, for everything else
     constexpr double kWithRows = 14;
-    constexpr double kTelling = 24;  // below that the heap's own steps hide what a character takes
+    constexpr double kTelling = 24;  // below that the heap's own steps hide what the text takes
     const double used = MemoryTaken() - source.takenBefore;
     const auto fed = static_cast<double>(source.size - source.rest.size());
     const double whole = used < kTelling ? used : used / fed * static_cast<double>(source.size);
@@ -98,7 +98,7 @@ std::u16string StreamOut(HWND control, WPARAM format, std::size_t expected) {
     return std::move(sink.text);
 }
 
-// How the control is told that its text is Unicode, and that Undo is to know of it.
+// The text is UTF-16, and Undo is to take it back.
 constexpr SETTEXTEX kAsEdit{ST_SELECTION | ST_KEEPUNDO, 1200};
 
 // A text that begins like this the control would take for formatted.
@@ -109,8 +109,8 @@ bool LooksFormatted(std::u16string_view text) {
 }  // namespace
 
 void RichEdit::create(HWND parent, int id, const Font& font) {
-    // The class registers itself when its library is loaded, which stays so for the process. The second one
-    // is a shell of the first, which it would look for beside the program.
+    // Loading the library registers the class, once for the process. The second library is a shell around the
+    // first, which it would look for beside the program.
     win::LoadSystemDll("riched20.dll");
     win::LoadSystemDll("riched32.dll");
     const DWORD style = WS_CHILD | WS_VISIBLE | WS_HSCROLL | WS_VSCROLL | WS_TABSTOP | ES_MULTILINE |
@@ -119,7 +119,7 @@ void RichEdit::create(HWND parent, int id, const Font& font) {
     attach(win::Check(::CreateWindowExW(WS_EX_CLIENTEDGE, L"RICHEDIT", L"", style, 0, 0, 0, 0, parent,
                                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
                                         ::GetModuleHandleW(nullptr), nullptr)));
-    // In this mode a font is no formatting of the text that Undo would take back.
+    // In this mode setting a font is no change of the text that Undo would take back.
     send(EM_SETTEXTMODE, TM_PLAINTEXT);
     send(EM_EXLIMITTEXT, 0, kTextLimit);
     setWordWrap(false);

@@ -24,7 +24,7 @@ struct Font {
     friend bool operator==(const Font&, const Font&) = default;
 };
 
-// The memory does not last for a page.
+// There is not enough memory for a page.
 class PageTooLarge : public std::exception {
  public:
     explicit PageTooLarge(std::string what = "The page is too large.") : what_(std::move(what)) {}
@@ -36,11 +36,11 @@ class PageTooLarge : public std::exception {
 
 class RichEdit : public win::Control {
  public:
-    // Creates the control as a child that fills nothing yet. Throws win::Error.
+    // Creates the control as a child, without a size yet. Throws win::Error.
     void create(HWND parent, int id, const Font& font);
 
-    // Puts the text into the empty control and marks it unchanged. False when the control holds it otherwise
-    // than it was given. Throws PageTooLarge as long as there still is memory for all else.
+    // Puts the text into the empty control and marks it unchanged. False when the control does not hold
+    // exactly that text. Throws PageTooLarge while there still is memory for everything else.
     bool load(std::u16string_view text);
     std::u16string text() const;
     long textLength() const;

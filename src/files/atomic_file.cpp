@@ -16,8 +16,8 @@ bool IsHeldForAMoment(DWORD error) {
     return error == ERROR_ACCESS_DENIED || error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION;
 }
 
-// Does it again until it is done, fails for good, or about a second has passed. GetLastError() is that of the
-// last try.
+// Repeats the action until it succeeds, fails for good, or about a second has passed. GetLastError() is that
+// of the last try.
 template <typename Action>
 bool Persistently(Action action) {
     constexpr int kTries = 11;
@@ -42,7 +42,7 @@ bool Write(HANDLE file, std::string_view bytes) {
     return true;
 }
 
-// A file system that has nothing to flush has not failed.
+// A file system that cannot flush has not failed.
 bool Flush(HANDLE file) {
     if (::FlushFileBuffers(file)) return true;
     const DWORD error = ::GetLastError();
@@ -56,7 +56,7 @@ bool FinishAndClose(HANDLE file) {
     return ::CloseHandle(file) && done;
 }
 
-// "~qu" and eight digits that no other page and no other process comes upon at the same time.
+// "~qu" and eight digits that no other page or process uses at the same time.
 std::wstring TemporaryName() {
     LARGE_INTEGER count{};
     ::QueryPerformanceCounter(&count);
@@ -73,10 +73,10 @@ HANDLE OpenForWriting(const std::wstring& path, DWORD disposition) {
                          nullptr);
 }
 
-// A copy of a file has its streams and attributes. They are worth a second try, but not a save that fails.
+// A copy of a file has its streams and attributes. They are worth some tries, but not a save that fails.
 HANDLE OpenEmptiedCopy(const std::wstring& target, const std::wstring& path) {
     const auto copy = [&] { return ::CopyFileW(target.c_str(), path.c_str(), TRUE) != FALSE; };
-    // A folder that takes no second file is not waited for.
+    // Waiting for a folder that takes no second file is useless.
     const bool copied = copy() || (::GetLastError() != ERROR_ACCESS_DENIED && Persistently(copy));
     if (!copied) return INVALID_HANDLE_VALUE;
     const HANDLE file = OpenForWriting(path, TRUNCATE_EXISTING);
@@ -104,7 +104,7 @@ bool OverwriteInPlace(const std::string& path, std::string_view bytes) {
     return false;
 }
 
-// A file that takes the place of one with other names, or of a link, would be a file of its own.
+// The new file would be cut off from the other hard links of the old one, or from the link that leads to it.
 bool HasOtherNames(const std::wstring& target, DWORD attributes) {
     if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) return true;
     const win::UniqueFile file(::CreateFileW(target.c_str(), 0,
@@ -123,9 +123,9 @@ std::vector<BYTE> AccessTo(const std::wstring& path) {
     return access;
 }
 
-// The new file is as old as the one whose place it takes, as hidden, and as secret; false when it cannot be.
-// ReplaceFile would carry over all this, but a program that is killed in the middle of it leaves no file
-// under the name at all.
+// Gives the new file the creation time, the attributes and the access rights of the target; false when the
+// rights cannot be set. ReplaceFile would carry all this over, but a program that is killed in the middle of
+// it leaves no file of that name at all.
 bool TakeOverDetails(HANDLE made, const std::wstring& path, const std::wstring& target) {
     WIN32_FILE_ATTRIBUTE_DATA old{};
     if (::GetFileAttributesExW(target.c_str(), GetFileExInfoStandard, &old)) {

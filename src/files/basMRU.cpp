@@ -28,8 +28,8 @@ std::vector<std::string> StoredFiles() {
     return files::StoredFiles(settings::Get(kCountSection, "Count"), settings::GetAll(kFilesSection));
 }
 
-// A drive that is empty, gone or asleep may take half a minute to say so: files elsewhere than on the
-// machine's own disks are not asked for until somebody wants them.
+// A drive that is empty, gone or asleep may take half a minute to say so: only files on the machine's own
+// disks are looked for before the user opens them.
 bool MayExist(const std::string& path) {
     const std::wstring drive = win::ToWide(path.substr(0, 3));
     const bool isOwn = drive.size() == 3 && drive[1] == L':' && ::GetDriveTypeW(drive.c_str()) == DRIVE_FIXED;
@@ -60,14 +60,14 @@ bool StoreCount(const std::vector<std::string>& paths) {
     return settings::Save(kCountSection, "Count", std::to_string(paths.size()));
 }
 
-// From the last row up, as a new first path moves all others down: a row is written over when its path
-// stands in the next one, so a store that refuses in between has forgotten nothing.
+// From the last row up, because a new first path moves all others down: a row is overwritten only once the
+// next row has its path, so a store that fails in between has lost nothing.
 void StoreWithNewest(const std::vector<std::string>& paths) {
     const std::vector<settings::Row> rows = RowsOf(paths);
     if (std::all_of(rows.rbegin(), rows.rend(), StoreRow)) StoreCount(paths);
 }
 
-// From the first row down, as what is left moves up.
+// From the first row down, because the paths that are left move up.
 void StorePruned(const std::vector<std::string>& paths) {
     const std::vector<settings::Row> rows = RowsOf(paths);
     if (!std::all_of(rows.begin(), rows.end(), StoreRow) || !StoreCount(paths)) return;

@@ -14,8 +14,8 @@ namespace {
 
 using Show = BOOL(WINAPI*)(OPENFILENAMEW*);
 
-// The dialog makes the folder of what was chosen the program's current one, which then could not be renamed
-// or removed, nor its drive be taken out.
+// The dialog makes the folder of the chosen file the program's current one, which could then be neither
+// renamed nor removed, nor its drive ejected.
 class SystemFolderAfter {
  public:
     SystemFolderAfter() = default;
@@ -50,7 +50,8 @@ std::optional<std::string> Ask(const FileDialog& dialog, Show show) {
     const SystemFolderAfter after;
     const auto chosen = [&path] { return std::string(win::Trimmed(win::ToUtf8(path.data()))); };
     if (show(&record)) return chosen();
-    // A page may be titled with what is no file name. The system then shows no dialog at all.
+    // The proposed name comes from a page's caption, which need not be a file name. The system then shows no
+    // dialog at all.
     if (::CommDlgExtendedError() != FNERR_INVALIDFILENAME) return std::nullopt;
     path[0] = L'\0';
     return show(&record) ? std::optional(chosen()) : std::nullopt;

@@ -61,7 +61,8 @@ const wchar_t* DefaultExtension(DWORD filterIndex) {
     }
 }
 
-// Beside the page; a page without a file goes where the last file was, or where its user keeps documents.
+// The folder of the page's file; for a page without one that of the latest file, or the one where the user
+// keeps documents.
 std::string InitialFolder(const MainWindow& main, const frmChild* page) {
     std::string path = page ? page->Tag() : std::string();
     if (path.find('\\') == std::string::npos) path = main.menu().caption(mnuFileMRU + 1);
@@ -100,7 +101,7 @@ frmChild* SaveOrWarn(MainWindow& main, DocumentId id, const std::string& path) {
     try {
         saved = SaveDocument(main, id, path);
     } catch (const std::exception&) {
-        // Told below, like a disk that refuses.
+        // Reported below, like any write that fails.
     }
     frmChild* page = main.find(id);
     if (!page || saved) return page;
@@ -193,7 +194,7 @@ bool SaveDocument(MainWindow& main, DocumentId document, const std::string& path
     frmChild* page = main.find(document);
     if (!page) return false;
     if (page->txtPad().isReadOnly()) return false;
-    // No message is handled from here on: what is written is what the page holds when it counts as unchanged.
+    // No message is handled from here on: the page still is what was written when it is marked unchanged.
     const win::WaitCursor wait;
     const files::PageFile file = files::FileOf(*page);
     if (!files::ReplaceFileContents(path, file.bytes, [&] { main.keepCopy(*page); })) return false;

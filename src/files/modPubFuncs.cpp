@@ -10,7 +10,7 @@
 namespace modPubFuncs {
 namespace {
 
-// In the one spelling that all of a file's have: absolute, with long names, in upper case.
+// The one spelling for all paths of a file: absolute, with long names, in upper case.
 std::u16string Canonical(const std::string& path) {
     const std::wstring full = win::WidePath(path);
     std::wstring name(::GetLongPathNameW(full.c_str(), nullptr, 0), L'\0');
@@ -19,6 +19,7 @@ std::u16string Canonical(const std::string& path) {
 }
 
 }  // namespace
+
 bool FileExists(const std::string& path) {
     const DWORD attributes = ::GetFileAttributesW(win::WidePath(path).c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;

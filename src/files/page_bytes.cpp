@@ -47,11 +47,11 @@ std::u16string LinesOneByOne(HWND edit, std::u16string_view text) {
 std::u16string PageLines(document::RichEdit& pad) {
     const std::u16string text = pad.text();
     TerminatedLines lines = TerminateLines(text);
-    // Such lines the control cannot lay out unwrapped in any time that one would wait.
+    // Unwrapped, the control takes far too long to lay out such lines.
     if (document::HasLongLine(text)) return std::move(lines.text);
     const WithoutWrap unwrapped(pad);
-    // Asking the control for line after line takes time that grows with the square of the page, so it is
-    // done only where the control sees other breaks than we do.
+    // Asking the control for line after line takes time that grows with the square of the page, so it is done
+    // only where the control counts other lines than TerminateLines does.
     const auto counted = static_cast<std::size_t>(mTxtBoxAPI::LineCount(pad.hwnd()));
     return lines.count == counted ? std::move(lines.text) : LinesOneByOne(pad.hwnd(), text);
 }

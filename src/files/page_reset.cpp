@@ -44,7 +44,7 @@ void OnReset(MainWindow& main, int) {
     try {
         done = Reset(main, page->id(), path);
     } catch (const std::exception&) {
-        // Told below, like a file that cannot be read.
+        // Reported below, like a file that cannot be read.
     }
     if (done || !main.mainHwnd()) return;
     win::ShowMessage(

@@ -29,12 +29,12 @@ std::optional<RecoveryCopy> ReadCopy(const std::wstring& path) {
         const auto bytes = mBinOpen::ReadFileAtOnce(win::ToUtf8(path));
         return bytes ? Unpack(*bytes) : std::nullopt;
     } catch (const std::exception&) {
-        // Too much for the memory that is left.
+        // There is not enough memory for it.
         return std::nullopt;
     }
 }
 
-// Null when another program holds it; it goes with the handle.
+// Null when another program holds it. The system deletes the file with the handle.
 win::UniqueFile OpenLock(const std::wstring& path, DWORD disposition) {
     return win::UniqueFile(::CreateFileW(path.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, disposition,
                                          FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr));
@@ -58,7 +58,7 @@ std::vector<std::wstring> FilesLike(const std::wstring& pattern) {
 // The writing of one copy, on a thread of the system's pool. It owns all that it works with.
 class Recovery::Writing {
  public:
-    // Null when there is no such thread.
+    // Null when no thread can be had.
     static std::unique_ptr<Writing> start(const frmChild& page, std::wstring path) {
         auto writing = std::make_unique<Writing>();
         writing->page_ = page.id();
@@ -85,7 +85,7 @@ class Recovery::Writing {
         try {
             writing.failed_ = !ReplaceFileContents(win::ToUtf8(writing.path_), Pack(writing.copy_));
         } catch (const std::exception&) {
-            // The copy before stays.
+            // The old copy stays.
         }
         ::SetEvent(writing.done_.get());
         return 0;
@@ -109,8 +109,8 @@ std::wstring Recovery::copyPath(DocumentId page) const {
     return name_ + L'-' + win::ToWide(std::to_string(page)) + kCopyEnding;
 }
 
-// The lock tells that this program's copies are nobody else's. A number comes again; what a program of that
-// number has left is not to be written over.
+// The lock says that this program's copies are in use. Process numbers come again: what an earlier program of
+// the same number has left must not be overwritten.
 bool Recovery::lock() {
     if (lock_) return true;
     DWORD number = ::GetCurrentProcessId();
@@ -139,7 +139,7 @@ bool Recovery::write(const frmChild& page) {
         std::erase(toDelete_, file);
         writing_ = Writing::start(page, file);
     } catch (const std::exception&) {
-        // No memory: the copy before stays.
+        // Without memory for a new copy the old one stays.
     }
     return writing_ != nullptr;
 }
@@ -154,7 +154,7 @@ bool Recovery::isAnyDue() const {
 
 void Recovery::writeDue(MainWindow& main, DWORD now) {
     if (writing_ && !writing_->isDone()) return;
-    // What the disk did not take it may take later.
+    // A write that has failed may succeed later.
     if (writing_ && writing_->hasFailed()) noteChange(writing_->page(), now);
     awaitWriting();
     const auto due = std::find_if(due_.begin(), due_.end(), [now](const auto& entry) {

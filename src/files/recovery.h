@@ -13,7 +13,7 @@
 
 namespace files {
 
-// Of one running program. Failures do not throw: a full disk costs the copy and not the page.
+// Keeps the copies of one running program. Failures do not throw: a full disk costs the copy, not the page.
 class Recovery {
  public:
     // `folder` ends in a backslash.
@@ -26,18 +26,18 @@ class Recovery {
     void noteChange(DocumentId page, DWORD now);
     bool isAnyDue() const;
     // Writes the copies that are due: some seconds after the last change, half a minute after the first one
-    // at the latest, and again when the disk did not take it. The file is written beside, so that this takes
-    // no longer than reading the page does.
+    // at the latest, and again after a write that failed. Another thread writes the file, so that this takes
+    // no longer than reading the page.
     void writeDue(MainWindow& main, DWORD now);
-    // Has the page's copy hold what the page holds now; returns when it is written.
+    // Brings the page's copy up to date; returns when it is written.
     void writeNow(const frmChild& page);
     // The page has been saved or closed.
     void remove(DocumentId page);
-    // The page's window goes, and its copy stays for the next start.
+    // The page is being closed, and its copy stays for the next start.
     void leave(DocumentId page);
 
-    // Takes over the copies that programs have left behind which no longer run; the name of each is to be
-    // handed to adopt() with the page made of it.
+    // Takes over the copies left by programs that no longer run. Pass the file of each to adopt() with the
+    // page that was made of it.
     struct Found {
         RecoveryCopy copy;
         std::wstring file;
@@ -63,7 +63,7 @@ class Recovery {
     win::UniqueFile lock_;  // held as long as the program runs, and deleted by the system with its end
     std::map<DocumentId, Due> due_;
     std::map<DocumentId, std::wstring> copies_;
-    std::vector<std::wstring> toDelete_;  // what a scanner, say, held when it was no longer needed
+    std::vector<std::wstring> toDelete_;  // no longer needed, but held by another program
     std::unique_ptr<Writing> writing_;
 };
 

@@ -100,7 +100,7 @@ void frmCrypt::SaveSiteEntry(bool savePassword, const std::string& password) {
 void frmCrypt::checkUrl() {
     const HWND focus = ::GetFocus();
     const bool inDialog = focus && (focus == hwnd() || ::IsChild(hwnd(), focus));
-    // A message of the dialog's own takes the focus too.
+    // A message box of the dialog's own takes the focus too.
     if (inDialog || !::IsWindowEnabled(hwnd())) return;
     const std::string entered = itemText(txtURL);
     const std::string url(ftp::StripScheme(entered));

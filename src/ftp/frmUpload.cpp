@@ -18,7 +18,7 @@ namespace {
 
 constexpr UINT kLoad = WM_APP;
 constexpr UINT kUpload = WM_APP + 1;  // what was dropped before
-// How long, in milliseconds, a closed window lets the server finish what it is at.
+// How long, in milliseconds, a window that closes waits for the server.
 constexpr DWORD kTimeout = 1000;
 
 constexpr char kNoConnection[] = "Cannot connect to FTP site...";
@@ -45,7 +45,7 @@ frmUpload::Busy::Busy(frmUpload& form, const char* status) : form_(form), focus_
 }
 
 frmUpload::Busy::~Busy() {
-    // What was clicked and typed meanwhile still finds the window at work, and comes to nothing.
+    // Clicks and keys from meanwhile still find the window at work, and do nothing.
     if (form_.busy_ == 1) win::RunPending();
     if (--form_.busy_ == 0) form_.finishWork(focus_);
 }
@@ -58,7 +58,7 @@ void frmUpload::open(MainWindow& main, int siteIndex, ftp::SessionMaker makeSess
     if (!::IsWindow(connecting)) return;
     auto* form = new frmUpload(main, siteIndex, connecting, makeSession);
     form->createModeless(main.mainHwnd());
-    // As a message, because the object lasts as long as one of its handlers runs.
+    // As a message, because the object lives as long as one of its handlers runs.
     ::SendMessageW(form->hwnd(), kLoad, 0, 0);
 }
 
@@ -372,8 +372,7 @@ INT_PTR frmUpload::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             load();
             return TRUE;
         case win::kDropped:
-            // The program that the files come from is not kept waiting for the server, and may take them
-            // back.
+            // The source program does not wait for the server, and may delete its files.
             if (!win::DroppedFiles()) return TRUE;
             dropped_ = ftp::OpenFiles(*win::DroppedFiles());
             ::PostMessageW(hwnd(), kUpload, 0, 0);

@@ -22,18 +22,19 @@ class frmUpload : public win::Dialog {
     // that shows this site already comes to the front, another one makes room unless it is at work.
     static void open(MainWindow& main, int siteIndex, ftp::SessionMaker makeSession);
 
-    // Both set: there is nothing that the window could be good for.
+    // With both set the window is of no use.
     bool notConnected = true;   // the session could not be opened
     bool noInfoNeeded = false;  // nor does the window wait for anything from the user
 
     // What its commands work with.
 
     MainWindow& main() const { return main_; }
-    // False once the window is going. To be asked after all that lets messages through: a message box, work.
+    // False once the window is closing. To be asked again after whatever handles messages: a message box,
+    // work().
     bool isThere() const { return hwnd() && !closeWanted_; }
     int say(const std::string& text, const char* title = "Quillon", UINT style = MB_OK) const;
-    // Shows the status while the request works with the session, and gives its answer; nothing when the
-    // window goes before that.
+    // Shows the status while the request runs on the session, and returns its answer; nothing when the window
+    // is closed before that.
     template <typename Request>
     auto work(const char* status, Request request) {
         const Busy busy(*this, status);
@@ -42,7 +43,8 @@ class frmUpload : public win::Dialog {
         if (!isThere()) answer.reset();
         return answer;
     }
-    // The same for a request that changes the directory: lists it anew and gives true when that was granted.
+    // The same for a request that changes the directory. When it succeeds, lists the directory anew and
+    // returns true.
     template <typename Request>
     bool change(const char* status, Request request) {
         const Busy busy(*this, status);
@@ -50,7 +52,7 @@ class frmUpload : public win::Dialog {
         if (granted && isThere()) ListRemote();
         return granted;
     }
-    // Sends files into the current directory; nothing when the window goes before the end.
+    // Sends files into the current directory; nothing when the window is closed before the end.
     std::optional<ftp::Unsent> send(std::vector<ftp::LocalFile> files);
     void ListRemote();
     const ftp::SiteSession& session() const { return session_; }
@@ -59,8 +61,8 @@ class frmUpload : public win::Dialog {
     // In txtCurDir, until the next work.
     void showResult(const std::string& text);
 
-    // The window while it works: nothing in it can be clicked, the pointer shows it, and closing waits a
-    // moment for the end. The other windows go on: all that a request lets through can happen.
+    // The window while it works: its controls are disabled, the pointer is an hourglass, and closing waits a
+    // moment for the end of the work. The other windows can be used, so anything can happen meanwhile.
     class Busy {
      public:
         explicit Busy(frmUpload& form, const char* status = nullptr);
@@ -92,13 +94,13 @@ class frmUpload : public win::Dialog {
     void startInSiteDirectory();
     // The user has closed this window, or the connecting one, while the session works.
     void closeDuringWork();
-    // Whether what is being sent, if anything is, may be broken off. If not, `otherwise` follows the
+    // Asks the user, if something is being sent, whether to break that off. If not, `otherwise` follows the
     // work.
     enum class AtEnd { stay, close, closeProgram };
     bool mayBreakOff(AtEnd otherwise);
     void giveUp();
     void CloseSession();
-    // Whether this window is the one to stay for a site.
+    // Whether this window stays when a site is to be opened: it shows the site already, or it is busy.
     bool comeForward(int siteIndex);
 
     void showMenu(POINT at);

@@ -122,7 +122,8 @@ class WinInetSession final : public FtpSession {
 
     void close() override {
         server_.reset();
-        // What is being reached has no connection yet that would end with this: Follow() ends it.
+        // While the server is being reached there is no connection yet that would end with this: Follow()
+        // ends it.
         if (!isReaching_) internet_.reset();
     }
 
@@ -171,8 +172,8 @@ class WinInetSession final : public FtpSession {
     }
 
  private:
-    // The call that connects also logs in. On the thread that waits for it the system tells each step, and
-    // before the first a handle: when that is closed, nothing more is sent.
+    // The call that connects also logs in. On the thread that waits for it the system reports each step, and
+    // a handle before the first: once that is closed, nothing more is sent.
     static void CALLBACK Follow(HINTERNET, DWORD_PTR context, DWORD status, LPVOID about, DWORD) {
         auto& self = *reinterpret_cast<WinInetSession*>(context);
         if (status == INTERNET_STATUS_CONNECTED_TO_SERVER) self.isReaching_ = false;
@@ -184,7 +185,7 @@ class WinInetSession final : public FtpSession {
         }
     }
 
-    // A call's result, after a look at why it failed.
+    // Passes on a call's result, and notes when it has failed because the connection is lost.
     bool note(bool done) {
         if (done) return true;
         const DWORD error = ::GetLastError();
@@ -208,7 +209,7 @@ class WinInetSession final : public FtpSession {
         return file;
     }
 
-    // What breaks off here is the transfer; whether the server has gone too tells its answer.
+    // A failure here ends the transfer; the server's answer tells whether the connection is lost too.
     bool send(const ReadChunk& read, HINTERNET to) const {
         std::vector<char> chunk(kChunk);
         while (!stopped_) {
@@ -237,8 +238,8 @@ class WinInetSession final : public FtpSession {
         return false;
     }
 
-    // Closing the file is what the server answers to. Where the system keeps that answer to itself, the next
-    // command meets it, or the end of the connection.
+    // The server answers when the file is closed. Where the system keeps that answer to itself, the next
+    // command shows whether the connection still stands.
     bool finish(UniqueInternet& file) {
         if (!note(kInternetCloseHandle(file.release()))) return false;
         const int code = AnswerCode();

@@ -18,12 +18,12 @@ struct RemoteEntry {
     unsigned long size = 0;        // bytes, the low 32 bits
 };
 
-// Gives the next bytes of what is sent: how many went into the chunk, 0 at the end, nothing on failure.
+// Reads the next bytes to send into the chunk and returns how many: 0 at the end, nothing on failure.
 using ReadChunk = std::function<std::optional<std::size_t>(char* chunk, std::size_t size)>;
 
 // What WinINet offers, behind an interface so that a test can refuse what no server can. Every call waits for
-// the server's answer, so that it belongs on a thread which no window lives on, and gives false or nothing
-// on failure. All texts are the server's own bytes.
+// the server's answer, so it belongs on a thread without windows, and returns false or nothing on failure.
+// All texts are the server's own bytes.
 class FtpSession {
  public:
     FtpSession() = default;
@@ -37,17 +37,17 @@ class FtpSession {
     virtual bool open() = 0;
     virtual bool connect(const std::string& host, const std::string& user, const std::string& password) = 0;
 
-    // These may be asked and done on any thread.
+    // These may be called on any thread.
     virtual bool isConnected() const = 0;
-    // Whether the server has gone, or has kept silent: a failure of any other kind is its refusal.
+    // Whether the connection is lost or the server silent; any other failure is a refusal of the server's.
     virtual bool isLost() const = 0;
-    // Ends a call that waits too, where the system can.
+    // Also ends a waiting call, where the system can.
     virtual void close() = 0;
-    // Begins no call any more, and breaks off a transfer and a listing.
+    // From then on no call is begun; a transfer or a listing is broken off.
     virtual void stop() = 0;
 
     virtual std::optional<std::string> currentDirectory() = 0;
-    // Hands over the entries that match a pattern, in the server's order, until `take` gives false.
+    // Passes the entries that match a pattern to `take`, in the server's order, until that returns false.
     virtual void list(const std::string& pattern, const std::function<bool(const RemoteEntry&)>& take) = 0;
     virtual bool changeDirectory(const std::string& directory) = 0;
     virtual bool createDirectory(const std::string& name) = 0;

@@ -25,7 +25,7 @@ std::string CannotBeSent(const std::string& name) {
     return "The server cannot be given the name " + name + ".\r\nChoose another name, of plain letters.";
 }
 
-// The name as the server is to get it; says so when it cannot.
+// The name as it goes to the server; tells the user when it cannot be sent.
 std::optional<std::string> NameForServer(const frmUpload& form, const std::string& typed, const char* title) {
     std::optional<std::string> name = SentName(typed, document::SystemCodePages());
     if (!name) form.say(CannotBeSent(typed), title, MB_ICONEXCLAMATION);

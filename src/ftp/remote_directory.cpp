@@ -17,7 +17,7 @@ std::vector<RemoteFile> ListFiles(FtpSession& session) {
 // False when the session may have stayed in one of them.
 bool MarkDirectories(FtpSession& session, RemoteDirectory& directory) {
     for (RemoteFile& file : directory.files) {
-        // A server that has stopped to answer would be waited for once an entry.
+        // A server that no longer answers would be waited for at every entry.
         if (session.isLost() || !session.isConnected()) return true;
         if (file.isDirectory() || !session.changeDirectory(JoinRemote(directory.path, file.name))) continue;
         file.markAsDirectory();
@@ -38,7 +38,7 @@ RemoteDirectory ReadDirectory(FtpSession& session, const std::string& known) {
         return {};
     }
     if (*now == directory.path) return directory;
-    // No more tries on a server that lets nobody back.
+    // No more tries on a server that does not let the session back.
     return {*now, ListFiles(session)};
 }
 

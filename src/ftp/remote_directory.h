@@ -14,9 +14,9 @@ struct RemoteDirectory {
     std::vector<RemoteFile> files;
 };
 
-// The session's current directory; `known` is where it is when the server does not say. What the listing does
-// not mark as a directory is tried out. Each of these tries leads back, or the session is where the path says
-// that it is; where that cannot be found out, it is closed.
+// Reads the session's current directory; `known` is its path where the server does not say. Entries that the
+// listing does not mark as directories are tried out by entering them. Afterwards the session is in the
+// directory of the result; where that cannot be made sure of, it is closed.
 RemoteDirectory ReadDirectory(FtpSession& session, const std::string& known);
 
 // Bytes, the low 32 bits; nothing when there is no such file.

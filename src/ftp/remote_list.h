@@ -9,12 +9,12 @@
 
 namespace ftp {
 
-// What is dropped on it goes to its parent.
+// Drops are passed on to its parent.
 class RemoteList : public win::Control {
  public:
     void attach(HWND listBox);
 
-    // Instead of what it shows.
+    // In place of what it shows.
     void show(std::vector<RemoteFile> files);
     const RemoteFile* selected() const;  // null when there is none
     // Selects the entry with this name, of the server's bytes, and scrolls to it; nothing happens when there

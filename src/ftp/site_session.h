@@ -14,8 +14,8 @@
 
 namespace ftp {
 
-// What it asks of the server it asks on another thread, and lets messages through until there is an answer:
-// anything can happen meanwhile.
+// Requests run on another thread, and messages are handled until there is an answer: anything can happen
+// meanwhile.
 class SiteSession {
  public:
     explicit SiteSession(SessionMaker makeSession) : session_(makeSession()) {}
@@ -23,8 +23,8 @@ class SiteSession {
     SiteSession(const SiteSession&) = delete;
     SiteSession& operator=(const SiteSession&) = delete;
 
-    // Has the request work with the session, and gives its answer; nothing when the session has been given
-    // up. The request may outlive this object and all windows, so it owns what it works with.
+    // Runs the request on the session and returns its answer; nothing when the session has been given up. The
+    // request may outlive this object and all windows, so it must own what it uses.
     template <typename Request>
     auto ask(Request request) {
         using Answer = std::invoke_result_t<Request&, FtpSession&>;
@@ -42,22 +42,21 @@ class SiteSession {
     bool hasPassword() const { return !password_.empty(); }
     void setPassword(const std::string& typed);
 
-    // True also for the user who does not want to wait: there is nothing to tell.
+    // True also when the session has been given up: there is nothing to report then.
     bool dial();
     enum class Opened { yes, noNetworking, noServer };
-    // The password is forgotten with it.
+    // Forgets the password.
     Opened open();
-    // Begins where the site's address says; false when that is refused.
+    // Enters the directory of the site's address; false when the server refuses.
     bool enterStart();
     bool isConnected() const { return session_->isConnected() && !worker_.isGivenUp(); }
     bool isLost() const { return session_->isLost(); }
     // Not while a request is under way.
     void close();
-    // A request that is under way is to end now, and is waited for these milliseconds at most. There is none
-    // after it.
+    // Ends the request that is under way, waiting at most this long, in milliseconds. None can follow.
     void giveUp(DWORD timeout);
 
-    // Asks where the session is, and what is there; nothing when it has been given up.
+    // Reads the current directory; nothing when the session has been given up.
     std::optional<std::vector<RemoteFile>> readDirectory();
     const std::string& directory() const { return current_; }
     std::string shownDirectory() const;
@@ -67,7 +66,7 @@ class SiteSession {
     std::shared_ptr<FtpSession> session_;
     win::Worker worker_;
     std::string url_;
-    std::string user_;      // this and what follows is the server's
+    std::string user_;      // in the server's bytes, as is what follows
     std::string password_;  // only until the server has it
     std::string root_;      // the directory that the session started in
     std::string current_;

@@ -11,9 +11,9 @@
 
 namespace ftp {
 
-// A file as it was when this was made: read whole, since Windows lets nobody swap in a new one while the old
-// one is open, and a program that gives a file away only for a moment takes it back. One that would take more
-// than `room` bytes, or is larger than any page, stays open instead, shared in every way.
+// A file as it was when this object was made. It is read whole, because Windows lets nobody replace a file
+// that is open, and because the source of a drop may delete its file at once. One of more than `room` bytes,
+// or larger than any page, stays open instead, shared in every way.
 class LocalFile {
  public:
     LocalFile(const std::string& path, std::size_t& room);
@@ -38,12 +38,12 @@ std::vector<LocalFile> OpenFiles(const std::vector<std::string>& paths);
 // What did not arrive, by the files' names.
 struct Unsent {
     std::vector<std::string> failed;
-    std::vector<std::string> unnameable;  // that the server would not get right: these were not tried
+    std::vector<std::string> unnameable;  // not tried, because the server would get another name
 
     bool none() const { return failed.empty() && unnameable.empty(); }
 };
 
-// Sends each file into a remote directory until the server has gone: then the rest has failed too.
+// Sends each file into a remote directory until the connection is lost: the rest has then failed too.
 Unsent Send(FtpSession& session, std::vector<LocalFile>& files, const std::string& directory);
 
 // True when the file at `path` is the remote file, whole; false leaves what was there.

@@ -21,10 +21,8 @@ constexpr win::DelayLoaded<decltype(&::VerQueryValueW)> kVerQueryValue{"version.
 
 constexpr char kDescription[] =
     "Description: Small in file size yet robust in features, Quillon edits any number of pages at once, "
-    "writes "
-    "tags, scripts and image sizes for you, shows the web-safe colors, finds and replaces, previews and "
-    "prints, "
-    "checks spelling, keeps your templates, and uploads pages to your sites by FTP.\r\n"
+    "writes tags, scripts and image sizes for you, shows the web-safe colors, finds and replaces, previews "
+    "and prints, checks spelling, keeps your templates, and uploads pages to your sites by FTP.\r\n"
     "   What I wanted above all was a program without baggage: Quillon is a stand-alone executable, needs no "
     "installation, and is small enough to be carried on a diskette.";
 
@@ -44,14 +42,14 @@ std::string Version() {
            "." + std::to_string(LOWORD(info.dwFileVersionLS));
 }
 
-// A SysLink would answer with its mark-up where a reader of the screen, or we, ask for its text.
+// Asked for its text, by a screen reader or this program, a SysLink would answer with its mark-up.
 LRESULT CALLBACK TellCaption(HWND link, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
     if (message == WM_GETTEXT || message == WM_GETTEXTLENGTH)
         return ::DefWindowProcW(link, message, wParam, lParam);
     return ::DefSubclassProc(link, message, wParam, lParam);
 }
 
-// Makes all of its text a link, and has it go on telling the text alone.
+// Makes all of its text a link, and keeps the plain text as the window's.
 void MakeLink(HWND link) {
     const std::wstring caption = win::ToWide(win::WindowText(link));
     ::SendMessageW(link, WM_SETTEXT, 0, reinterpret_cast<LPARAM>((L"<a>" + caption + L"</a>").c_str()));

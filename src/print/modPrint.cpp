@@ -160,7 +160,7 @@ class Job {
     bool ended_ = false;
 };
 
-// A printer that prints into a file asks for its name, and the user may think better of it.
+// A printer that prints into a file asks for its name, and the user may cancel.
 bool UserCancelled(const win::Error& error) {
     return error.code() == ERROR_CANCELLED || error.code() == ERROR_PRINT_CANCELLED;
 }
@@ -190,7 +190,7 @@ void OnFilePrint(MainWindow& main, int) {
     } catch (const win::Error& error) {
         if (UserCancelled(error)) return;
     } catch (...) {
-        // As any other.
+        // Reported below, like any other failure.
     }
     win::ShowMessage(main.mainHwnd(), "Printer Error", "Quillon", MB_ICONEXCLAMATION);
 }

@@ -8,8 +8,8 @@
 
 // They lie where Windows' Basic runtimes have always kept an application's settings,
 // HKEY_CURRENT_USER\Software\VB and VBA Program Settings\Quillon\<section>, so that tools that save or move
-// such settings find them. Values are texts of any length in which any character may
-// occur. Nothing is cached.
+// such settings find them. Values are texts of any length, in which any character may occur. Nothing is
+// cached.
 namespace settings {
 
 // The stored value, or `fallback` when there is none; an empty value is a value.

@@ -72,7 +72,7 @@ void frmNotePad::createParts() {
         win::Check(::CreateWindowExW(WS_EX_CLIENTEDGE, L"MDICLIENT", nullptr,
                                      WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_HSCROLL | WS_VSCROLL, 0, 0,
                                      0, 0, hwnd(), nullptr, ::GetModuleHandleW(nullptr), &client));
-    // Its scroll bars come when a page lies outside; until it has looked it would show empty ones.
+    // It shows scroll bars once a page lies outside. At first it would show empty ones.
     ::ShowScrollBar(mdiClient_, SB_BOTH, FALSE);
     Picture2_ = &shell::Toolbar::open(hwnd());
     Picture3_ = &shell::StatusStrip::open(hwnd());
@@ -90,8 +90,8 @@ void frmNotePad::layOut() const {
     ::MoveWindow(mdiClient_, 0, top, area.right, std::max(0, bottom - top), TRUE);
 }
 
-// Colours, a visual style, fonts or measures of the system's have changed. It tells the main windows only,
-// but for the style.
+// The system's colours, visual style, fonts or metrics have changed. Except for the style, it tells top-level
+// windows only.
 void frmNotePad::followSystem(UINT message, WPARAM wParam, LPARAM lParam) {
     menuPictures_.addTo(menu_);
     if (message != WM_THEMECHANGED) {
@@ -202,8 +202,7 @@ void frmNotePad::restorePages() {
     for (const auto& [copy, file] : recovery_.takeOver()) {
         try {
             frmChild& page = frmChild::open(*this, copy.caption, {copy.text, copy.encoding});
-            // A file that is open already keeps its window; what comes back beside it needs a name of its
-            // own.
+            // Where the file is open already, the page comes back beside it without a path.
             if (!modPubFuncs::IsFileOpen(*this, copy.path)) page.setTag(copy.path);
             page.txtPad().setChanged(true);
             page.txtPad().select(static_cast<long>(copy.caret), static_cast<long>(copy.caret));
@@ -269,7 +268,7 @@ void frmNotePad::restoreDocuments() const {
     for (const frmChild* document : documents_) {
         ::SendMessageW(mdiClient_, WM_MDIRESTORE, reinterpret_cast<WPARAM>(document->hwnd()), 0);
     }
-    // Each of them has come to the front; the page that was there goes on.
+    // Each of them has come to the front; bring back the page that was there.
     if (active) ::SendMessageW(mdiClient_, WM_MDIACTIVATE, active, 0);
 }
 
@@ -293,7 +292,7 @@ bool frmNotePad::closeDocuments() {
 }
 
 void frmNotePad::close() {
-    // While a dialog waits for its answer, or a page is just being closed, this window cannot go.
+    // This window cannot close while a dialog is open or a page is being closed.
     const bool pageIsClosing = std::any_of(documents_.begin(), documents_.end(),
                                            [](const frmChild* document) { return document->isClosing(); });
     if (closing_ || pageIsClosing || !::IsWindowEnabled(hwnd())) return;
@@ -341,7 +340,7 @@ LRESULT frmNotePad::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             if (wParam == kCopyTimer) writeDueCopies();
             return 0;
         case WM_QUERYENDSESSION:
-            // The pages are asked about at the next start, if the session really ends.
+            // If the session really ends, the pages come back at the next start.
             writeAllCopies();
             return TRUE;
         case WM_ENDSESSION:

@@ -16,8 +16,7 @@ class frmNotePad : public win::Window, public MainWindow {
  public:
     // Creates the window, not shown yet.
     static frmNotePad& open();
-    // Opens the changed pages that a program which did not end by itself has left behind, below the active
-    // one.
+    // Opens the changed pages that a program has left which did not end by itself, behind the active page.
     void restorePages();
 
     HWND mainHwnd() const override { return hwnd(); }

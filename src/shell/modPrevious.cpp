@@ -32,7 +32,7 @@ std::string ClassOf(HWND window) {
     return win::ToUtf8({name, static_cast<std::size_t>(length)});
 }
 
-// By its class as well: a folder in the Explorer, say, may have such a title too.
+// By its class as well, because an Explorer window may have such a title too.
 HWND FindMain() {
     return FindWindowLike("*Quillon*", "frmNotePad");
 }
@@ -78,7 +78,7 @@ void TypeText(std::wstring_view text) {
     Send(keys);
 }
 
-// F3 with one of them is another key.
+// With one of them held down, F3 is another key.
 bool ModifiersAreUp() {
     for (const int key : {VK_SHIFT, VK_CONTROL, VK_MENU, VK_LWIN, VK_RWIN}) {
         if (::GetAsyncKeyState(key) < 0) return false;
@@ -117,8 +117,8 @@ struct OpenDialog {
     }
 };
 
-// A dialog of the main window's that is in front with the focus in an edit box and was not there before. The
-// main window waits for it, as it does not for the dialogs of Find and Replace.
+// A dialog of the main window's that was not there before, is in front and has the focus in an edit box. It
+// is modal, unlike Find and Replace: the main window is disabled.
 OpenDialog NewDialog(HWND main, const std::vector<HWND>& before) {
     const HWND front = ::GetForegroundWindow();
     const std::vector<HWND> now = DialogsOf(main);
@@ -141,7 +141,7 @@ OpenDialog CallOpenDialog(HWND main) {
     return dialog;
 }
 
-// In pieces, each only while the dialog has the keyboard: the user's hands may be quicker.
+// Types in pieces, each only while the dialog has the focus: the user may be typing as well.
 bool TypeInto(const OpenDialog& dialog, std::wstring_view path) {
     std::wstring_view typed;
     while (typed.size() < path.size()) {
@@ -193,7 +193,7 @@ class Turn {
 
 enum class Outcome { done, failed, isFirst };
 
-// Waits for a main window that is still to come, and for one that a dialog keeps waiting.
+// Waits for a main window that is not there yet, or is disabled by a dialog.
 Outcome Transfer(InstanceMark& mark, const std::string& path) {
     const Turn turn;
     HWND main = nullptr;

@@ -7,7 +7,7 @@
 
 namespace modPrevious {
 
-// What says to later starts that this instance runs: a mutex that the first one owns until it ends.
+// Tells later starts that an instance is running: a mutex that the first one owns until it ends.
 class InstanceMark {
  public:
     InstanceMark();

@@ -22,7 +22,7 @@ namespace {
 constexpr int kLeft = 180;  // twips
 constexpr int kTop = 160;
 
-// Opens the start document and gives why that cannot be done; nothing when it is open.
+// Opens the start document. Returns why that has failed; an empty text when it is open.
 std::string OpenStartDocument(MainWindow& main, const std::string& path) {
     try {
         if (path.empty()) {
@@ -36,7 +36,7 @@ std::string OpenStartDocument(MainWindow& main, const std::string& path) {
     }
 }
 
-// The recent files. A first start greets, unless it has a file to show or to tell of.
+// Shows the recent files. A first start greets the user, unless a file was named.
 void FillRecentFiles(MainWindow& main, const std::string& path, bool opened) {
     const bool isFirst = settings::Get("File Count", "Count").empty();
     if (!isFirst || path.empty()) {
@@ -50,7 +50,7 @@ void LoadAll(MainWindow& main, const std::string& file) {
     modWndPos::MoveTo(main.mainHwnd(), kLeft, kTop);
     ftp::LoadSiteMenu(main);
     mTemplateLoad::ShowTemplateMenu(main);
-    // The window comes up with its page in it, so that all is painted once.
+    // The window is shown with its page in it, so that all is painted once.
     const std::string path = modPubFuncs::FileExists(file) ? file : std::string();
     const std::string problem = OpenStartDocument(main, path);
     ::ShowWindow(main.mainHwnd(), SW_SHOWDEFAULT);
@@ -84,7 +84,7 @@ void Load(MainWindow& main, const std::string& file) {
         main.enableNew(main.activeDocument() != nullptr);
         basMRU::LoadRecentFiles(main);
     } catch (const std::exception&) {
-        // It has been said already that something is wrong; the program goes on without the list.
+        // The user knows already that something is wrong; the program goes on without the list.
     }
 }
 

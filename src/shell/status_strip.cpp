@@ -36,7 +36,7 @@ void StatusStrip::setLineNo(const std::string& text) const {
     ::SetWindowTextW(lblLineNo_, win::ToWide(text).c_str());
 }
 
-// The system's for messages.
+// Uses the system's font for messages.
 void StatusStrip::useFont() {
     NONCLIENTMETRICSW metrics{};
     metrics.cbSize = sizeof metrics;

@@ -20,7 +20,8 @@ Toolbar& Toolbar::open(HWND parent) {
     WNDCLASSEXW cls{};
     cls.lpszClassName = L"Picture2";
     cls.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
-    // Growing by a row it would else paint over the pages, which are moved down with what stands there.
+    // Unclipped, a strip that grows by a row would paint over the pages, and what it painted would be moved
+    // down with them.
     self->create(cls, "Toolbar", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_CLIPSIBLINGS,
                  WS_EX_CONTROLPARENT, {0, 0, 0, 0}, parent);
     return *self;

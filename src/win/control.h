@@ -5,7 +5,8 @@
 
 namespace win {
 
-// Belongs to the object of the window that holds the control; the control may go before it or with it.
+// Owned by the object of the window that holds the control. The control may be destroyed before it or with
+// it.
 class Control {
  public:
     Control() = default;
@@ -13,7 +14,7 @@ class Control {
     Control& operator=(const Control&) = delete;
     virtual ~Control();
 
-    HWND hwnd() const { return hwnd_; }  // null before attach() and after the control has gone
+    HWND hwnd() const { return hwnd_; }  // null before attach() and once the control is destroyed
 
  protected:
     // Takes over the messages of a control that does not use its GWLP_USERDATA.

@@ -113,7 +113,7 @@ INT_PTR Dialog::dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
     return result;
 }
 
-// What was thrown in the handler of a message. A dialog that could not be made is not shown.
+// Deals with what the handler of a message has thrown. A dialog whose start has failed is not shown.
 void Dialog::fail(UINT message, const char* what) {
     if (message != WM_INITDIALOG) {
         ShowMessage(hwnd_, what, "Quillon", MB_ICONEXCLAMATION);

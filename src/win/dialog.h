@@ -15,7 +15,7 @@ class Dialog {
     Dialog& operator=(const Dialog&) = delete;
     virtual ~Dialog() = default;
 
-    HWND hwnd() const { return hwnd_; }  // null before and after the window's life
+    HWND hwnd() const { return hwnd_; }  // null before the window is created and once it is destroyed
 
     // The modeless dialog of this template that was shown last for `owner`; null when it is not open.
     static Dialog* find(HWND owner, const char* templateName);
@@ -38,15 +38,15 @@ class Dialog {
     // `templateName` is the name of the dialog template, which is the form's.
     explicit Dialog(const char* templateName) : templateName_(templateName) {}
 
-    // Before the dialog is shown. True lets the system put the focus on the first control. When it throws the
-    // dialog is not shown, and whoever makes it gets a win::Failure.
+    // Before the dialog is shown. True lets the system put the focus on the first control. If it throws, the
+    // dialog is not shown, and the call that creates it throws a win::Failure.
     virtual bool onInit() { return true; }
     // WM_COMMAND of a control or a menu item; true says that it has been dealt with. IDCANCEL, which Esc and
     // the close box send, closes the dialog unless it is dealt with here.
     virtual bool onCommand(WORD id, WORD notification);
     // All other messages, with the results of a DLGPROC.
     virtual INT_PTR onMessage(UINT message, WPARAM wParam, LPARAM lParam);
-    // Just before the window goes, whoever closes it.
+    // Just before the window is destroyed, whoever closes it.
     virtual void onClosing() {}
 
     HWND item(int id) const { return ::GetDlgItem(hwnd_, id); }
@@ -54,7 +54,7 @@ class Dialog {
     void setItemText(int id, std::string_view text) const;
     void enableItem(int id, bool enabled) const { ::EnableWindow(item(id), enabled); }
     bool isChecked(int id) const { return ::IsDlgButtonChecked(hwnd_, id) == BST_CHECKED; }
-    // Has the caption show the program's icon, where the system would show one of its own.
+    // Shows the program's icon in the caption, in place of the system's.
     void showProgramIcon() const;
     // As Tab would: the default button follows, and the text of an edit box is selected.
     void focusItem(int id) const;

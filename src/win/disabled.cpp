@@ -19,11 +19,11 @@ Disabled::Disabled(HWND except) {
 
 Disabled::~Disabled() {
     for (const HWND window : windows_) {
-        // The handle of a window that has gone may be another program's by now.
+        // The handle of a destroyed window may be another program's by now.
         if (::GetWindowThreadProcessId(window, nullptr) == ::GetCurrentThreadId())
             ::EnableWindow(window, TRUE);
     }
-    // A window that is disabled loses it.
+    // Disabling a window takes the focus from it.
     if (!::GetFocus() && ::IsWindow(focus_)) ::SetFocus(focus_);
 }
 

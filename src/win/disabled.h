@@ -1,4 +1,4 @@
-// Keeping the program's windows from being used while something must not change under it.
+// Keeping the user from the program's windows while nothing in them may change.
 #pragma once
 
 #include <vector>
@@ -7,10 +7,10 @@
 
 namespace win {
 
-// Disables this thread's top-level windows, all that can be seen and are enabled but the one given, until the
-// scope ends; then exactly those are enabled again, and the focus is back. What was disabled before stays so.
-// A dialog or a box that is shown meanwhile can be used; its owner, which it disables and enables itself, is
-// the one to leave out: a box that goes while its owner is disabled brings another program to the front.
+// Until the scope ends, disables this thread's visible top-level windows except the one given. Then enables
+// those again, and no others, and gives the focus back. A dialog or a message box that is shown meanwhile can
+// be used. Leave out its owner, which it disables and enables itself: if the owner were still disabled when
+// the box closes, another program would come to the front.
 class Disabled {
  public:
     explicit Disabled(HWND except = nullptr);

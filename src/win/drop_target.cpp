@@ -27,13 +27,13 @@ std::vector<std::string> FilesOf(IDataObject& data) {
     return paths;
 }
 
-// The drop that is being told.
+// The paths of the drop that is being sent.
 const std::vector<std::string>*& Current() {
     static const std::vector<std::string>* current = nullptr;
     return current;
 }
 
-// Owned by the system's references alone: a program that drags may hold one when the window has gone.
+// Owned by the system's references alone: the source program may still hold one when the window is destroyed.
 class DropTarget : public IDropTarget {
  public:
     explicit DropTarget(HWND window) : window_(window) {}
@@ -64,7 +64,7 @@ class DropTarget : public IDropTarget {
 
     STDMETHOD(Drop)(IDataObject* data, DWORD, POINTL, DWORD* effect) override {
         const DWORD taken = allowed(*effect);
-        // Never a move: the source would delete what it gave.
+        // Never a move: the source would delete its files.
         *effect = taken == DROPEFFECT_MOVE ? DROPEFFECT_NONE : taken;
         if (taken == DROPEFFECT_NONE || !data) return S_OK;
         try {
@@ -78,7 +78,7 @@ class DropTarget : public IDropTarget {
     }
 
  private:
-    // One effect of those that the source offers, none while work or a dialog keeps the user from the window.
+    // One of the effects that the source offers; none while the window is disabled by work or a dialog.
     DWORD allowed(DWORD offered) const {
         if (!::IsWindowEnabled(window_) || !::IsWindowEnabled(::GetAncestor(window_, GA_ROOT)))
             return DROPEFFECT_NONE;

@@ -8,19 +8,19 @@
 
 namespace win {
 
-// Sent to a window that something was dropped onto, while the program that drags waits. The message carries
-// nothing, since any program could send it: DroppedFiles() says what it is about.
+// Sent to a window onto which something was dropped, while the source program waits. The message carries no
+// data, because any program could send it: DroppedFiles() has them.
 inline constexpr UINT kDropped = WM_APP + 0x101;
 
-// During kDropped: the paths of the dropped files in their order, none when it was something else than files.
-// Null at any other time.
+// During kDropped, the paths of the dropped files in their order; none when something other than files was
+// dropped. Null at any other time.
 const std::vector<std::string>* DroppedFiles();
 
-// Tells a window of a drop.
+// Sends kDropped to a window.
 void SendDropped(HWND window, const std::vector<std::string>& paths);
 
-// In place of a drop target that the window's class has registered. Where the system refuses, the window
-// takes no drops. It calls RefuseDrops before it goes.
+// Makes a window a drop target, in place of the one that its class may have registered. Where the system
+// refuses, the window takes no drops. Call RefuseDrops before the window is destroyed.
 void AcceptDrops(HWND window);
 void RefuseDrops(HWND window);
 

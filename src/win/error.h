@@ -9,7 +9,7 @@
 
 namespace win {
 
-// Something of our own that went wrong.
+// A failure of the program's own.
 class Failure : public std::exception {
  public:
     explicit Failure(std::string what) : what_(std::move(what)) {}

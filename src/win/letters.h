@@ -1,4 +1,4 @@
-// Letters, as Unicode and no language of the user's has them.
+// Upper and lower case by Unicode's rules, whatever the user's language.
 #pragma once
 
 #include <string>
@@ -6,7 +6,7 @@
 
 namespace win {
 
-// Unit for unit, so that positions stay what they are.
+// Unit for unit, so that positions stay the same.
 std::u16string LowerCase(std::u16string_view text);
 // As file systems compare names.
 std::u16string UpperCase(std::u16string_view text);

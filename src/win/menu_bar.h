@@ -22,8 +22,8 @@ struct MenuRow {
     MenuKind kind = MenuKind::item;  // a hidden one is not there until show()
 };
 
-// The accelerator table of a menu's shortcuts. Text that is no "F1" to "F24" or "Ctrl+" and a letter has
-// none.
+// The accelerator table of a menu's shortcuts. A text other than "F1" to "F24", or "Ctrl+" and a letter,
+// gives none.
 std::vector<ACCEL> Accelerators(std::span<const MenuRow> rows);
 
 class MenuBar {
@@ -42,11 +42,11 @@ class MenuBar {
     const std::string& caption(std::uint16_t id) const { return entry(id).caption; }
     void check(std::uint16_t id, bool checked);
     bool isChecked(std::uint16_t id) const { return entry(id).checked; }
-    // An item is enabled when this was not taken away and what it needs is there.
+    // An item is enabled unless it was disabled here, or needs a document and none is open.
     void enable(std::uint16_t id, bool enabled);
     bool isEnabled(std::uint16_t id) const;
     void setDocumentOpen(bool open);
-    // For checked and unchecked alike. The bitmap stays the caller's.
+    // Shown whether the item is checked or not. The bitmap stays the caller's.
     void setPicture(std::uint16_t id, HBITMAP picture);
     // Fills a popup that has no rows with items numbered from `firstId`, one of them checked (-1: none).
     void setList(std::uint16_t popupId, std::uint16_t firstId, const std::vector<std::string>& captions,

@@ -6,7 +6,7 @@
 namespace win {
 namespace {
 
-// A window that a dialog keeps waiting cannot have a box of its own: it would be disabled when the box goes,
+// A window that a modal dialog disables cannot own the box: it would still be disabled when the box closes,
 // and another program would come to the front.
 HWND OwnerOfBox(HWND owner) {
     const HWND top = owner ? ::GetAncestor(owner, GA_ROOT) : nullptr;

@@ -7,9 +7,9 @@
 
 namespace win {
 
-// Shows the system's message box over the top-level window of `owner` (null for none), or over the dialog
-// that keeps it waiting, and waits for the answer, an ID... value. No other window of the program can be used
-// meanwhile. `style` is made of MB_... flags.
+// Shows the system's message box over the top-level window of `owner` (null for none), or over a modal dialog
+// of it, and returns the answer, an ID... value. All other windows of the program are disabled meanwhile.
+// `style` is made of MB_... flags.
 int ShowMessage(HWND owner, std::string_view text, std::string_view title, UINT style = MB_OK);
 
 }  // namespace win

@@ -11,7 +11,7 @@ bool IsInput(UINT message) {
            (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST);
 }
 
-// The top-level window of a key or of the mouse comes first: accelerators and the keys of dialogs are its.
+// The top-level window sees keys and the mouse first, for its accelerators and the keys of dialogs.
 bool PreTranslate(MSG& message) {
     const HWND top = IsInput(message.message) ? ::GetAncestor(message.hwnd, GA_ROOT) : nullptr;
     if (!top) return false;

@@ -8,8 +8,8 @@ namespace win {
 // Runs until WM_QUIT and returns its exit code.
 int RunMessageLoop();
 
-// Handles the messages that are waiting. Anything can happen meanwhile: any window, also the caller's, may
-// be gone afterwards. A WM_QUIT stays in the queue for the outer loop, and the result is false.
+// Handles the messages that are waiting. Anything can happen meanwhile: any window, also the caller's, may be
+// destroyed. A WM_QUIT stays in the queue for the outer loop, and the result is false.
 bool RunPending();
 
 // The hourglass, until the scope ends.

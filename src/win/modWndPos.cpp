@@ -23,7 +23,7 @@ RECT Inside(RECT rect, const RECT& area) {
 }
 
 BOOL CALLBACK KeepOnScreen(HWND window, LPARAM) {
-    // A maximised window is fitted by the system; a minimised one is when it comes back.
+    // The system fits maximised windows itself, and minimised ones when they are restored.
     if (!::IsWindowVisible(window) || ::IsIconic(window) || ::IsZoomed(window)) return TRUE;
     if ((::GetWindowLongPtrW(window, GWL_STYLE) & WS_CAPTION) != WS_CAPTION) return TRUE;
     RECT rect{};

@@ -8,8 +8,8 @@ namespace modWndPos {
 void MakeTopmost(HWND window);
 void DropTopmost(HWND window);
 
-// Moves the window's top left corner, in twips of the screen, and no further out than that all of it stays
-// in the work area of the nearest monitor.
+// Moves the window's top left corner to a place on the screen, in twips, but keeps all of the window within
+// the work area of the nearest monitor.
 void MoveTo(HWND window, int leftTwips, int topTwips);
 
 // Moves every open window of this thread that a smaller screen has left outside, wholly or in part, back

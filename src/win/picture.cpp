@@ -18,7 +18,7 @@ UniqueIcon Load(const char* name, int width, int height) {
                                                       IMAGE_ICON, width, height, LR_DEFAULTCOLOR)));
 }
 
-// 32 bits each. None where the memory is short.
+// Pixels of 32 bits; none where memory is short.
 struct Pixels {
     Pixels(int columns, int rows) : width(columns), height(rows) {
         BITMAPINFO info{};
@@ -55,12 +55,12 @@ Pixels DrawnOn(DWORD ground, const std::vector<UniqueIcon>& icons) {
     return pixels;
 }
 
-// The pictures side by side, their colours multiplied by their alpha.
+// The pictures side by side, with premultiplied alpha.
 Pixels Blended(const std::vector<const char*>& names) {
     std::vector<UniqueIcon> icons;
     for (const char* name : names) icons.push_back(Picture(name));
-    // On black an icon shows its colours times their alpha, and how much lighter it gets on white is what
-    // its alpha lacks. So any icon will do, whatever the depth of the screen has made of it.
+    // Drawn on black, an icon shows its colours multiplied by their alpha; drawn on white, it is lighter by
+    // what its alpha lacks. This works for any icon, whatever colour depth the screen has given it.
     Pixels black = DrawnOn(BLACKNESS, icons);
     Pixels white = DrawnOn(WHITENESS, icons);
     if (white.all.empty()) return white;
@@ -71,21 +71,21 @@ Pixels Blended(const std::vector<const char*>& names) {
     return black;
 }
 
-// The colours themselves, which is how image lists take them.
+// Image lists take colours that are not multiplied by their alpha.
 void Divide(RGBQUAD& pixel) {
     const int alpha = std::max<int>(pixel.rgbReserved, 1);
     for (BYTE* colour : {&pixel.rgbRed, &pixel.rgbGreen, &pixel.rgbBlue})
         *colour = static_cast<BYTE>(std::min(255, *colour * 255 / alpha));
 }
 
-// Grey, and half gone into the ground below.
+// Grey and half transparent.
 void Disable(RGBQUAD& pixel) {
     const int grey = (30 * pixel.rgbRed + 59 * pixel.rgbGreen + 11 * pixel.rgbBlue) / 100;
     pixel.rgbRed = pixel.rgbGreen = pixel.rgbBlue = static_cast<BYTE>(grey);
     pixel.rgbReserved = static_cast<BYTE>(pixel.rgbReserved / 2);
 }
 
-// All at once: to add an icon to an image list takes several times as long as to load and draw it.
+// All at once: adding an icon to an image list takes several times as long as loading and drawing it.
 UniqueImageList ListOf(const Pixels& pixels) {
     const int size = PictureSize();
     UniqueImageList list(Check(::ImageList_Create(size, size, ILC_COLOR32, pixels.width / size, 0)));

@@ -9,19 +9,19 @@ namespace win {
 
 using UniqueImageList = Unique<HIMAGELIST, ::ImageList_Destroy>;
 
-// 16, 24 or 32 pixels: the largest size drawn for pictures that the system's DPI has room for and the system
-// can read.
+// 16, 24 or 32 pixels: the largest size in the resources that suits the system's DPI and that the system can
+// read.
 int PictureSize();
 
-// Of that size. Null where it cannot be had.
+// An icon of that size; null where it cannot be loaded.
 UniqueIcon Picture(const char* name);
-// The same as a bitmap with 32 bits a pixel, its colours multiplied by their alpha.
+// The same as a bitmap of 32 bits a pixel, with premultiplied alpha.
 UniqueBitmap PictureBitmap(const char* name);
 // For the caption of a window. Not a shared icon: those keep the size at which they were asked for first.
 UniqueIcon SmallIcon(const char* name);
 
-// Pictures in their order, and the same as they look while what they stand for is disabled. One that cannot
-// be had is left empty.
+// Pictures in the order of their names, as normal and as disabled ones. One that cannot be loaded is left
+// empty.
 struct PictureLists {
     explicit PictureLists(const std::vector<const char*>& names);
     UniqueImageList normal;

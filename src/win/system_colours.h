@@ -5,7 +5,7 @@
 
 namespace win {
 
-// The user needs strong contrast: only the system's own colours are shown.
+// Whether the user has chosen high contrast: only the system's own colours are to be shown then.
 bool IsHighContrast();
 
 // Passes WM_SYSCOLORCHANGE and WM_SETTINGCHANGE, which the system sends to main windows only, on to the

@@ -7,23 +7,23 @@
 
 namespace win {
 
-// From now on the program's own folder and the current one are not searched for a DLL, as far as the system
-// lets that be said: in a folder of downloads one could be anybody's.
+// From now on DLLs are not searched for in the program's own folder and the current one, as far as the system
+// can be told so: in a folder of downloads, anybody may have put one there.
 void SearchSystemDllsOnly();
 
 // Without a backslash at its end.
 std::wstring SystemFolder();
 
-// Loads a DLL of the system's, which then stays, and never one of that name beside the program. Throws
+// Loads a DLL from the system's folder, never one of that name beside the program. It stays loaded. Throws
 // win::Error.
 HMODULE LoadSystemDll(const char* dll);
 
 // Loads the DLL too. Throws win::Error where the system has no such function.
 void* SystemFunction(const char* dll, const char* name);
 
-// A delay-loaded function: the first call loads the DLL, which then stays. For DLLs that are not among those
-// which Windows always takes from its own folder ("KnownDLLs"): as an import, one beside the program would
-// be loaded. Throws win::Error where the system has no such function.
+// A delay-loaded function: the first call loads the DLL, which stays loaded. For DLLs that some Windows does
+// not list among those it takes from its own folder alone ("KnownDLLs"): an import would load one that lies
+// beside the program. Throws win::Error where the system has no such function.
 template <typename Function>
 class DelayLoaded {
  public:

@@ -62,7 +62,7 @@ bool ToolBar::isEnabled(int index) const {
 }
 
 int ToolBar::place(int left, int top, int width) const {
-    // A new width makes the bar break its row anew; only then it is known how high it has to be.
+    // The bar breaks its rows anew for a new width; only then is its height known.
     ::SetWindowPos(hwnd_, nullptr, left, top, width, 0, SWP_NOZORDER | SWP_NOACTIVATE);
     ::SendMessageW(hwnd_, TB_AUTOSIZE, 0, 0);
     RECT last{};

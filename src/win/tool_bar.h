@@ -11,15 +11,15 @@ namespace win {
 
 struct ToolButton {
     const char* tip;        // the tool tip, and what a screen reader says
-    std::uint16_t command;  // what it stands for; the bar's owner knows
+    std::uint16_t command;  // for the bar's owner
     const char* picture;    // name of the icon resource
     bool beginsGroup = false;
 };
 
 class ToolBar {
  public:
-    // Creates it, before the other children of `parent` in the order of Tab. Clicking the button with the
-    // index i sends the WM_COMMAND `firstId` + i.
+    // Creates the bar as the first child of `parent` in the order of Tab. Clicking the button with the index
+    // i sends the WM_COMMAND `firstId` + i.
     void create(HWND parent, int firstId, std::span<const ToolButton> buttons);
     void enable(int index, bool enabled) const;
     bool isEnabled(int index) const;

@@ -15,14 +15,14 @@ void ToolTips::create(HWND form) {
 void ToolTips::add(HWND control, const std::string& text) const {
     std::wstring wide = ToWide(text);
     TTTOOLINFOW tool{};
-    // The record of common controls 5 too, whose size they check.
+    // The size that common controls 5 know too; they check it.
     tool.cbSize = TTTOOLINFOW_V2_SIZE;
     tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
     tool.hwnd = form_;
     tool.uId = reinterpret_cast<UINT_PTR>(control);
     tool.lpszText = wide.data();
     ::SendMessageW(tips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
-    // The form gets the mouse that a disabled control does not take.
+    // The form gets the mouse messages of a disabled control.
     tool.uFlags = TTF_SUBCLASS;
     tool.uId = static_cast<UINT_PTR>(::GetDlgCtrlID(control));
     ::GetWindowRect(control, &tool.rect);

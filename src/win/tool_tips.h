@@ -9,7 +9,7 @@ namespace win {
 
 class ToolTips {
  public:
-    // `form` owns the tips' window, which goes with it.
+    // The window of the tips is owned by `form` and destroyed with it.
     void create(HWND form);
     // Shown over the control, also while it is disabled.
     void add(HWND control, const std::string& text) const;

@@ -118,13 +118,13 @@ void Window::finish(const Creation& creation, HWND made) {
         return;
     }
     const DWORD error = ::GetLastError();
-    // A window that was there has taken its object with it.
+    // A window that was bound has deleted its object already.
     if (!creation.isBound) delete creation.window;
     if (creation.failure) throw Failure(*creation.failure);
     throw Error(error);
 }
 
-// What was thrown in the handler of a message.
+// Deals with what the handler of a message has thrown.
 LRESULT Window::fail(UINT message, const char* what) {
     const bool isMaking = creation_ && (message == WM_NCCREATE || message == WM_CREATE);
     if (!isMaking) {
@@ -162,7 +162,7 @@ void Window::leave() {
 }
 
 Window* Window::of(HWND window) {
-    // The class's procedure: that of one window may be another program's that looks on.
+    // The procedure of the class: another program may have replaced that of the window.
     if (reinterpret_cast<WNDPROC>(::GetClassLongPtrW(window, GCLP_WNDPROC)) != procedure) return nullptr;
     return reinterpret_cast<Window*>(::GetWindowLongPtrW(window, GWLP_USERDATA));
 }

@@ -16,14 +16,14 @@ class Window {
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
 
-    HWND hwnd() const { return hwnd_; }  // null once the window is gone
+    HWND hwnd() const { return hwnd_; }  // null once the window is destroyed
     std::string text() const;
     void setText(const std::string& text);
 
     // The object of a window of ours; null for any other.
     static Window* of(HWND window);
-    // Shows the window a key or mouse message of its own or of a window in it before that is translated. True
-    // when it has dealt with it, as with an accelerator.
+    // Offers the window a key or mouse message, its own or that of a child, before it is translated. True
+    // when the window has handled it, as an accelerator for example.
     bool preTranslate(MSG& message);
 
  protected:
@@ -37,9 +37,9 @@ class Window {
     Window() = default;
     virtual ~Window() = default;
 
-    // Registers the class on first use. `cls.lpszClassName` names it; its procedure is set here. What is
-    // thrown while the window is made makes its creation fail: the object is gone then, and a win::Failure
-    // thrown.
+    // Registers the class on first use. `cls.lpszClassName` names it; its procedure is set here. An exception
+    // while the window is being created makes the creation fail: the object is then deleted, and a
+    // win::Failure thrown.
     void create(WNDCLASSEXW cls, const std::string& text, DWORD style, DWORD exStyle, Place place,
                 HWND parent);
     // The same for a child of an MDI client.

@@ -48,7 +48,7 @@ bool Worker::run(std::function<void()> job) {
 
 void Worker::giveUp(DWORD timeout) {
     const DWORD now = ::GetTickCount();
-    // Whoever wants to wait shorter has it their way.
+    // The shorter time-out wins.
     deadline_ = givenUp_ ? now + std::min(timeout, left()) : now + timeout;
     givenUp_ = true;
 }
@@ -63,7 +63,7 @@ bool Worker::await(HANDLE done) {
         const DWORD woken = ::MsgWaitForMultipleObjectsEx(1, &done, left(), QS_ALLINPUT, MWMO_INPUTAVAILABLE);
         if (woken != WAIT_OBJECT_0 + 1) return woken == WAIT_OBJECT_0;
         if (RunPending()) continue;
-        // The program ends. Its last message stays in the queue and would wake this at once, again and again.
+        // The program is ending. WM_QUIT stays in the queue and would end every further wait at once.
         giveUp(0);
         return ::WaitForSingleObject(done, left()) == WAIT_OBJECT_0;
     }

@@ -1,4 +1,4 @@
-// Waiting for others without keeping the windows waiting.
+// Long work on another thread, while the windows stay usable.
 #pragma once
 
 #include <functional>
@@ -9,11 +9,11 @@ namespace win {
 
 class Worker {
  public:
-    // Runs the job on another thread and handles the messages of this one until it has ended: anything can
-    // happen meanwhile. What the job throws is thrown here. False when the job was not waited for, or not
-    // even begun: it then goes on alone, so it owns, or shares, all that it works with.
+    // Runs the job on another thread and handles the messages of this one until it ends: anything can happen
+    // meanwhile. Rethrows what the job throws. False when the worker has been given up: the job was then not
+    // started, or it goes on alone, so it must own, or share, all that it uses.
     bool run(std::function<void()> job);
-    // From then on jobs are not begun any more, and one that runs is waited for these milliseconds at most.
+    // From then on no job is started, and a running one is waited for at most this long, in milliseconds.
     void giveUp(DWORD timeout);
     bool isGivenUp() const { return givenUp_; }
 

@@ -64,8 +64,8 @@ void frmColors::layOut() const {
                    SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-// All boxes at once: a message and a device context for each would take the most of the time that the chart
-// needs to open.
+// Paints all boxes at once: a message and a device context for each would take most of the time in which the
+// chart opens.
 void frmColors::paint() const {
     PAINTSTRUCT paint{};
     ::BeginPaint(hwnd(), &paint);
@@ -86,7 +86,7 @@ void frmColors::insert(int index) const {
 }
 
 void frmColors::pick(int index) {
-    // The second click of a double one is handled while the chart is closing.
+    // The second click of a double-click arrives while the chart is closing.
     if (std::exchange(closing_, true)) return;
     try {
         insert(index);

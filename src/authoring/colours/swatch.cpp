@@ -91,7 +91,7 @@ bool Swatch::handleKey(WPARAM key) const {
     }
 }
 
-// All by ourselves: the control would take several times as long, for text that nobody is to see.
+// Painted without the control, which would take several times as long, for text that nobody is to see.
 void Swatch::paint() const {
     PAINTSTRUCT paint{};
     RECT area{};

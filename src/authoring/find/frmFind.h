@@ -25,11 +25,11 @@ class frmFind : public authoring::PageDialog {
     void clickFind();
     void clickFindNext();
     void FindAndCount();
-    // The page, at the top and after the messages now waiting; null when it has gone with them.
+    // The page, at the top and after the messages now waiting; null when they have closed it.
     frmChild* readyPage() const;
     void offerTop();
     void tellNotFound() const;
-    // Nothing stands for more than can be counted.
+    // No value means that there are more than can be counted.
     void showCount(std::optional<int> count) const;
     // Selects the match at a position counted from 1 and puts the focus into the page.
     void SelectFound(const frmChild& page, std::size_t position, std::size_t length) const;

@@ -29,7 +29,7 @@ void frmReplace::show(MainWindow& main) {
 }
 
 bool frmReplace::onCommand(WORD id, WORD notification) {
-    // While all is being replaced only Cancel is heard.
+    // During Replace All only Cancel works.
     if (busy_) {
         cancelled_ = cancelled_ || id == cmdCancel;
         return true;
@@ -123,12 +123,12 @@ bool frmReplace::replaceAll(frmChild& target, const Texts& texts) {
     return true;
 }
 
-// Messages run meanwhile, so that Cancel is heard. The page takes no input, and stays as it was read.
+// Messages are handled meanwhile, so that Cancel works. The page is disabled, and stays as it was read.
 std::u16string frmReplace::replaced(std::u16string_view text, std::u16string_view find,
                                     std::u16string_view with) const {
     ::SetFocus(hwnd());
     const win::Disabled others(hwnd());
-    // To look for messages takes much longer than to replace a word.
+    // Looking for messages takes much longer than replacing a word.
     constexpr DWORD kBetweenLooks = 10;  // milliseconds
     DWORD lastLook = ::GetTickCount() - kBetweenLooks;
     return authoring::ReplaceText<char16_t>(text, find, with, [this, &lastLook] {

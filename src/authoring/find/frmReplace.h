@@ -30,7 +30,7 @@ class frmReplace : public authoring::PageDialog {
     bool replaceAll(frmChild& target, const Texts& texts);
     std::u16string replaced(std::u16string_view text, std::u16string_view find,
                             std::u16string_view with) const;
-    // Nothing is done when the page, or this dialog, has gone.
+    // Does nothing when the page or this dialog has been closed.
     void takeOver(const std::u16string& text, int count);
     void note(const char* text) const { ask(text, kNote); }
     void tellNoMatch() const;

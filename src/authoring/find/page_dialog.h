@@ -8,8 +8,8 @@
 
 namespace authoring {
 
-// Stands beside the main window and goes when its page does: at once when the main window unloads it, or
-// within 200 ms by its own watch.
+// Stands beside the main window and closes with its page: at once when the main window unloads it, or within
+// 200 ms by its own timer.
 class PageDialog : public win::Dialog {
  protected:
     // For the main window's active page, which must be there; `down` twips below the main window's top.
@@ -23,7 +23,7 @@ class PageDialog : public win::Dialog {
     virtual HWND originalKid() const = 0;
 
     MainWindow& main() const { return main_; }
-    // Null when the page, or this dialog, has gone: after every pump and message box.
+    // Null when the page or this dialog has been closed, which can happen wherever messages are handled.
     frmChild* page() const;
     // Makes the page the active document.
     void bringPageToTop() const;

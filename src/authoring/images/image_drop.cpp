@@ -28,7 +28,7 @@ std::uint64_t FileBytes(const std::string& path) {
     return static_cast<std::uint64_t>(data.nFileSizeHigh) << 32U | data.nFileSizeLow;
 }
 
-// What one file says, for the page and for the status strip.
+// What was read from one file, for the page and the status strip.
 struct Findings {
     ImageType type = ImageType::undetermined;
     std::string tag;
@@ -86,7 +86,7 @@ void MakeImageTag(MainWindow& main, DocumentId id, const Findings& found) {
 void FinishDrop(MainWindow& main, DocumentId id, const std::vector<Findings>& files) {
     const frmChild* page = main.find(id);
     if (!page) return;
-    // The user's hand is here now, not in the program that was dragged from.
+    // The user works in this program now, not in the one that was dragged from.
     ::SetForegroundWindow(main.mainHwnd());
     ::SendMessageW(main.mdiClient(), WM_MDIACTIVATE, reinterpret_cast<WPARAM>(page->hwnd()), 0);
     FocusPage(main, id);

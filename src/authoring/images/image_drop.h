@@ -9,8 +9,9 @@
 
 namespace authoring {
 
-// Reads the files of a drop. What is returned puts a tag for each into the page, at the caret, and its size
-// into the status strip; or says why there is none. No paths stand for something else than files.
+// Reads the dropped files. The function that is returned inserts a tag for each at the page's caret and shows
+// the file's size in the status strip, or says why there is no tag. No paths mean that something other than
+// files was dropped.
 std::function<void()> ReadDrop(MainWindow& main, DocumentId page, const std::vector<std::string>& paths);
 
 }  // namespace authoring

@@ -28,7 +28,7 @@ bool WriteNew(HANDLE file, const std::string& bytes) {
            written == bytes.size();
 }
 
-// The file that a browser is shown. A copy of ours is removed with its last owner.
+// The file that a browser is shown. A copy is deleted with its last owner.
 class ShownFile {
  public:
     // The page's own file, which stays.
@@ -54,7 +54,7 @@ class ShownFile {
 
     const std::string& path() const { return path_; }
     std::string folder() const { return path_.substr(0, path_.rfind('\\') + 1); }  // with its backslash
-    // False while another program keeps the copy from being removed.
+    // False while another program keeps the copy from being deleted.
     bool remove() {
         if (!isCopy_) return true;
         const auto now = look();
@@ -84,16 +84,16 @@ void TellNotOpened(HWND owner) {
     win::ShowMessage(owner, "Web Page Could Not Be Opened.", "URL Failed", MB_ICONEXCLAMATION);
 }
 
-// Waits without holding up the program: a hidden window with a timer, owned by the main window, so that it
-// goes, and the copy with it, when the program is closed.
+// Waits without blocking the program: a hidden window with a timer, owned by the main window, so that it is
+// destroyed, and the copy deleted, when the program is closed.
 class PreviewWait : public win::Window {
  public:
-    // Until it is told that no browser was found.
+    // Until the user is told that no browser was found.
     static void forBrowser(HWND owner, ShownFile file) { begin(owner, std::move(file), false); }
-    // Until the browser has surely read the file.
+    // Until the browser has had time to read the file.
     static void forLoading(HWND owner, ShownFile file) { begin(owner, std::move(file), true); }
 
-    // Has a wait for this file end now, if the copy can be removed.
+    // Ends a wait for this file now, if the copy can be deleted.
     static void hurry(const std::string& path) {
         const HWND wait = ::FindWindowW(kClass, win::ToWide(path).c_str());
         if (::GetWindowThreadProcessId(wait, nullptr) == ::GetCurrentThreadId())
@@ -136,7 +136,7 @@ class PreviewWait : public win::Window {
     void elapsed() {
         const bool removed = file_.remove();
         if (found_) {
-            // Otherwise the browser is still at it, and the timer comes again.
+            // Otherwise the browser still has it open, and the timer fires again.
             if (removed) ::DestroyWindow(hwnd());
             return;
         }
@@ -151,7 +151,7 @@ class PreviewWait : public win::Window {
     bool found_;
 };
 
-// A file of the author's may have the name that the copy is to have: then the copy takes another.
+// Where the author has a file of the copy's name, the copy takes another name.
 ShownFile WriteCopy(const std::string& path, bool edited, const std::string& bytes) {
     constexpr int kNames = 20;
     for (int taken = 0;; ++taken) {
@@ -174,7 +174,7 @@ ShownFile FileToShow(MainWindow& main, DocumentId id, const std::string& path) {
     const auto saved = mBinOpen::ReadFileBinary(path);
     const frmChild* page = main.find(id);
     if (!page || page->Tag() != path) throw win::Failure("The page is another by now.");
-    // A page that cannot be edited is what its file holds, and could not be written.
+    // A read-only page is what its file holds.
     if (page->txtPad().isReadOnly() && authoring::HasExtension(path)) return ShownFile(path);
     const std::string bytes = files::FileOf(*page).bytes;
     // The file holds the page as it was loaded, or as it was saved, with its last line ended. Otherwise
@@ -185,8 +185,8 @@ ShownFile FileToShow(MainWindow& main, DocumentId id, const std::string& path) {
     return WriteCopy(path, !isSame, isSame ? *saved : bytes);
 }
 
-// The program that opens the file; empty when it is none that can be started with it. What comes with the
-// store is opened by one of these two, which take no file.
+// The program that opens the file; empty when it cannot be started with a file. Programs from the store are
+// behind one of these two, which take none.
 std::string FindBrowser(const ShownFile& file) {
     const std::string program = win::ProgramFor(file.path(), file.folder());
     const auto name = modPubFuncs::FileNameFromPath(program);
@@ -217,7 +217,7 @@ void Preview(MainWindow& main) {
     const std::string browser = FindBrowser(file);
     const bool started = (!browser.empty() && Start(main.mainHwnd(), browser, file)) ||
                          win::OpenFile(main.mainHwnd(), file.path(), "", file.folder());
-    // Starting a program can let messages through.
+    // Starting a program can handle messages.
     const HWND owner = main.mainHwnd();
     if (!owner) return;
     if (started) {

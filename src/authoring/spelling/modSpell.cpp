@@ -30,7 +30,7 @@ struct NoService : win::Failure {
 };
 
 std::unique_ptr<authoring::SpellService> StartService(const std::string& language) {
-    // Starting a program lets messages through.
+    // Starting a program handles messages.
     const win::Disabled ours;
     const win::WaitCursor wait;
     auto service = authoring::StartWordBasic();
@@ -49,7 +49,7 @@ void KeepOnClipboard(HWND owner, const std::u16string& text) {
     try {
         win::SetClipboardText(owner, text);
     } catch (const std::exception&) {
-        // Another program has it.
+        // Another program has the clipboard open.
     }
 }
 
@@ -72,7 +72,7 @@ void PutBack(MainWindow& main, const Sent& sent, const std::u16string& corrected
     frmChild* page = main.find(sent.page);
     if (!page || page->txtPad().text() != sent.before) throw win::Failure("The page is another by now.");
     if (corrected.empty()) throw win::Failure("The text did not come back.");
-    // Without it there is still Undo.
+    // If that fails there is still Undo.
     KeepOnClipboard(page->hwnd(), sent.before);
     if (sent.selection.length() > 0) {
         ReplaceSelection(*page, sent, corrected);

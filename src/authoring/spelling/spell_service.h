@@ -1,4 +1,4 @@
-// Who corrects spelling for us.
+// Services that let the user correct the spelling of a text.
 #pragma once
 
 #include <memory>
@@ -12,15 +12,15 @@ namespace authoring {
 class SpellService {
  public:
     virtual ~SpellService() = default;
-    // Lets the user correct the text, over the main window `owner`, and returns what became of it; nothing
-    // when the user called the check off. Throws when it fails. Messages of all windows are handled
-    // meanwhile, but none of the program's own windows can be used. Called once.
+    // Lets the user correct the text, over the main window `owner`, and returns the corrected text; nothing
+    // when the user cancels. Throws when it fails. Messages are handled meanwhile, with all of the program's
+    // own windows disabled. Called once.
     virtual std::optional<std::u16string> correct(HWND owner, const std::u16string& text) = 0;
 };
 
 // The word processor that is driven as "Word.Basic", started, minimised. Null when it is not installed or
-// does not come up. Where correct() fails, what can be had of the corrected text is on the clipboard, and the
-// word processor is as it was found.
+// does not come up. When correct() fails, it leaves as much of the corrected text as it can get on the
+// clipboard, and the word processor as it found it.
 std::unique_ptr<SpellService> StartWordBasic();
 
 // The system's own spell checker, with a dialog of ours. Null where the system has none (before Windows 8),

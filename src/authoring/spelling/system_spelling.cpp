@@ -67,8 +67,8 @@ class SystemDictionary : public SpellDictionary {
     ComPtr<ISpellChecker> checker_;
 };
 
-// Marks that are set upon a letter belong to it. Of the characters beyond U+FFFF, which the system classes by
-// their halves, the blocks of Unicode that hold letters are taken.
+// Combining marks count as letters. Beyond U+FFFF, where the system classes surrogates only, the blocks of
+// Unicode that hold letters count.
 bool IsLetter(char32_t c) {
     if (c > 0xFFFF) {
         const bool isNotation = c >= 0x1D000 && c < 0x1D400;  // of music, and old numbers
@@ -86,7 +86,7 @@ class SystemSpelling : public SpellService {
     explicit SystemSpelling(ComPtr<ISpellChecker> checker) : dictionary_(std::move(checker)) {}
 
     std::optional<std::u16string> correct(HWND owner, const std::u16string& text) override {
-        // The dialog takes care of its owner.
+        // The dialog disables its owner itself.
         const win::Disabled others(owner);
         SpellingPass pass(text, IsLetter, dictionary_);
         if (!frmSpelling::correct(owner, pass) && !pass.isChanged()) return std::nullopt;
@@ -98,7 +98,7 @@ class SystemSpelling : public SpellService {
 };
 
 std::string UserLanguage() {
-    // Of Vista and later, and so of every system that has a checker.
+    // LOCALE_SNAME: Vista and later know it, and so does every system that has a checker.
     constexpr LCTYPE kName = 0x5C;
     wchar_t name[85] = L"";
     ::GetLocaleInfoW(LOCALE_USER_DEFAULT, kName, name, static_cast<int>(std::size(name)));

@@ -13,7 +13,7 @@ namespace {
 using win::AutomationObject;
 using win::Variant;
 
-// The window of a word processor that ran before it was asked for anything, to be put back as it stood.
+// The window of a word processor that was running already, to be put back as it was.
 class FoundWindow {
  public:
     FoundWindow() {
@@ -30,7 +30,7 @@ class FoundWindow {
     WINDOWPLACEMENT placement_{};
 };
 
-// Brings the program back to the front in the end.
+// Brings the program back to the front at the end of the scope.
 class InFront {
  public:
     explicit InFront(HWND window) : window_(window) {}
@@ -51,7 +51,7 @@ class InFront {
 
 class WordBasic : public SpellService {
  public:
-    // `isOurs` when nobody used the word processor before.
+    // `isOurs` when the word processor was not running before.
     WordBasic(AutomationObject word, bool isOurs, FoundWindow found)
         : word_(std::move(word)), isOurs_(isOurs), found_(found) {}
 
@@ -87,7 +87,7 @@ class WordBasic : public SpellService {
         return TextFromWordProcessor(word_.call(L"GetDocumentVar", variable).text());
     }
 
-    // Never what somebody else has open.
+    // Never closes what the user has open.
     void close() {
         const Variant discard(2L);
         if (hasDocument_) word_.call(isOurs_ ? L"FileCloseAll" : L"FileClose", discard);
@@ -99,7 +99,7 @@ class WordBasic : public SpellService {
         }
     }
 
-    // Every step is tried, as the call that failed need not be the last that works.
+    // Tries every step: after a call that failed others may still work.
     void rescue(HWND owner, const std::u16string& text, std::u16string corrected) {
         try {
             if (hasDocument_ && corrected.empty()) {
@@ -107,17 +107,17 @@ class WordBasic : public SpellService {
                 corrected = TextFromWordProcessor(word_.call(L"Selection").text());
             }
         } catch (const std::exception&) {
-            // Then there is no more than what was sent.
+            // There is no more than what was sent.
         }
         try {
             if (!corrected.empty() && corrected != text) win::SetClipboardText(owner, corrected);
         } catch (const std::exception&) {
-            // Another program keeps the clipboard.
+            // Another program has the clipboard open.
         }
         try {
             close();
         } catch (const std::exception&) {
-            // It does not answer any more.
+            // The word processor no longer answers.
         }
     }
 
@@ -144,7 +144,7 @@ std::unique_ptr<SpellService> StartWordBasic() {
     try {
         word->call(L"AppClose");
     } catch (const std::exception&) {
-        // It goes by itself once nobody holds it.
+        // It ends by itself once its last reference is released.
     }
     return nullptr;
 }

@@ -32,7 +32,7 @@ void InsertFontSize(MainWindow& main) {
     }
 }
 
-// The name as it stands alone; some languages bend it within a date, but the date's pattern is English
+// The name as it stands alone. Some languages inflect it within a date, but the date's pattern is English
 // anyway.
 std::string MonthName(int month) {
     wchar_t name[80];

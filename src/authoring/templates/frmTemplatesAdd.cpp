@@ -36,13 +36,13 @@ void frmTemplatesAdd::refuse(const std::string& text, int field) const {
     focusItem(field);
 }
 
-// The file goes first: when it cannot be written, the list still tells the truth.
+// Writes the file first: when that fails, the list is still right.
 void frmTemplatesAdd::enter() {
     const std::string name = itemText(txtFilename);
     const std::string id = itemText(txtID);
     const TemplateList list = authoring::ReadTemplates();
     if (const std::string problem = Problem(list, name, id); !problem.empty()) {
-        // What an ID that cannot be in use does not cure is the fault of the name.
+        // If the problem stays with an ID that cannot be in use, the name is at fault.
         refuse(problem, Problem(list, name, "\n") == problem ? txtFilename : txtID);
         return;
     }

@@ -102,7 +102,7 @@ void frmTemplatesOrg::askName() const {
 
 void frmTemplatesOrg::enter() {
     if (mode_ == Mode::none) return;
-    // What helps a person to use a dialog may pick for them without the list's telling.
+    // Assistive programs may pick a row without a notification from the list.
     if (row_ < 0) row_ = selected();
     if (row_ < 0) {
         note("Please choose a template from the list.");
@@ -137,7 +137,7 @@ void frmTemplatesOrg::remove(std::size_t slot) {
     TemplateList list = authoring::ReadTemplates();
     const std::string name = list[slot].name;
     const std::string path = authoring::TemplatePath(name);
-    // The shell would take a folder or wildcards in the name at their word.
+    // The shell would act on a folder or wildcards in the name.
     const bool hasFile = authoring::FileNameProblem(name).empty() && modPubFuncs::FileExists(path);
     if (hasFile && !deleteFile(path)) return;
     list[slot] = {};
@@ -149,7 +149,7 @@ void frmTemplatesOrg::remove(std::size_t slot) {
     close();
 }
 
-// False when it is still there, which the user then knows.
+// False when it is still there; the user has been told.
 bool frmTemplatesOrg::deleteFile(const std::string& path) const {
     const authoring::WritableFile file(path);
     const Deletion deletion = DeleteToBin(hwnd(), path);

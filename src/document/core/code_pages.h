@@ -19,7 +19,7 @@ struct Encoding {
     friend bool operator==(const Encoding&, const Encoding&) = default;
 };
 
-// The system's code pages; nobody asks it about UTF-8 and UTF-16. Nothing converts to nothing.
+// The system's code pages; not to be asked about UTF-8 and UTF-16. An empty text converts to an empty one.
 class CodePages {
  public:
     constexpr CodePages() = default;

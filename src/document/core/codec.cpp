@@ -128,7 +128,7 @@ std::u16string DecodeUtf16(std::string_view bytes, bool bigEndian) {
 }
 
 // Half a unit can stand at the end only. Where text follows it after an edit, it becomes the unit of its
-// value, or all that follows would fall apart.
+// value, or every unit behind it would be read half a unit too early.
 void CompleteUnit(std::string& bytes, bool bigEndian) {
     bytes.insert(bigEndian ? bytes.size() - 1 : bytes.size(), 1, '\0');
 }
@@ -174,7 +174,7 @@ class LegacyDecoder {
  public:
     LegacyDecoder(unsigned codePage, const CodePages& pages) : codePage_(codePage), pages_(pages) {}
 
-    // False, and nothing taken, where it does not come back as it is.
+    // False, and nothing is taken, where the bytes do not come back as they are.
     bool takeWhole(std::string_view bytes) {
         const std::u16string text = pages_.toUnicode(codePage_, bytes);
         if (WithoutLone(text).size() != text.size() || pages_.fromUnicode(codePage_, text) != bytes)
@@ -248,8 +248,8 @@ std::u16string DecodeLegacy(unsigned codePage, std::string_view bytes, const Cod
     decoder.takePieces(bytes, kBlock);
     std::u16string text = std::move(decoder).text();
 
-    // Pieces that come back each for itself and not together: a system that converts by more than the
-    // character. Then only ASCII is sure.
+    // Each piece comes back alone but not all together: the system converts by more than one character. Then
+    // only ASCII is certain.
     if (Encode({codePage, false}, text, pages) == bytes) return text;
     text.clear();
     for (const char c : bytes) text += IsAscii(Value(c)) ? static_cast<char16_t>(c) : RawByte(Value(c));

@@ -11,10 +11,10 @@ namespace document {
 // bytes, else UTF-8 where the bytes are that and not all ASCII, else the system's code page.
 Encoding EncodingOf(std::string_view bytes, const CodePages&);
 
-// The encoding to save the text in, as it will be written: a mark stays, else what the text declares now,
-// else the current one. Where the page says what it is in, EncodingOf gives the same for the saved bytes;
-// where nothing else would be read back so (a declaration that references have pushed too far down, text that
-// begins like a mark), that is UTF-8 with a mark.
+// The encoding in which to save the text: the current one if it has a mark, else the one that the text
+// declares now, else the current one. EncodingOf finds the same in the saved bytes of a page that declares
+// one. Where it would not (references have pushed the declaration too far down, or the text begins like a
+// mark), the result is UTF-8 with a mark.
 Encoding EncodingToSave(std::u16string_view text, const Encoding& current, const CodePages&);
 
 }  // namespace document

@@ -9,7 +9,7 @@
 
 namespace authoring {
 
-// Who knows how words are spelt. Every method may throw.
+// Knows how words are spelt. Every method may throw.
 class SpellDictionary {
  public:
     virtual ~SpellDictionary() = default;

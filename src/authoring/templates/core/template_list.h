@@ -24,9 +24,9 @@ using TemplateList = std::array<Template, kTemplateSlots>;
 // or ID in use (exact comparison, all names before all IDs), or a name that is no plain file name.
 std::string NewTemplateProblem(const TemplateList& list, std::string_view name, std::string_view id);
 
-// Why `name` cannot be the name of a file in a folder of its own on Windows, as the text to show, or
-// empty if it can. An empty name is not looked at. To be asked also before a stored name is deleted: the
-// shell would take "*.*" or "..\x" at its word.
+// Why `name` cannot be the name of a file in a folder of its own on Windows, as the text to show, or empty if
+// it can. An empty name is not looked at. Also to be checked before the file of a stored name is deleted: the
+// shell would act on "*.*" or "..\x".
 std::string_view FileNameProblem(std::string_view name);
 
 // The listed template of another name whose file Windows would overwrite all the same, by `sameFile`, or
