@@ -11,12 +11,12 @@
 
 class frmChild;
 
-// Names a document for as long as the program runs, also after its window has gone.
+// Names a document for as long as the program runs, also once its window is closed.
 using DocumentId = std::uint32_t;
 
 class MainWindow {
  public:
-    virtual HWND mainHwnd() const = 0;  // null once the window is gone
+    virtual HWND mainHwnd() const = 0;  // null once the window is destroyed
     virtual HWND mdiClient() const = 0;
     virtual win::MenuBar& menu() = 0;
     virtual const win::MenuBar& menu() const = 0;
@@ -24,7 +24,7 @@ class MainWindow {
 
     virtual frmChild* activeDocument() const = 0;  // null when no document is open
     virtual const std::vector<frmChild*>& documents() const = 0;
-    virtual frmChild* find(DocumentId id) const = 0;  // null when its window has gone
+    virtual frmChild* find(DocumentId id) const = 0;  // null once its window is closed
 
     // The running number of the next new document, from 1; it never comes back.
     virtual long nextUntitled() = 0;

@@ -40,7 +40,7 @@ class frmChild : public win::Window {
     void setSaved(const document::Encoding& encoding);
 
     // Replaces the selection as one step that can be undone; the caret ends behind the text. What the page's
-    // encoding cannot hold goes in as numeric character references.
+    // encoding cannot hold is inserted as numeric character references.
     void insert(std::u16string_view text);
     // Replaces the whole page as one step that can be undone, after which the earlier steps can be undone
     // too. The page counts as changed; the caret and the lines in view stay where they are. The text goes

@@ -10,7 +10,7 @@ namespace files {
 frmChild* OpenFile(MainWindow& main, const std::string& path) {
     const win::WaitCursor wait;
     const auto bytes = mBinOpen::ReadFileBinary(path);
-    // Reading lets messages through: the program may be closing, or the file may be open by now.
+    // Reading handles messages: the program may be closing, or the file may be open by now.
     if (!bytes || !main.mainHwnd() || modPubFuncs::IsFileOpen(main, path)) return nullptr;
     const std::string name(modPubFuncs::FileNameFromPath(path));
     try {

@@ -16,7 +16,7 @@ bool Reset(MainWindow& main, DocumentId id, const std::string& path) {
     const win::WaitCursor wait;
     const auto saved = mBinOpen::ReadFileBinary(path);
     if (!saved) return false;
-    // Reading lets messages through: the page may have been closed, or saved, here or elsewhere.
+    // Reading handles messages: the page may have been closed by now, or saved, here or elsewhere.
     frmChild* page = main.find(id);
     if (page && page->txtPad().isChanged() && page->Tag() == path) page->toReset(document::PageOf(*saved));
     return true;

@@ -201,7 +201,7 @@ std::vector<Recovery::Found> Recovery::takeOver() {
     for (const std::wstring& name : FilesLike(folder + kPrefix + L"*" + ending)) {
         const std::wstring owner = name.substr(0, name.find(L'-', std::size(kPrefix) - 1));
         if (folder + owner == name_) continue;
-        // While this is held nobody else takes that program's copies.
+        // While this is held no other program takes over that program's copies.
         const win::UniqueFile ownerLock = OpenLock(folder + owner + kLockEnding, OPEN_ALWAYS);
         if (!ownerLock) continue;
         auto copy = ReadCopy(folder + name);

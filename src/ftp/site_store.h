@@ -16,8 +16,8 @@ void LoadSiteMenu(MainWindow& main);
 // The same after a deletion, which may leave none.
 void ShowSites(MainWindow& main);
 
-// Marks the site with that address as the one used last, in the store and in the menu, unless it has gone
-// from there.
+// Marks the site with that address as the one used last, in the store and in the menu, unless it is no longer
+// there.
 void SaveLastSite(MainWindow& main, const std::string& url);
 
 }  // namespace ftp

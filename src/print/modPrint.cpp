@@ -118,7 +118,7 @@ class Printer {
         selectFont(best);
     }
 
-    win::UniqueFont font_;  // goes after the device that has it selected
+    win::UniqueFont font_;  // destroyed after the device that has it selected
     win::UniqueDc dc_;
 };
 

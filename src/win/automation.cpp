@@ -79,7 +79,8 @@ Variant AutomationObject::invoke(const wchar_t* method, VARIANT* reversedArgumen
     Variant result;
     CheckCall([&] {
         EXCEPINFO failure{};
-        // As a Basic program calls what gives a value: such an object may hold it to be a property.
+        // Both flags, as Basic passes them for a call with a result: the object may take the method for a
+        // property.
         const HRESULT done =
             object_.get()->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD | DISPATCH_PROPERTYGET,
                                   &parameters, result.out(), &failure, nullptr);

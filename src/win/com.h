@@ -1,4 +1,4 @@
-// Owners of what COM hands out, and its results.
+// Owners of COM's objects and memory, and a check of its results.
 #pragma once
 
 #include "win/error.h"

@@ -67,7 +67,7 @@ class ShownFile {
     }
 
  private:
-    // Nothing when it has gone.
+    // Nothing when it is no longer there.
     std::optional<WIN32_FILE_ATTRIBUTE_DATA> look() const {
         WIN32_FILE_ATTRIBUTE_DATA data{};
         if (!::GetFileAttributesExW(win::WidePath(path_).c_str(), GetFileExInfoStandard, &data))
@@ -160,7 +160,7 @@ ShownFile WriteCopy(const std::string& path, bool edited, const std::string& byt
         try {
             return ShownFile(std::move(copy), bytes);
         } catch (const win::Error& error) {
-            // The last is what a name gives whose file has been deleted and is still open somewhere.
+            // The last is the error of a file that has been deleted and is still open somewhere.
             const bool isTaken = error.code() == ERROR_FILE_EXISTS || error.code() == ERROR_ALREADY_EXISTS ||
                                  error.code() == ERROR_ACCESS_DENIED;
             if (!isTaken || taken == kNames) throw;

@@ -20,7 +20,7 @@ using authoring::TemplateList;
 void Open(MainWindow& main, const Template& chosen) {
     const win::WaitCursor wait;
     const auto page = mBinOpen::ReadFileBinary(authoring::TemplatePath(chosen.name));
-    // Reading lets messages through: the program may be closing.
+    // Reading handles messages: the program may be closing.
     if (!main.mainHwnd()) return;
     if (!page) {
         win::ShowMessage(main.mainHwnd(), "Unable to open Template", "Quillon Note:");

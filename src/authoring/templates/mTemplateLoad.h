@@ -9,7 +9,7 @@ namespace mTemplateLoad {
 // a copy of the program in another folder, is only not shown.
 void ShowTemplateMenu(MainWindow& main);
 
-// Drops the templates whose file has gone from the stored list, closes its gaps, and makes the menu of it.
+// Drops templates without a file from the stored list, closes its gaps, and makes the menu of it.
 void RebuildTemplateMenu(MainWindow& main);
 
 void OnTemplateAdd(MainWindow& main, int);

@@ -29,8 +29,8 @@ std::size_t ImageSizeBytes(ImageType type);
 float ImageWidth(ImageType type, std::string_view head);
 float ImageHeight(ImageType type, std::string_view head);
 
-// The tag for an image that will lie in the folder "images" beside the page. `fileName` is the bare name
-// and goes in as it is; sizes are in pixels.
+// The tag for an image that will lie in the folder "images" beside the page. `fileName` is the bare name and
+// is inserted as it is; sizes are in pixels.
 std::string ImageTag(std::string_view fileName, float width, float height);
 
 // "logo.gif    2048 bytes".

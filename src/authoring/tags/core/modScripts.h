@@ -17,10 +17,9 @@ std::string_view ScriptBlock(int index);
 // The keyword of item `index` of "Drop Menus" for MakeDropMenu; empty beyond 0 to 3.
 std::string_view DropMenuKeyword(int index);
 
-// HTML and JavaScript of one kind of navigation menu: "drop" goes where the list says at once, "goBtn"
-// on a button, "Wnd" in a new window if wished, "dCbo" has a second list that follows the first. Exact
-// comparison; any other keyword gives an empty text. CR LF stands between lines,
-// none at the end.
+// HTML and JavaScript of one kind of navigation menu: "drop" goes where the list says at once, "goBtn" on a
+// button, "Wnd" in a new window if wished, "dCbo" has a second list that follows the first. Exact comparison;
+// any other keyword gives an empty text. CR LF stands between lines, none at the end.
 std::string MakeDropMenu(std::string_view keyword);
 
 }  // namespace modScripts

@@ -38,7 +38,7 @@ std::string_view TagFragment(TagMenu menu, int index);
 // follows the digit is the author's business ("12", "3px"). An empty reply is false.
 bool IsFontSizeReply(std::string_view reply);
 
-// The font tag around the reply, which goes in as it is.
+// The font tag around the reply, which is inserted as it is.
 std::string FontSizeFragment(std::string_view reply);
 
 // A date as "MMMM dd, yyyy". `monthName` is the full name in the user's language, `day` 1 to 31.
