@@ -51,8 +51,12 @@ bool Flush(HANDLE file) {
 }
 
 // The file ends where it was written last, and is on the disk.
-bool FinishAndClose(HANDLE file) {
-    const bool done = ::SetEndOfFile(file) && Flush(file);
+bool Finish(HANDLE file) {
+    return ::SetEndOfFile(file) && Flush(file);
+}
+
+bool WriteAndClose(HANDLE file, std::string_view bytes) {
+    const bool done = Write(file, bytes) && Finish(file);
     return ::CloseHandle(file) && done;
 }
 
@@ -95,12 +99,8 @@ bool OverwriteInPlace(const std::string& path, std::string_view bytes) {
         return file != INVALID_HANDLE_VALUE;
     };
     if (!Persistently(open)) return false;
-    const auto write = [&](std::string_view contents) {
-        const bool isWritten = Write(file, contents);
-        return FinishAndClose(file) && isWritten;
-    };
-    if (write(bytes)) return true;
-    if (open()) write(*old);
+    if (WriteAndClose(file, bytes)) return true;
+    if (open()) WriteAndClose(file, *old);
     return false;
 }
 
@@ -176,7 +176,8 @@ bool AtomicFile::commit() {
         return ::MoveFileExW(path_.c_str(), target_.c_str(),
                              MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
     };
-    const bool isWritten = FinishAndClose(file_.release());
+    const bool isFinished = Finish(file_.get());
+    const bool isWritten = ::CloseHandle(file_.release()) && isFinished;
     if (isWritten && isAlike_ && Persistently(takePlace)) return true;
     refused_ = isWritten && (!isAlike_ || ::GetLastError() == ERROR_ACCESS_DENIED);
     discard();
