@@ -2,57 +2,36 @@
 #pragma once
 
 #include <atomic>
-#include <cstring>
 #include <string>
 #include <thread>
 #include <vector>
 
+#include <gtest/gtest.h>
 #include <windows.h>
 
 #include <shlobj.h>
 
 #include "support/com_object.h"
+#include "support/wide.h"
 #include "support/windows_seen.h"
 
-// The CF_HDROP format: a DROPFILES and the paths, each with a NUL, and one NUL more.
-inline std::string FileList(const std::vector<std::string>& paths) {
-    DROPFILES head{};
-    head.pFiles = sizeof head;
-    std::string bytes(reinterpret_cast<const char*>(&head), sizeof head);
-    for (const std::string& path : paths) bytes.append(path).append(1, '\0');
-    return bytes.append(1, '\0');
+// What the shell gives for files of one folder, as it does where they are dragged out of its own windows.
+inline IDataObject* ShellDataOf(const std::vector<std::string>& paths) {
+    std::vector<ITEMIDLIST*> items;
+    std::vector<const ITEMIDLIST*> names;
+    for (const std::string& path : paths) {
+        items.push_back(::ILCreateFromPathW(Wide(path).c_str()));
+        names.push_back(::ILFindLastID(items.back()));
+    }
+    IShellFolder* folder = nullptr;
+    EXPECT_HRESULT_SUCCEEDED(::SHBindToParent(items.at(0), IID_PPV_ARGS(&folder), nullptr));
+    void* data = nullptr;
+    EXPECT_HRESULT_SUCCEEDED(folder->GetUIObjectOf(nullptr, static_cast<UINT>(names.size()), names.data(),
+                                                   IID_IDataObject, nullptr, &data));
+    folder->Release();
+    for (ITEMIDLIST* item : items) ::ILFree(item);
+    return static_cast<IDataObject*>(data);
 }
-
-class Data : public ComObject<IDataObject> {
- public:
-    Data(CLIPFORMAT format, std::string bytes) : format_(format), bytes_(std::move(bytes)) {}
-
-    STDMETHOD(GetData)(FORMATETC* format, STGMEDIUM* medium) override {
-        if (QueryGetData(format) != S_OK) return DV_E_FORMATETC;
-        *medium = {};
-        medium->tymed = TYMED_HGLOBAL;
-        medium->hGlobal = ::GlobalAlloc(GMEM_FIXED, bytes_.size());
-        std::memcpy(medium->hGlobal, bytes_.data(), bytes_.size());
-        return S_OK;
-    }
-    STDMETHOD(QueryGetData)(FORMATETC* format) override {
-        return format->cfFormat == format_ && (format->tymed & TYMED_HGLOBAL) ? S_OK : DV_E_FORMATETC;
-    }
-    STDMETHOD(EnumFormatEtc)(DWORD direction, IEnumFORMATETC** formats) override {
-        FORMATETC only{format_, nullptr, DVASPECT_CONTENT, -1, TYMED_HGLOBAL};
-        return direction == DATADIR_GET ? ::SHCreateStdEnumFmtEtc(1, &only, formats) : E_NOTIMPL;
-    }
-    STDMETHOD(GetDataHere)(FORMATETC*, STGMEDIUM*) override { return E_NOTIMPL; }
-    STDMETHOD(GetCanonicalFormatEtc)(FORMATETC*, FORMATETC*) override { return E_NOTIMPL; }
-    STDMETHOD(SetData)(FORMATETC*, STGMEDIUM*, BOOL) override { return E_NOTIMPL; }
-    STDMETHOD(DAdvise)(FORMATETC*, DWORD, IAdviseSink*, DWORD*) override { return E_NOTIMPL; }
-    STDMETHOD(DUnadvise)(DWORD) override { return E_NOTIMPL; }
-    STDMETHOD(EnumDAdvise)(IEnumSTATDATA**) override { return E_NOTIMPL; }
-
- private:
-    CLIPFORMAT format_;
-    std::string bytes_;
-};
 
 class Source : public ComObject<IDropSource> {
  public:
@@ -70,13 +49,13 @@ class Source : public ComObject<IDropSource> {
     bool taken_ = false;
 };
 
-// Picks data up in a window of its own, moves the mouse to the middle of `target`, which may belong to any
+// Picks files up in a window of its own, moves the mouse to the middle of `target`, which may belong to any
 // process, and lets go as soon as the target takes it. Gives the effect that the target reports; a cancelled
-// drag (DROPEFFECT_NONE) when it has not taken it within ten seconds. Data and source live on the stack,
-// which outlives every use of them. Whether the button is down is for the Source to say, which leaves the
+// drag (DROPEFFECT_NONE) when it has not taken it within ten seconds. The source lives on the stack,
+// which outlives every use of it. Whether the button is down is for the Source to say, which leaves the
 // real one alone.
-inline DWORD Drag(CLIPFORMAT format, const std::string& bytes, HWND target, DWORD offered) {
-    Data data(format, bytes);
+inline DWORD Drag(const std::vector<std::string>& paths, HWND target) {
+    IDataObject* data = ShellDataOf(paths);
     const HWND owner = ::CreateWindowExA(WS_EX_TOPMOST, "STATIC", "Drag", WS_POPUP | WS_VISIBLE, 0, 0, 8, 8,
                                          nullptr, nullptr, nullptr, nullptr);
     std::atomic<bool> done = false;
@@ -97,7 +76,9 @@ inline DWORD Drag(CLIPFORMAT format, const std::string& bytes, HWND target, DWOR
     });
     Source source;
     DWORD effect = DROPEFFECT_NONE;
-    const HRESULT result = ::DoDragDrop(&data, &source, offered, &effect);
+    const HRESULT result =
+        ::DoDragDrop(data, &source, DROPEFFECT_COPY | DROPEFFECT_MOVE | DROPEFFECT_LINK, &effect);
+    data->Release();
     done = true;
     hand.join();
     ::DestroyWindow(owner);

@@ -25,11 +25,10 @@ TEST_F(DropTest, SeveralImagesGiveTheirTagsAtTheCaret) {
     Quillon quillon(file("page.htm", " after"));
     quillon.typeText("before ");
     expectText(quillon.pad(), "before  after");
-    const std::string files =
-        FileList({file("a b.gif", kGif), file("Photo.JPG", kGif), file("x & y.gif", kGif + "....")});
-    constexpr DWORD kOffered = DROPEFFECT_COPY | DROPEFFECT_MOVE | DROPEFFECT_LINK;
+    const std::vector<std::string> files = {file("a b.gif", kGif), file("Photo.JPG", kGif),
+                                            file("x & y.gif", kGif + "....")};
     // A window that comes to the front in the middle of it costs a drag.
-    const auto copies = [&] { return Drag(CF_HDROP, files, quillon.pad(), kOffered) == DROPEFFECT_COPY; };
+    const auto copies = [&] { return Drag(files, quillon.pad()) == DROPEFFECT_COPY; };
     EXPECT_TRUE(copies() || copies());
     ::DeleteFileA(scratch("Photo.JPG").c_str());  // as an archive does with what it has unpacked
     const std::string tags = tag("a b.gif") + tag("Photo.JPG") + tag("x & y.gif");

@@ -1,12 +1,28 @@
-// What a fuzz target must find true, and how it takes its input apart.
+// What every fuzz target shares: its entry, what it must find true, and how it takes its input apart.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 #include <string>
 #include <string_view>
 
 inline void Check(bool holds) {
     if (!holds) std::abort();
+}
+
+// Each target's own: tries one input.
+void Try(std::string_view input);
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    Try({reinterpret_cast<const char*>(data), size});
+    return 0;
+}
+
+inline unsigned TakeByte(std::string_view& rest) {
+    const auto byte = static_cast<unsigned char>(rest.front());
+    rest.remove_prefix(1);
+    return byte;
 }
 
 // Text of one unit for each byte: the last two are the halves of a character beyond U+FFFF.

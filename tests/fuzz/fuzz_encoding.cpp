@@ -1,9 +1,5 @@
 // Pages in every encoding, there and back. An input is the system's code page, the place of an edit, and the
 // page, which is taken for bytes and for text.
-#include <cstddef>
-#include <cstdint>
-#include <string>
-
 #include "../core/iconv_code_pages.h"
 #include "check.h"
 #include "document/core/codec.h"
@@ -79,21 +75,23 @@ void CheckText(const Encoding& current, const std::u16string& text, const docume
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    if (size < 2) return 0;
+void Try(std::string_view input) {
+    if (input.size() < 2) return;
+    const unsigned system = TakeByte(input);
     static const IconvCodePages systems[] = {IconvCodePages(1252), IconvCodePages(1251),
                                              IconvCodePages(932),  IconvCodePages(936),
                                              IconvCodePages(950),  IconvCodePages(kUtf8)};
-    const IconvCodePages& pages = systems[data[0] % 6];
-    const IconvCodePages& others = systems[(data[0] + 1) % 6];
-    const std::string bytes(reinterpret_cast<const char*>(data) + 2, size - 2);
+    const IconvCodePages& pages = systems[system % 6];
+    const IconvCodePages& others = systems[(system + 1) % 6];
+    const std::size_t place = TakeByte(input);
+    const std::string bytes(input);
 
     const Encoding own = EncodingOf(bytes, pages);
     const std::u16string text = Decode(own, bytes, pages);
     Check(EncodingToSave(text, own, pages) == own);
-    CheckBytes(own, bytes, data[1], pages);
+    CheckBytes(own, bytes, place, pages);
     for (const unsigned codePage : kCodePages) {
-        CheckBytes({codePage}, bytes, data[1], pages);
+        CheckBytes({codePage}, bytes, place, pages);
         if (codePage == kUtf16 || codePage == kUtf16BigEndian) continue;  // never without a mark
         CheckText({codePage}, text, pages, others);
         std::u16string units;
@@ -101,5 +99,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             units += static_cast<char16_t>((bytes[i] & 0xFF) | (bytes[i + 1] & 0xFF) << 8);
         CheckText({codePage}, units, pages, others);
     }
-    return 0;
 }

@@ -1,8 +1,4 @@
 // The first bytes of a file of any kind: every prefix of them must give the whole's size or none.
-#include <cstddef>
-#include <cstdint>
-#include <string>
-
 #include "authoring/images/core/image_info.h"
 #include "check.h"
 
@@ -27,13 +23,12 @@ void CheckSize(ImageType type, const std::string& bytes) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string bytes(reinterpret_cast<const char*>(data), size);
+void Try(std::string_view input) {
+    const std::string bytes(input);
     const ImageType type = authoring::DetectImageType(bytes);
     Check(type != ImageType::undetermined);
     Check(type == authoring::DetectImageType(bytes.substr(0, authoring::kImageTypeBytes)));
     for (const ImageType read : {type, ImageType::bitmap, ImageType::gif, ImageType::jpeg}) {
         CheckSize(read, bytes);
     }
-    return 0;
 }

@@ -1,8 +1,5 @@
 // Four bytes of paper and font, then a title up to the first line end, then the text.
 #include <algorithm>
-#include <cstddef>
-#include <cstdint>
-#include <string>
 
 #include "check.h"
 #include "print/core/print_layout.h"
@@ -44,21 +41,22 @@ void CheckLines(const std::u16string& text, int width, const modPrint::Measure& 
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    if (size < 4) return 0;
-    const std::u16string input = Units({reinterpret_cast<const char*>(data) + 4, size - 4});
-    const modPrint::Measure measure{[scale = data[0] % 16](std::u16string_view text) {
-        int width = 0;
+void Try(std::string_view input) {
+    if (input.size() < 4) return;
+    const modPrint::Measure measure{[scale = TakeByte(input) % 16](std::u16string_view text) {
+        unsigned width = 0;
         for (const char16_t c : text) width += (c % 8 + 1) * scale;
-        return width;
+        return static_cast<int>(width);
     }};
-    const int width = data[1] * 8 - 32;
-    CheckLines(input, width, measure, data[3]);
+    const int width = static_cast<int>(TakeByte(input)) * 8 - 32;
+    const int height = static_cast<int>(TakeByte(input)) * 64;
+    const unsigned likely = TakeByte(input);
+    CheckLines(Units(input), width, measure, likely);
 
-    const modPrint::Paper paper{width * 4, data[2] * 64, data[3] - 1};
-    const std::size_t titleEnd = std::min(input.size(), input.find(u'\n'));
-    const std::u16string text = input.substr(titleEnd);
-    modPrint::PrintLayout layout(text, input.substr(0, titleEnd), paper, measure, data[3] % 9U);
+    const modPrint::Paper paper{width * 4, height, static_cast<int>(likely) - 1};
+    const std::u16string title = Units(input.substr(0, input.find('\n')));
+    const std::u16string text = Units(input.substr(title.size()));
+    modPrint::PrintLayout layout(text, title, paper, measure, likely % 9);
     std::u16string ink;
     bool isHeader = true;
     while (const auto line = layout.next()) {
@@ -68,5 +66,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         isHeader = false;
     }
     Check(ink == Ink(modPrint::ExpandTabs(text, 1)));
-    return 0;
 }

@@ -1,9 +1,5 @@
 // A recovery copy from a disk that may have done anything to it. An input is a file; and, with the right sum
 // put behind it, the inside of one.
-#include <cstddef>
-#include <cstdint>
-#include <string>
-
 #include "check.h"
 #include "files/core/recovery_copy.h"
 
@@ -18,15 +14,14 @@ void CheckCopy(std::string_view bytes) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string bytes(reinterpret_cast<const char*>(data), size);
-    CheckCopy(bytes);
+void Try(std::string_view input) {
+    CheckCopy(input);
 
+    const std::size_t size = input.size();
     files::RecoveryCopy copy;
-    std::string_view rest = bytes;
-    copy.path = TakeLine(rest);
-    copy.caption = TakeLine(rest);
-    copy.text = Units(rest);
+    copy.path = TakeLine(input);
+    copy.caption = TakeLine(input);
+    copy.text = Units(input);
     copy.caret = copy.text.size() / 2;
     copy.encoding = {static_cast<unsigned>(size), size % 2 == 0};
     const std::string packed = files::Pack(copy);
@@ -36,5 +31,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::string damaged = packed;
     damaged[size * 7 % packed.size()] ^= 0x10;
     Check(!files::Unpack(damaged));
-    return 0;
 }

@@ -1,8 +1,4 @@
 // One byte of attributes, then what a server might send: names and directories, one a line.
-#include <cstddef>
-#include <cstdint>
-#include <string>
-
 #include "../core/iconv_code_pages.h"
 #include "check.h"
 #include "document/core/codec.h"
@@ -36,10 +32,10 @@ void CheckMoveUp(const std::string& current, std::string root) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    if (size < 1) return 0;
-    std::string_view input(reinterpret_cast<const char*>(data) + 1, size - 1);
-    const IconvCodePages pages(data[0] % 2 == 0 ? 1252 : 932);
+void Try(std::string_view input) {
+    if (input.empty()) return;
+    const unsigned attributes = TakeByte(input);
+    const IconvCodePages pages(attributes % 2 == 0 ? 1252 : 932);
     ftp::RemoteListing listing(pages);
     std::string previous;
     while (!input.empty()) {
@@ -52,12 +48,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         Check(!sent || document::IsUtf8(*sent) || ftp::ShownText(*sent, pages) == name);
         CheckLocalName(ftp::ShownText(name, pages));
         Check(ftp::SplitSiteUrl(name).host.find('/') == std::string::npos);
-        Check(listing.add(name, data[0]));
+        Check(listing.add(name, attributes));
         previous = name;
     }
     for (const ftp::RemoteFile& file : std::move(listing).files()) {
         Check(!file.line.empty() && !file.name.empty() && file.name.size() <= ftp::kMaxRemoteName);
         Check(file.name != "." && file.name != "..");
     }
-    return 0;
 }

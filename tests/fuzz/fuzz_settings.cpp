@@ -2,11 +2,8 @@
 // files, a key and a value on a line each.
 #include <algorithm>
 #include <charconv>
-#include <cstddef>
-#include <cstdint>
 #include <functional>
 #include <set>
-#include <string>
 #include <utility>
 #include <vector>
 
@@ -53,15 +50,14 @@ void CheckFontSize(const std::string& text) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    std::string_view rest(reinterpret_cast<const char*>(data), size);
-    const std::string count = TakeLine(rest);
-    const std::string path = TakeLine(rest);
+void Try(std::string_view input) {
+    const std::string count = TakeLine(input);
+    const std::string path = TakeLine(input);
     CheckFontSize(count);
     std::vector<Row> rows;
-    while (!rest.empty()) {
-        const std::string key = TakeLine(rest);
-        rows.push_back({key, TakeLine(rest)});
+    while (!input.empty()) {
+        const std::string key = TakeLine(input);
+        rows.push_back({key, TakeLine(input)});
     }
     std::vector<Row> sorted = rows;
     std::stable_sort(sorted.begin(), sorted.end(),
@@ -69,5 +65,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     settings::SortRows(rows);
     Check(rows == sorted);
     CheckRecent(count, path, rows);
-    return 0;
 }

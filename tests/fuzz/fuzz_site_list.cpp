@@ -1,9 +1,6 @@
 // Rows of a store in any state, then changes of the list, each of them stopped after any step.
 #include <algorithm>
-#include <cstddef>
-#include <cstdint>
 #include <set>
-#include <string>
 
 #include "../core/site_store.h"
 #include "check.h"
@@ -99,22 +96,18 @@ void RemoveSite(SiteStore& store, int index) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void Try(std::string_view input) {
     SiteStore store;
-    size = std::min<std::size_t>(size, 300);  // more would only be slower
-    std::size_t at = 0;
-    while (at + 1 < size && data[at] != 0xFF) {
-        PutRow(store, data[at], data[at + 1]);
-        at += 2;
-    }
+    input = input.substr(0, 300);  // more would only be slower
+    for (unsigned key = 0; input.size() > 1 && (key = TakeByte(input)) != 0xFF;)
+        PutRow(store, key, TakeByte(input));
     store.names().erase("99");  // a name of no site; the mark comes from the changes
-    for (++at; at + 1 < size; at += 2) {
-        const unsigned value = data[at + 1];
-        const unsigned action = data[at] % 3;
+    while (input.size() > 1) {
+        const unsigned action = TakeByte(input) % 3;
+        const unsigned value = TakeByte(input);
         if (action == 0) AddSite(store, "new" + std::to_string(value));
         if (action == 1) RemoveSite(store, static_cast<int>(value % 100));
         if (action == 2)
             store.names()["99"] = value < 240 ? std::to_string(value % 16) : std::string("x", value % 2);
     }
-    return 0;
 }

@@ -1,6 +1,5 @@
 // Any page, with one letter beyond ASCII.
 #include <algorithm>
-#include <cstdint>
 
 #include "authoring/spelling/core/spell_text.h"
 #include "authoring/spelling/core/spelling_pass.h"
@@ -21,8 +20,8 @@ bool IsLetter(char32_t c) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::u16string page = Units({reinterpret_cast<const char*>(data), size});
+void Try(std::string_view input) {
+    const std::u16string page = Units(input);
     std::size_t end = 0;
     for (const authoring::Word& word : authoring::FindWords(page, IsLetter)) {
         Check(word.start >= end && word.length > 1 && word.length <= page.size() - word.start);
@@ -51,5 +50,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Check(std::count(taken.begin(), taken.end(), u'\r') == std::count(page.begin(), page.end(), u'\r'));
     std::erase(taken, u'\n');
     Check(page.find(u'\n') != std::u16string::npos || taken == page);
-    return 0;
 }

@@ -1,10 +1,6 @@
 // A template list as anything may have left it in the settings store. An input is lines: a name to add,
 // then name and ID of each slot; a file exists if its name does not begin with '-'.
 #include <algorithm>
-#include <cstddef>
-#include <cstdint>
-#include <string>
-#include <string_view>
 
 #include "authoring/templates/core/template_list.h"
 #include "check.h"
@@ -41,11 +37,10 @@ void CheckAcceptedName(std::string_view name) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    std::string_view rest(reinterpret_cast<const char*>(data), size);
-    const std::string name = TakeLine(rest);
+void Try(std::string_view input) {
+    const std::string name = TakeLine(input);
     TemplateList list;
-    for (Template& slot : list) slot = {TakeLine(rest), TakeLine(rest)};
+    for (Template& slot : list) slot = {TakeLine(input), TakeLine(input)};
 
     CheckRebuilt(list);
     const std::string id = "An ID that is not in the list";
@@ -56,5 +51,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         Check(!authoring::NewTemplateProblem(longer, "another name", id).empty());
         CheckRebuilt(longer);
     }
-    return 0;
 }
