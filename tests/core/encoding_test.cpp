@@ -8,6 +8,7 @@
 
 #include "core/iconv_code_pages.h"
 #include "document/core/codec.h"
+#include "files/core/page_lines.h"
 
 namespace {
 
@@ -105,7 +106,7 @@ TEST(EncodingOf, ReadsDeclarationsAsABrowserDoes) {
           "<meta/charset='windows-1251'>",
           "<html><head><title a='>'>x</title><meta name=x charset=windows-1251 >",
           "<meta http-equiv=Content-Type content='text/html; charset=windows-1251'>",
-          "<meta content=\"text/html;CHARSET = 'windows-1251' ;x\" HTTP-EQUIV=\"content-type\">",
+          "<meta content=\"CHARSET = 'windows-1251' ;x\" HTTP-EQUIV=\"content-type\">",
           "<meta http-equiv=content-type content='charset charset=windows-1251;q'>",
           "<!-- <meta charset=utf-8> --><meta charset=windows-1251>",
           "<!--><meta charset=windows-1251>-->",
@@ -292,6 +293,12 @@ TEST(EncodingToSave, ChoosesWhatThePageIsReadBackIn) {
     EXPECT_EQ(saved(u"\u00FF\u00FE<meta charset=windows-1252>", {1252}), (Encoding{kUtf8, true}));
     EXPECT_EQ(saved(u"\u00EF\u00BB\u00BF", {1252}), (Encoding{kUtf8, true}));
     EXPECT_EQ(saved(u"\uFEFF<meta charset=utf-8>", {1252}), (Encoding{kUtf8, true}));
+}
+
+TEST(PageLines, EndWithCrLfWhateverLineBreakTheyHad) {
+    const files::TerminatedLines lines = files::TerminateLines(u"a\r\nb\r\r\nc\rd\n\ne\r\r");
+    EXPECT_EQ(lines.text, u"a\r\nb\r\nc\r\nd\r\n\r\ne\r\n\r\n\r\n");
+    EXPECT_EQ(lines.count, 8U);
 }
 
 }  // namespace

@@ -42,6 +42,8 @@ void CheckRecent(const std::string& count, const std::string& path, const std::v
 
 void CheckFontSize(const std::string& text) {
     const float points = document::ParseFontSize(text);
+    const auto [isText, number] = Rank({text, ""});
+    if (!isText && number >= 1 && number <= 400) Check(points == static_cast<float>(number));
     if (points == 0) return;
     Check(points >= document::kSmallestPoints && points <= document::kLargestPoints);
     const float again = document::ParseFontSize(document::FontSizeText(points));
