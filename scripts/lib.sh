@@ -1,4 +1,4 @@
-# Sourced by the other scripts: where things lie, how steps are told, how Wine's programs are started.
+# Sourced by the other scripts: paths, messages, and how programs are started in Wine.
 # shellcheck shell=bash disable=SC2034
 
 project=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -11,8 +11,8 @@ prefix=$(realpath -ms "${QUILLON_PREFIX:-$project/build/wine-prefix}")
 say() { printf '%s\n' "$*" >&2; }
 die() { say "$(basename "$0"): $*"; exit 1; }
 
-# Whether the kernel runs 32-bit programs, tried with an ELF file that does nothing but end. The fields that
-# nobody reads are not zero in it, so no emulator that is registered for such programs takes it for one.
+# Whether the kernel runs 32-bit programs, tried with an ELF file that only exits. Its unused header fields are
+# not zero, so that no emulator registered for such files recognises it.
 runs_32_bits() {
     local probe code=0
     mkdir -p "$project/build"
@@ -29,7 +29,7 @@ runs_32_bits() {
     return "$code"
 }
 
-# What Windows programs are tried here: the 32-bit build, which ships, wherever the machine runs it.
+# Which build is run here: the 32-bit one, which ships, wherever the machine can run it.
 if [[ ! ${QUILLON_BITS-} ]]; then
     if runs_32_bits; then QUILLON_BITS=32; else QUILLON_BITS=64; fi
     export QUILLON_BITS
@@ -44,17 +44,17 @@ if (( bits == 32 )); then
 else
     program=$project/build/$preset/Quillon.exe
 fi
-# QUILLON_WINE=trixie takes the Wine of that Debian, which setup makes beside this one.
+# QUILLON_WINE=trixie uses the Wine of that Debian release, which setup installs beside this one.
 [[ ! ${QUILLON_WINE-} ]] || wine_root=$cache/wine-root-$QUILLON_WINE-$bits
 
-# configure PRESET [OPTION...]: readies build/PRESET; silent unless CMake complains.
+# configure PRESET [OPTION...]: prepares build/PRESET; silent unless CMake complains.
 configure() {
     mkdir -p "$project/build"
     local log=$project/build/configure-$1.log
     CMAKE_CXX_COMPILER_LAUNCHER=$(command -v ccache || true) cmake --preset "$@" >"$log" 2>&1 || die "$(<"$log")"
 }
 
-# build_program [TARGET...]: $program, and targets that go with it.
+# build_program [TARGET...]: builds $program, and further targets.
 build_program() {
     if (( bits == 32 )); then
         "$project/scripts/build"
@@ -73,9 +73,9 @@ windows_path() {
     printf 'Z:%s' "${path//\//\\}"
 }
 
-# Fills view with the words that run one of Wine's Unix commands (wine, wineserver) for $prefix. HOME
-# lies in the prefix so that nothing, the trash included, reaches the user's own; the first override
-# keeps Wine's programs out of the user's menus, the second keeps Wine from asking for downloads.
+# Sets view to the words that run one of Wine's Unix commands (wine, wineserver) for $prefix. HOME is in the
+# prefix so that nothing, not even the trash, touches the user's own; the first override keeps Wine's programs
+# out of the user's menus, the second keeps Wine from asking for downloads.
 set_view() {
     view=(env WINEPREFIX="$prefix" WINEARCH="$preset" WINEDEBUG="${WINEDEBUG--all}"
         LC_ALL='' LANG="${QUILLON_LOCALE:-C.UTF-8}" LC_CTYPE="${QUILLON_LOCALE:-C.UTF-8}"
@@ -83,8 +83,8 @@ set_view() {
         WINEDLLOVERRIDES='winemenubuilder.exe=d;mscoree,mshtml='
         XAUTHORITY="${XAUTHORITY:-${HOME-}/.Xauthority}" HOME="$prefix/home")
     [[ -d $wine_root ]] || return 0
-    # The command sees the i386 root's /usr in place of the machine's, and everything else, checkout,
-    # displays and ports included, as it is. The mounts end with it.
+    # The command sees the i386 root's /usr in place of the machine's, and everything else, including the
+    # checkout, displays and ports, unchanged. The mounts go when it ends.
     view+=(FONTCONFIG_PATH="$wine_root/etc/fonts" unshare --mount)
     (( EUID == 0 )) || view+=(--map-current-user --keep-caps)
     # shellcheck disable=SC2016
@@ -98,7 +98,7 @@ in_wine() {
     "${view[@]}" "$@"
 }
 
-# Makes $prefix if it is not there: a copy of the cache's, which takes Wine its 15 seconds once. The
+# Makes $prefix if it is missing, as a copy of a template in the cache, which takes Wine 15 seconds once. The
 # system's own files, nine tenths of the whole, are shared by hard links.
 ensure_prefix() {
     [[ ! -d $prefix ]] || return 0
@@ -133,7 +133,7 @@ make_template() {
 }
 
 # set_desktop SIZE DPI: draws the prefix's windows inside a desktop window of SIZE (WIDTHxHEIGHT), which
-# stands in for a window manager, or as windows of their own where SIZE is none. Where Wine finds no Courier
+# stands in for a window manager, or as separate windows where SIZE is "none". Where Wine finds no Courier
 # New, the font of pages, it would take a proportional one; Liberation Mono has the same widths.
 set_desktop() {
     local wanted kept=$prefix/desktop.reg desktop='"Desktop"="Default"'

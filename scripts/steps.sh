@@ -1,5 +1,5 @@
-# Sourced by test and by what runs a part of it for longer, after lib.sh: steps that run, are timed and are
-# counted.
+# Sourced, after lib.sh, by test and by the scripts that run parts of it for longer: steps, which are run, timed
+# and counted.
 # shellcheck shell=bash
 
 # shellcheck source=lib.sh
@@ -14,8 +14,8 @@ fuzz() {
         -artifact_prefix="$results/$1-" "$found" "$project/tests/fuzz/corpus/${1#fuzz_}"
 }
 
-# with_small_disk FOLDER COMMAND...: runs the command with a file system of 128 KB mounted at FOLDER, which
-# only it sees and finds named in QUILLON_SMALL_DISK; or without, where nothing may be mounted.
+# with_small_disk FOLDER COMMAND...: runs the command with a file system of 128 KB mounted at FOLDER, which only
+# the command sees and whose path is in QUILLON_SMALL_DISK; without one where mounting is not allowed.
 with_small_disk() {
     local folder=$1 view=(unshare --mount)
     shift
@@ -43,9 +43,9 @@ in_windows() {
         "$project/scripts/wine" "$project/build/$preset/tests/$1.exe" "--gtest_filter=$2" "${@:3}"
 }
 
-# step NAME COMMAND...: runs the command, keeps its output, tells and keeps what came of it. A program of
-# GoogleTest's counts its tests, and one more failed when it ended badly or before its own summary; any
-# other command counts as one test.
+# step NAME COMMAND...: runs the command, logs its output, and reports and records the result. A GoogleTest program
+# counts its tests, and one more as failed when it crashed or ended before its summary; any other command counts
+# as one test.
 step() {
     local name=$1 log=$results/$1.log start=$SECONDS code=0 passed=0 failed=0
     shift
@@ -87,7 +87,7 @@ side_by_side() {
     done
     set +m
     for work in "${started[@]}"; do
-        wait "$work" || { say "a part of the tests broke off"; echo 0 1 >>"$results/counts"; }
+        wait "$work" || { say "a part of the tests did not finish"; echo 0 1 >>"$results/counts"; }
     done
     started=()
 }
