@@ -1,19 +1,23 @@
 #!/usr/bin/python3
 """An FTP server on loopback that does what no honest server does: scripted_server.py LOG [PORT]
 
-Prints its port once it listens and serves until it is killed. The name of a login is what happens to it,
-one or more of these words, separated by blanks:
+Prints its ports, the ordinary one and the full one, once it listens, and serves until it is killed. The user name
+of a login says what happens in its session, in one or more of these words, separated by blanks:
 
   refuse-CMD    CMD gets a refusal
   drop-CMD      the connection is closed in place of an answer to CMD
-  cut-CMD       CMD's transfer ends half way, with the data connection and no word of success
+  cut-CMD       CMD's transfer ends half way: the data connection is closed and a failure reported
   break-CMD     CMD's transfer ends half way, and the control connection with it
   silent-CMD    CMD is never answered
-  hold-CMD      CMD's transfer gets its answer when somebody logs in as "go-on"
+  hold-CMD      CMD's transfer is answered when somebody logs in as "go-on"
   list-NAME     listings are those of NAME: "odd", "long", "endless", "alike", "plain"
   stay          a directory that has been entered is never left again
 
-Every password is right. LOG gets the commands, a line each, passwords included.
+Every password is accepted. LOG gets the commands, a line each, passwords included.
+
+The full port has room for one connection and has it. When somebody tries to connect, LOG gets "(somebody
+waits)". The connection is accepted when somebody logs in as "let-in" at the ordinary port; what comes over it then is
+logged as "(heard: ...)".
 """
 import os
 import socket
@@ -68,6 +72,12 @@ ANSWERS = {"USER": "331 password", "PASS": "230 in", "SYST": "215 UNIX Type: L8"
            "RNTO": "250 ok", "MKD": "257 made"}
 LISTINGS = {"ordinary": ordinary, "odd": odd, "long": long, "endless": endless, "alike": alike, "plain": plain}
 GO_ON = threading.Event()
+LET_IN = threading.Event()
+
+
+def note(path, text):
+    with open(path, "ab") as log:
+        log.write(text + b"\n")
 
 
 class Session(threading.Thread):
@@ -79,16 +89,12 @@ class Session(threading.Thread):
     def reply(self, text):
         self.control.sendall(text.encode("latin-1") + b"\r\n")
 
-    def note(self, text):
-        with open(self.log, "ab") as log:
-            log.write(text + b"\n")
-
     def run(self):
         try:
             self.reply("220 ready")
             for raw in self.control.makefile("rb"):
                 command, _, argument = raw.rstrip(b"\r\n").partition(b" ")
-                self.note(raw.rstrip(b"\r\n"))
+                note(self.log, raw.rstrip(b"\r\n"))
                 if not self.serve(command.decode("latin-1").upper(), argument):
                     break
         except OSError:
@@ -100,6 +106,8 @@ class Session(threading.Thread):
         if command == "USER":
             self.words = argument.decode("latin-1").split()
             GO_ON.set() if self.words == ["go-on"] else GO_ON.clear()
+            if self.words == ["let-in"]:
+                LET_IN.set()
         if f"silent-{command}" in self.words:
             threading.Event().wait()
         if f"drop-{command}" in self.words:
@@ -177,9 +185,38 @@ class Session(threading.Thread):
         return self.finish("STOR")
 
 
+def is_waited_for(port):
+    with open("/proc/net/tcp") as connections:
+        states = [connection.split()[2:4] for connection in connections]
+    return ["0100007F:%04X" % port, "02"] in states  # SYN_SENT
+
+
+def serve_full(server, log):
+    port = server.getsockname()[1]
+    while True:
+        first = socket.create_connection(("127.0.0.1", port))
+        while not is_waited_for(port):
+            time.sleep(0.01)
+        LET_IN.clear()
+        note(log, b"(somebody waits)")
+        LET_IN.wait()
+        server.accept()[0].close()
+        first.close()
+        control, _ = server.accept()
+        control.sendall(b"220 ready\r\n")
+        try:
+            heard = control.recv(100).rstrip(b"\r\n")
+        except ConnectionResetError:
+            heard = b""
+        note(log, b"(heard: %s)" % heard)
+        control.close()
+
+
 def main():
     server = socket.create_server(("127.0.0.1", int(sys.argv[2]) if len(sys.argv) > 2 else 0))
-    print(server.getsockname()[1], flush=True)
+    full = socket.create_server(("127.0.0.1", 0), backlog=0)
+    print(server.getsockname()[1], full.getsockname()[1], flush=True)
+    threading.Thread(target=serve_full, args=(full, sys.argv[1]), daemon=True).start()
     while True:
         control, _ = server.accept()
         Session(control, sys.argv[1]).start()

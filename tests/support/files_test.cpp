@@ -59,6 +59,11 @@ void FilesTest::writeFile(const std::string& path, const std::string& bytes) {
     ASSERT_TRUE(::CloseHandle(file) && written == bytes.size()) << path;
 }
 
+std::string FilesTest::writeGif(const std::string& name, const std::string& more) {
+    writeFile(scratch(name), std::string("GIF89a\x78\x00\x3C\x00", 10) + more);
+    return scratch(name);
+}
+
 std::string FilesTest::readFile(const std::string& path) {
     constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     const HANDLE file =

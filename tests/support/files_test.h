@@ -22,6 +22,12 @@ class FilesTest : public ::testing::Test {
     // A path in a folder of this test's own, which is empty at the start.
     static std::string scratch(const std::string& name);
     static void writeFile(const std::string& path, const std::string& bytes);
+    // Writes an image of 120 by 60 pixels and gives its path.
+    static std::string writeGif(const std::string& name, const std::string& more = "");
+    // The tag that dropping such an image makes.
+    static std::string gifTag(const std::string& name) {
+        return "<img src=\"images/" + name + "\" width=\"120\" height=\"60\" border=\"0\">";
+    }
     static std::string readFile(const std::string& path);  // "(no file)" when there is none
     // The name of a file there that matches the pattern; empty when there is none.
     static std::string found(const std::string& pattern);

@@ -1,10 +1,13 @@
 #include "win/failing_calls.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <new>
 #include <type_traits>
+
+#include <gtest/gtest.h>
 
 #include "support/wide.h"
 #include "win/windows.h"
@@ -216,7 +219,7 @@ void operator delete(void* memory, std::size_t) noexcept {
     std::free(memory);
 }
 
-int FailEachCall(const FaultyWork& test) {
+void FailEachCall(const FaultyWork& test) {
     int faults = 0;
     for (const DWORD error : test.errors) {
         for (const bool forGood : {false, true}) {
@@ -224,7 +227,8 @@ int FailEachCall(const FaultyWork& test) {
             for (int call = 1; call < 500 && FailOne(test, call, forGood, error); ++call) ++faults;
         }
     }
-    return faults;
+    std::printf("%d faults of %s\n", faults, test.name.c_str());
+    EXPECT_GE(faults, test.fewestFaults) << test.name;
 }
 
 std::vector<std::string> SaidWhileMemoryIsShort(const std::function<void()>& work) {

@@ -18,19 +18,22 @@ enum class Calls {
 };
 
 struct FaultyWork {
+    std::string name;  // for the messages of the test
+    int fewestFaults;
     std::function<void()> prepare;  // what was there before
     std::function<void()> work;
     std::function<void(const Fault&)> check;
+    Calls which = Calls::changing;
     bool newFilesRefused = false;                  // a folder that takes no new file at all
     std::vector<unsigned long> errors = {5, 112};  // access denied, disk full
-    Calls which = Calls::changing;
-    int answer = 6;  // IDYES, to questions
+    int answer = 6;                                // IDYES, to questions
 };
 
 // Does the work over and over, with its first, second, ... call of a kind failing, alone or with all calls
 // after it; the last time none fails. Only calls by the program's own code count. What fails has no effect,
-// but for a write, which gets half of its bytes in, and a close. Gives how many faults there were.
-int FailEachCall(const FaultyWork& test);
+// but for a write, which gets half of its bytes in, and a close. The test fails where fewer calls than
+// expected could fail.
+void FailEachCall(const FaultyWork& test);
 
 // Does the work once with nothing failing but what fails by itself, and gives what message boxes said.
 std::vector<std::string> SaidBy(const std::function<void()>& work);

@@ -1,7 +1,4 @@
 // Servers that refuse, break off, or send what no server should.
-#include <winsock2.h>
-
-#include <algorithm>
 #include <cstdlib>
 
 #include "files/atomic_file.h"
@@ -16,8 +13,6 @@
 #include "win/ftp_test.h"
 #include "win/message_loop.h"
 #include "win/unique.h"
-
-#include <iphlpapi.h>
 
 namespace {
 
@@ -97,7 +92,7 @@ TEST_F(FtpFaultsTest, ADownloadThatCannotBePutInItsPlaceLeavesTheOldFile) {
         EXPECT_TRUE(left.empty() || fault.what.find("all after") != std::string::npos) << fault.what;
         ::DeleteFileA(scratch(left).c_str());
     };
-    EXPECT_GE(FailEachCall({[&] { writeFile(path, "old"); }, download, check}), 8);
+    FailEachCall({"a download", 8, [&] { writeFile(path, "old"); }, download, check});
 }
 
 TEST_F(FtpFaultsTest, LoginsThatFailOpenNoWindow) {
@@ -268,62 +263,17 @@ class Odd : public ftp::FtpSession {
     static bool fail() { throw win::Failure("out of order"); }
 };
 
-// Listens on loopback, and has room for one connection until it takes it: the next has to try again.
-class FullServer {
- public:
-    static inline unsigned short port = 0;
-
-    FullServer() {
-        WSADATA data{};
-        ::WSAStartup(MAKEWORD(2, 2), &data);
-        listener_ = ::socket(AF_INET, SOCK_STREAM, 0);
-        first_ = ::socket(AF_INET, SOCK_STREAM, 0);
-        address_.sin_family = AF_INET;
-        address_.sin_addr.s_addr = ::htonl(INADDR_LOOPBACK);
-        auto* address = reinterpret_cast<sockaddr*>(&address_);
-        int size = sizeof address_;
-        ::bind(listener_, address, size);
-        ::listen(listener_, 0);
-        ::getsockname(listener_, address, &size);
-        port = ::ntohs(address_.sin_port);
-        EXPECT_EQ(::connect(first_, address, size), 0);
-    }
-    bool isBeingReached() const {
-        std::vector<char> room(65536);
-        auto* table = reinterpret_cast<MIB_TCPTABLE*>(room.data());
-        auto size = static_cast<ULONG>(room.size());
-        if (::GetTcpTable(table, &size, FALSE) != NO_ERROR) return false;
-        return std::any_of(table->table, table->table + table->dwNumEntries, [this](const auto& row) {
-            return row.dwState == MIB_TCP_STATE_SYN_SENT && row.dwRemotePort == address_.sin_port;
-        });
-    }
-    // What the second one says after the greeting.
-    std::string hear() const {
-        ::closesocket(::accept(listener_, nullptr, nullptr));
-        const SOCKET second = ::accept(listener_, nullptr, nullptr);
-        ::send(second, "220 ready\r\n", 11, 0);
-        char said[100];
-        const int length = ::recv(second, said, sizeof said, 0);
-        for (const SOCKET socket : {second, first_, listener_}) ::closesocket(socket);
-        return std::string(said, static_cast<std::size_t>(std::max(length, 0)));
-    }
-
- private:
-    SOCKET listener_ = INVALID_SOCKET;
-    SOCKET first_ = INVALID_SOCKET;
-    sockaddr_in address_{};
-};
-
 TEST_F(FtpFaultsTest, CancelBeforeTheServerIsReachedSendsNoLogin) {
-    const FullServer server;
     addSite("127.0.0.1", "plain", "pw");
-    const auto leave = [&](HWND connecting) {
-        EXPECT_TRUE(seen::Until([&] { return server.isBeingReached(); }));
+    const auto leave = [](HWND connecting) {
+        EXPECT_TRUE(wasTold("(somebody waits)"));
         ::PostMessageA(connecting, WM_CLOSE, 0, 0);
     };
-    heard([&] { frmUpload::open(main(), 0, [] { return ftp::MakeSession(FullServer::port); }); },
+    heard([&] { frmUpload::open(main(), 0, FullSession); },
           {{"Quillon FTP", leave}, User::press("NOT CONNECTED", IDOK)});
-    EXPECT_EQ(server.hear(), "");
+    const auto other = ScriptedSession();
+    EXPECT_TRUE(other->open() && other->connect("127.0.0.1", "let-in", "pw"));
+    EXPECT_TRUE(wasTold("(heard: )")) << told();
 }
 
 TEST_F(FtpFaultsTest, WithoutADialUpLinkTheAttemptGoesOnAndWithoutNetworkingItEnds) {

@@ -55,11 +55,12 @@ TEST_F(OptionsTest, DefaultTypesAreStoredAndChecked) {
     EXPECT_EQ(checked(mnuOptDefOpenList, 4) + checked(mnuOptDefSaveList, 4), ".asp.txt");
     run(mnuFileNew);
     EXPECT_EQ(active().Caption(), "Untitled1.asp");
+    run(mnuFileClose);
     run(mnuOptDefOpenList + 3);
     EXPECT_EQ(stored("Files", "default_Open"), "(nothing)") << "an empty value reads as none";
     EXPECT_EQ(checked(mnuOptDefOpenList, 4), "All Files");
     run(mnuFileNew);
-    EXPECT_EQ(active().Caption(), "Untitled2");
+    EXPECT_EQ(active().Caption(), "Untitled2") << "closing gives no number back";
 }
 
 TEST_F(OptionsTest, TheTabLengthHoldsForTheActivePageAndForNewOnes) {
