@@ -5,10 +5,11 @@
 
 #include "authoring/colours/core/web_colors.h"
 #include "authoring/preview/core/preview_path.h"
+#include "help/core/help_texts.h"
 
 namespace {
 
-TEST(WebColors, EachColorOnceInItsBox) {
+TEST(WebColors, EachColorHasOneBoxAtItsPlace) {
     EXPECT_EQ(authoring::ColorOfSwatch(6 * 12 + 11), (authoring::SwatchColor{0x99, 0, 0xFF}));
     EXPECT_EQ(authoring::TextOfSwatch(204), "\"#CCFF00\"");
     EXPECT_EQ(authoring::PlaceOfSwatch(11), (authoring::SwatchPlace{3465, 15, 285}));
@@ -17,6 +18,14 @@ TEST(WebColors, EachColorOnceInItsBox) {
     for (int index = 0; index < authoring::kSwatchCount; ++index)
         texts.insert(authoring::TextOfSwatch(index));
     EXPECT_EQ(texts.size(), 216U) << "a colour comes twice";
+}
+
+TEST(HelpTexts, TheEditingButtonsShareTheirWordsAndNoOthersDo) {
+    std::set<std::string> texts;
+    for (std::size_t button = 0; button < 17; ++button) texts.insert(help::ButtonWords(button));
+    EXPECT_EQ(texts.size(), 14U);
+    for (const std::size_t editing : {5U, 6U, 7U, 8U})
+        EXPECT_EQ(help::ButtonWords(editing).substr(0, 7), "Editing");
 }
 
 TEST(Preview, ACopyLiesBesideThePageUnderANameThatABrowserKnows) {

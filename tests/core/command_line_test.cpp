@@ -12,7 +12,7 @@ using shell::TextAfterProgramName;
 TEST(CommandLine, IsOnePathWithoutTheBlanksAroundIt) {
     const std::pair<const char*, const char*> lines[] = {
         {"\"C:\\My Programs\\Quillon.exe\" \t C:\\a b\\\"c\".htm \t", "C:\\a b\\\"c\".htm"},
-        {"\"Quillon.exe\"page.htm", "page.htm"},
+        {"\"\"page.htm", "page.htm"},
         {"Quillon.exe\tpage.htm", "page.htm"},
         {"Quillon.exe \"page.htm\"", "\"page.htm\""},
         {"\"Quillon.exe", ""},
@@ -23,7 +23,7 @@ TEST(CommandLine, IsOnePathWithoutTheBlanksAroundIt) {
     for (const auto& [line, path] : lines) EXPECT_EQ(TextAfterProgramName(line), path) << line;
 }
 
-TEST(Wildcard, StarQuestionMarkAndDigitStandForWhatTheySay) {
+TEST(Wildcard, StarQuestionMarkAndNumberSignMatchTextCharacterAndDigit) {
     for (const char* text : {"Quillon", "Quillon - [page.htm]", "My Quillon", "QQuillonn"})
         EXPECT_TRUE(MatchesWildcard(text, "*Quillon*")) << text;
     for (const char* text : {"", "Quillo", "quillon", "Quil lon"})

@@ -19,7 +19,7 @@ TEST(Find, ThereIsNoCountBeyondTheLimit) {
 TEST(Replace, OverlapsAreCountedButNotReplaced) {
     EXPECT_EQ(CountMatches(u"aaaa", u"aa"), 3);
     EXPECT_EQ(authoring::ReplaceText<char16_t>(u"aaaaa", u"aa", u"x"), u"xxa");
-    EXPECT_EQ(authoring::ReplaceText<char16_t>(u"aa", u"", u"x"), u"aa") << "nothing occurs nowhere";
+    EXPECT_EQ(authoring::ReplaceText<char16_t>(u"aa", u"", u"x"), u"aa") << "an empty text occurs nowhere";
 }
 
 }  // namespace

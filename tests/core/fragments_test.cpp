@@ -19,7 +19,7 @@ std::string Listed(const std::string& name, std::string_view text) {
     return text.empty() ? "" : shown + "\n";
 }
 
-TEST(TagFragments, EveryOneIsAsListedAndNothingElseIsThere) {
+TEST(TagFragments, AreExactlyThoseListed) {
     std::string made;
     for (int menu = 0; menu <= static_cast<int>(TagMenu::Special); ++menu) {
         for (int index = -2; index < 20; ++index) {
@@ -30,7 +30,7 @@ TEST(TagFragments, EveryOneIsAsListedAndNothingElseIsThere) {
     EXPECT_EQ(made, kept::Read("core/data/tag_fragments.txt"));
 }
 
-TEST(TagFragments, FontSizeIsJudgedByItsFirstCharacterAndTakenWhole) {
+TEST(TagFragments, FontSizeIsCheckedByItsFirstCharacterAndUsedWhole) {
     for (const char* reply : {"1", "7", "75", "3px", "12"}) EXPECT_TRUE(authoring::IsFontSizeReply(reply));
     for (const char* reply : {"", "0", "8", "x", " 3", "-1"}) EXPECT_FALSE(authoring::IsFontSizeReply(reply));
     EXPECT_EQ(authoring::FontSizeFragment("3px"), "<FONT size=3px></FONT>");
@@ -41,7 +41,7 @@ TEST(TagFragments, TheDayOfADateHasTwoDigits) {
     EXPECT_EQ(authoring::DateFragment("M\xE4rz", 31, 987), "M\xE4rz 31, 0987");
 }
 
-TEST(Scripts, BlocksAndMenusAreAsListedAndNothingElseIsThere) {
+TEST(Scripts, BlocksAndMenusAreExactlyThoseListed) {
     std::string made;
     std::string menus;
     for (int index = -2; index < 10; ++index) {

@@ -14,7 +14,7 @@ namespace {
 using ftp::ProposedLocalName;
 using Texts = std::vector<std::array<const char*, 2>>;  // what comes in, what comes out
 
-TEST(ScramblePassword, StartsAtTheSecondKeyCharacterAndGoesThroughCodesZero) {
+TEST(ScramblePassword, StartsAtTheSecondKeyCharacterAndKeepsZeroCodes) {
     EXPECT_EQ(ftp::ScramblePassword("A"), std::string(1, 'A' ^ 'n'));
     EXPECT_EQ(ftp::ScramblePassword("no847mn"), std::string(7, '\0'));
     EXPECT_EQ(ftp::ScramblePassword(std::string(7, '\0')), "no847mn");
@@ -30,20 +30,20 @@ TEST(StoredPassword, KeepsEveryByteInEveryCodePage) {
     EXPECT_EQ(ftp::StoredPassword("\xE9", IconvCodePages(1252)), "\u2021") << "E9 xor 6E is 87";
 }
 
-TEST(ServerText, IsUtf8OrInTheCodePageAndSentOnlyAsItIs) {
+TEST(ServerText, IsUtf8OrInTheCodePageAndIsSentExactlyOrNotAtAll) {
     const IconvCodePages western(1252);
     EXPECT_EQ(ftp::ShownText("Ma\xC5\x82\x65.htm", western), "Małe.htm");
     EXPECT_EQ(ftp::ShownText("caf\xE9.htm", western), "café.htm");
-    EXPECT_NE(ftp::ShownText("\x83", IconvCodePages(932)), "") << "no character, and yet to be seen";
+    EXPECT_NE(ftp::ShownText("\x83", IconvCodePages(932)), "") << "it has to be visible";
     EXPECT_EQ(ftp::SentName("café.htm", western), "caf\xE9.htm");
     EXPECT_EQ(ftp::SentName("Małe.htm", western), std::nullopt);
     EXPECT_EQ(ftp::SentName("Małe.htm", IconvCodePages(document::kUtf8)), "Małe.htm");
-    EXPECT_EQ(ftp::SentName("\xED\xB3\xA9.htm", western), std::nullopt) << "half a pair is not the byte E9";
+    EXPECT_EQ(ftp::SentName("\xED\xB3\xA9.htm", western), std::nullopt) << "a lone surrogate is no byte";
     EXPECT_EQ(ftp::SentName("a\r\nDELE b", western), std::nullopt);
     EXPECT_EQ(ftp::SentText("hasło", western), "hasło");
 }
 
-TEST(SiteUrl, IsTakenApartForConnecting) {
+TEST(SiteUrl, IsSplitIntoHostAndPath) {
     for (const auto& [stored, parts] : Texts{{"ftp.host.org///", "ftp.host.org|"},
                                              {" ftp.host.org/my pages/a/ ", "ftp.host.org|my pages/a"},
                                              {"ftp.host.org//srv/www", "ftp.host.org|/srv/www"},
@@ -90,7 +90,7 @@ TEST(RemoteListing, MarksDirectoriesAndLeavesOutWhatNoCommandCanName) {
         names += file.name + ",";
         lines += file.line + ",";
     }
-    EXPECT_EQ(names, "docs,sub,hidden,..\\x,caf\xE9,café,") << "two that read alike stay two";
+    EXPECT_EQ(names, "docs,sub,hidden,..\\x,caf\xE9,café,") << "two names that look alike stay two";
     EXPECT_EQ(lines, "docs/,sub/,hidden,..\\x,café,café,");
     EXPECT_TRUE(ftp::OpensOnDoubleClick("docs/"));
     EXPECT_FALSE(ftp::OpensOnDoubleClick("site.files/"));
@@ -135,7 +135,7 @@ TEST(ProposedLocalName, StaysInTheDialogsFolderAndHoldsNothingThatWindowsForbids
               std::string(ftp::kMaxLocalName - 5, 'x') + ".html");
     EXPECT_EQ(ProposedLocalName(std::string(ftp::kMaxLocalName - 1, 'x') + "é"),
               std::string(ftp::kMaxLocalName - 1, 'x'))
-        << "no half letters";
+        << "no character is cut in two";
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The C library's converters in the place of Windows' code pages.
+// The C library's converters in place of Windows' code pages.
 #pragma once
 
 #include <iconv.h>
@@ -62,7 +62,7 @@ class IconvCodePages : public document::CodePages {
         return name == names.end() ? nullptr : name->second;
     }
 
-    // With the substitute for each byte or unit of the input that is no character.
+    // Puts the substitute in place of each byte or unit of the input that is not a character.
     std::string convert(unsigned codePage, bool toUnicode, std::string_view input,
                         std::string_view substitute) const {
         const char* name = NameOf(codePage);

@@ -30,7 +30,7 @@ const std::tuple<const char*, ImageType, Size> kEncoded[] = {
     {"bitmap_top_down.bmp", ImageType::bitmap, {12, -6}},
 };
 
-TEST(ImageInfo, FilesOfRealEncodersFromTheBytesThatAreAskedFor) {
+TEST(ImageInfo, ReadsFilesOfRealEncodersFromTheBytesThatItAsksFor) {
     for (const auto& [file, type, size] : kEncoded) {
         const std::string bytes = kept::Read("fuzz/corpus/image_info/"s + file);
         EXPECT_EQ(DetectImageType(bytes.substr(0, kImageTypeBytes)), type) << file;

@@ -1,4 +1,4 @@
-// Files that lie beside the tests: listings typed by hand, and what real programs wrote.
+// Files beside the tests: listings typed by hand, and files that real programs have written.
 #pragma once
 
 #include <fstream>

@@ -13,7 +13,7 @@ using modPrint::Measure;
 using modPrint::NextPrintLine;
 using Lines = std::vector<std::u16string>;
 
-// Every unit is ten twips wide.
+// Measures every unit as ten twips wide.
 const Measure kTenATwip{[](std::u16string_view text) { return static_cast<int>(text.size()) * 10; }};
 
 Lines Broken(std::u16string_view text, int width, const Measure& measure = kTenATwip,
@@ -30,7 +30,7 @@ TEST(NextPrintLine, GivesEveryLineOfThePageEvenTheEmptyOnes) {
     EXPECT_EQ(Broken(u"a\nb\rc\r\rd\r\n\ne", 100), (Lines{u"a", u"b", u"c", u"", u"d", u"", u"e"}));
 }
 
-TEST(NextPrintLine, BreaksAtTheLastBlankThatKeepsThePieceInTheWidth) {
+TEST(NextPrintLine, BreaksAtTheLastBlankWithinTheWidth) {
     for (const std::size_t likely : {1U, 7U, 80U}) {
         EXPECT_EQ(Broken(u"one two three", 70, kTenATwip, likely), (Lines{u"one two", u"three"}));
         EXPECT_EQ(Broken(u"one two three", 69, kTenATwip, likely), (Lines{u"one", u"two", u"three"}));
@@ -38,7 +38,7 @@ TEST(NextPrintLine, BreaksAtTheLastBlankThatKeepsThePieceInTheWidth) {
     }
 }
 
-TEST(NextPrintLine, ATooWideWordLosesNothingAndAlwaysAdvances) {
+TEST(NextPrintLine, AWordThatIsTooWideIsBrokenAndLosesNothing) {
     EXPECT_EQ(Broken(u"to abcdefghij k", 40), (Lines{u"to", u"abcd", u"efgh", u"ij k"}));
     EXPECT_EQ(Broken(u"ab\r\nc", 0), (Lines{u"a", u"b", u"c"}));
     const std::u16string pair = u"\U0001F600";
@@ -64,7 +64,7 @@ TEST(NextPrintLine, AMegabyteWithoutABlankIsMeasuredByTheLineOnly) {
     EXPECT_LT(measured, 15 * text.size());
 }
 
-TEST(ExpandTabs, ReachTheNextColumn) {
+TEST(ExpandTabs, FillsUpToTheNextColumn) {
     EXPECT_EQ(modPrint::ExpandTabs(u"\ta\tbcd\te\r\n\tf", 4), u"    a   bcd e\r\n    f");
     EXPECT_EQ(modPrint::ExpandTabs(u"a\tb", 0), u"a b");
 }
@@ -83,12 +83,12 @@ Lines Print(std::u16string_view text, std::u16string_view title, const modPrint:
     return printed;
 }
 
-TEST(PrintLayout, HeaderOnTheFirstPageAndTheBodyAtItsPlaceOnEach) {
+TEST(PrintLayout, PutsAHeaderOnTheFirstPageAndTheBodyAtItsPlaceOnEach) {
     // Three lines fit: tops 1440, 1640 and 1840 lie above 4000 - 2000, 2040 does not.
     EXPECT_EQ(Print(u"a\r\n\r\nc\r\nd\r\n", u"C:\\p.htm", {1000, 4000, 200}),
               (Lines{u"1 0 100           C:\\p.htm", u"1 780 1440 a", u"1 780 1640 ", u"1 780 1840 c",
                      u"2 780 1440 d"}));
-    // A line that reaches the limit exactly starts a page, a full page no empty one.
+    // A line at the limit starts a new page; a full page is not followed by an empty one.
     EXPECT_EQ(Print(u"a\r\nb\r\nc", u"", {1000, 3840, 200}).back(), u"2 780 1440 c");
     EXPECT_EQ(Print(u"a\r\nb\r\n", u"", {1000, 3840, 200}).back(), u"1 780 1640 b");
 }
@@ -96,7 +96,7 @@ TEST(PrintLayout, HeaderOnTheFirstPageAndTheBodyAtItsPlaceOnEach) {
 TEST(PrintLayout, LeavesThirtyCharactersFreeAtTheRight) {
     // A character is 10 wide: 500 - 300 leaves room for twenty.
     EXPECT_EQ(Print(std::u16string(21, u'x'), u"", {500, 9000, 200}).back(), u"1 780 1640 x");
-    // Without metrics lines do not all fall on one another.
+    // Without metrics the lines do not overprint one another.
     EXPECT_GT(Print(u"a\r\nb", u"", {500, 9000, 0}).back(), u"1 780 1440 b");
 }
 

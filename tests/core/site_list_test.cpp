@@ -47,26 +47,21 @@ TEST(SiteList, EachOfThirteenAdditionsComesFirstAndTheMarkFollowsItsSite) {
         for (int i = 0; i < std::min(added, 12); ++i)
             expected += std::to_string(i) + "=n" + std::to_string(added - i) + " ";
         EXPECT_EQ(Listed(store), expected);
-        EXPECT_EQ(Mark(store), std::to_string(added - 1)) << "even when its site has fallen off";
+        EXPECT_EQ(Mark(store), std::to_string(added - 1)) << "even when its site has dropped out";
         EXPECT_EQ(ftp::MenuRows(store.read()).size(), static_cast<std::size_t>(std::min(added, 11)));
     }
 }
 
-TEST(SiteList, TheLastDeletionLeavesNoSection) {
-    SiteStore store;
-    Add(store, "only");
-    store.names()["99"] = "0";
-    store.apply(ftp::RemoveSite(store.read(), 0));
-    EXPECT_TRUE(store.sections.empty());
-}
-
-TEST(SiteList, AnAddressStoredAlreadyCostsTheMarkAndNothingElse) {
+TEST(SiteList, AddingAStoredAddressAgainRemovesTheMarkAndTheLastDeletionEverything) {
     SiteStore store = StoreOfThree();
     const SiteStore expected = store;
     store.names()["99"] = "1";
     EXPECT_FALSE(Add(store, "s2"));
     EXPECT_EQ(store.sections, expected.sections);
     EXPECT_TRUE(Add(store, "S2"));
+    store.names()["99"] = "0";
+    for (int left = 4; left > 0; --left) store.apply(ftp::RemoveSite(store.read(), 0));
+    EXPECT_TRUE(store.sections.empty());
 }
 
 TEST(SiteList, ADamagedStoreKeepsPairsTogetherAndIsPutInOrderByTheNextChange) {
@@ -99,7 +94,7 @@ TEST(SiteList, ADamagedStoreKeepsPairsTogetherAndIsPutInOrderByTheNextChange) {
     EXPECT_EQ(store.names().at("007"), "someone else's");
     store.passes().erase("1");
     store.apply(ftp::RemoveSite(store.read(), 0));
-    EXPECT_EQ(ftp::FindSite(store.read(), 0)->storedPassword, "") << "not another's";
+    EXPECT_EQ(ftp::FindSite(store.read(), 0)->storedPassword, "") << "not another site's";
 }
 
 TEST(SiteList, AMarkThatIsNoIndexCountsAsNone) {

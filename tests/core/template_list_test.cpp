@@ -8,15 +8,14 @@ using namespace authoring;
 
 TemplateList FullList() {
     TemplateList list;
-    for (std::size_t i = 0; i < kTemplateSlots; ++i) {
+    for (std::size_t i = 0; i < kTemplateSlots; ++i)
         list[i] = {"t" + std::to_string(i) + ".htm", "Template " + std::to_string(i)};
-    }
     return list;
 }
 
-TEST(Templates, WhatHasNoFileIsHiddenAndGoesWhenTheMenuIsRebuilt) {
+TEST(Templates, EntriesWithoutAFileAreHiddenAndDroppedWhenTheMenuIsRebuilt) {
     const auto isThere = [](const std::string& name) { return name != "gone"; };
-    // An empty name would be the folder itself, which exists. A name goes only right behind itself.
+    // An empty name would be the folder itself, which exists. A name is dropped only directly after itself.
     const TemplateList list = {Template{"a", "1"}, {"gone", "2"}, {"a", "3"}, {"no ID", ""},
                                {"b", "4"},         {"", "5"},     {"a", "6"}, {"c", "7"}};
     EXPECT_EQ(ShownTemplates(list, isThere),
@@ -25,7 +24,7 @@ TEST(Templates, WhatHasNoFileIsHiddenAndGoesWhenTheMenuIsRebuilt) {
     EXPECT_EQ(OfferedSlots(list), (std::vector<std::size_t>{0, 1, 2, 4, 5, 6, 7}));
 }
 
-TEST(Templates, WhatIsMissingOrInUseIsSaid) {
+TEST(Templates, WhatIsMissingOrInUseIsReported) {
     const std::string goBack =
         "\r\nPlease go back and enter a new name,\r\nor delete the template with that name\r\nunder the "
         "ORGANIZE TEMPLATES menu.";
@@ -38,6 +37,8 @@ TEST(Templates, WhatIsMissingOrInUseIsSaid) {
               "That template name is already in use." + goBack);
     EXPECT_EQ(NewTemplateProblem(list, "T8.htm", "TEMPLATE 8"), "");
     EXPECT_NE(NewTemplateProblem({}, "..\\new.htm", "New"), "");
+    const auto always = [](const std::string&, const std::string&) { return true; };
+    EXPECT_EQ(TemplateOfSameFile(list, "t0.htm", always), &list[1]) << "the first under another name";
 }
 
 TEST(Templates, OnlyPlainFileNamesPass) {

@@ -1,4 +1,4 @@
-// What every fuzz target shares: its entry, what it must find true, and how it takes its input apart.
+// What every fuzz target shares: its entry point, its checks, and how it takes its input apart.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +11,7 @@ inline void Check(bool holds) {
     if (!holds) std::abort();
 }
 
-// Each target's own: tries one input.
+// Tries one input. Each target defines its own.
 void Try(std::string_view input);
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -35,7 +35,7 @@ inline std::u16string Units(std::string_view bytes) {
     return text;
 }
 
-// The text up to the next line end, which goes too.
+// Takes the text up to the next line end, and the line end.
 inline std::string TakeLine(std::string_view& rest) {
     const std::string line(rest.substr(0, rest.find('\n')));
     rest.remove_prefix(line.size() == rest.size() ? line.size() : line.size() + 1);

@@ -1,5 +1,5 @@
-// Pages in every encoding, there and back. An input is the system's code page, the place of an edit, and the
-// page, which is taken for bytes and for text.
+// Pages decoded and encoded again in every encoding. An input is the system's code page, the place of an
+// edit, and the page, which is used as bytes and as text.
 #include "../core/iconv_code_pages.h"
 #include "check.h"
 #include "document/core/codec.h"
@@ -18,7 +18,7 @@ bool IsHigh(char16_t unit) {
     return (unit & 0xFC00) == 0xD800;
 }
 
-// Whether there are raw bytes in it; other lone surrogates must not be.
+// Whether there are raw bytes in it; there must be no other lone surrogates.
 bool HasRaw(std::u16string_view text) {
     bool raw = false;
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -64,7 +64,7 @@ void CheckText(const Encoding& current, const std::u16string& text, const docume
     Encode(encoding, text, pages);
     if (!HasRaw(held)) Check(Decode(encoding, bytes, pages) == held);
 
-    // Where the page says what it is in, it is read back so, on every system.
+    // Where the page declares its encoding, it is read back in that on every system.
     const auto says = [&](const std::string& page) {
         const Encoding read = EncodingOf(page, pages);
         return read == EncodingOf(page, others) && !(read == Encoding{kUtf8});

@@ -1,4 +1,4 @@
-// The first bytes of a file of any kind: every prefix of them must give the whole's size or none.
+// The first bytes of a file of any kind: every prefix of them must give the same size as the whole, or none.
 #include "authoring/images/core/image_info.h"
 #include "check.h"
 

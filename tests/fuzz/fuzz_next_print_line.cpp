@@ -25,11 +25,11 @@ void CheckLines(const std::u16string& text, int width, const modPrint::Measure& 
         if (!line) break;
         Check(position > before && position <= text.size());
         Check(line->find_first_of(u"\r\n") == std::u16string_view::npos);
-        // No half of a character stands alone where its other half was.
+        // No character is cut in two.
         Check(line->empty() || line->back() != u'\xD83D' || text[before + line->size() - 1] != u'\xD83D' ||
               before + line->size() == text.size() || text[before + line->size()] != u'\xDE00');
         Check(line->size() <= 2 || measure.width(*line) <= width);
-        // What the line leaves out between here and the next is one blank and one line end at most.
+        // Between this line and the next at most one blank and one line end are left out.
         const std::size_t left = position - before - line->size();
         Check(left <= 3 && text.compare(before, line->size(), *line) == 0);
         Check(std::count(text.begin() + static_cast<std::ptrdiff_t>(position - left),

@@ -1,5 +1,5 @@
-// A recovery copy from a disk that may have done anything to it. An input is a file, and what a page is made
-// of that is packed. The kept inputs have their right sum: no fuzzer guesses it.
+// A recovery copy from a damaged disk. An input is a file, and also the contents of a page that is packed.
+// Kept inputs have a valid checksum where they need one, since no fuzzer guesses it.
 #include "check.h"
 #include "files/core/recovery_copy.h"
 
@@ -27,7 +27,7 @@ void Try(std::string_view input) {
     copy.encoding = {static_cast<unsigned>(size), size % 2 == 0};
     const std::string packed = files::Pack(copy);
     Check(files::Unpack(packed) == copy);
-    // Cut short, or with a byte another one, it is none.
+    // Cut short, or with one byte changed, it is no copy.
     Check(!files::Unpack(packed.substr(0, size % packed.size())));
     std::string damaged = packed;
     damaged[size * 7 % packed.size()] ^= 0x10;

@@ -1,7 +1,8 @@
-// Settings as anything may have left them: a line with a count, a line with a path, and rows of the recent
-// files, a key and a value on a line each.
+// Damaged settings: a line with a count, a line with a path, and rows of the recent files, with a line for
+// each key and each value.
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <functional>
 #include <set>
 #include <utility>
@@ -15,7 +16,7 @@ namespace {
 
 using settings::Row;
 
-// Every other key sorts behind all numbers, the largest too.
+// Keys that are not numbers, or too large, sort behind all numbers.
 std::pair<bool, unsigned long> Rank(const Row& row) {
     unsigned long number = 0;
     const char* end = row.key.data() + row.key.size();
@@ -46,8 +47,9 @@ void CheckFontSize(const std::string& text) {
     if (!isText && number >= 1 && number <= 400) Check(points == static_cast<float>(number));
     if (points == 0) return;
     Check(points >= document::kSmallestPoints && points <= document::kLargestPoints);
-    const float again = document::ParseFontSize(document::FontSizeText(points));
-    Check(again - points < 0.006F && points - again < 0.006F);
+    std::string again = document::FontSizeText(points);
+    std::replace(again.begin(), again.end(), '.', ',');  // which may stand for it
+    Check(std::abs(document::ParseFontSize(again) - points) < 0.006F);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Rows of a store in any state, then changes of the list, each of them stopped after any step.
+// Rows of a store in any state, then changes of the list, each of which may stop after any step.
 #include <algorithm>
 #include <set>
 
@@ -38,7 +38,7 @@ std::string MarkedUrl(const SiteStore& store) {
     return site ? site->url : "";
 }
 
-// Every stop on the way must leave all sites that the whole change leaves.
+// A change that stops early must leave all sites that the complete change leaves.
 void ApplyInSteps(SiteStore& store, const ftp::SiteChanges& changes, const std::string& newUrl) {
     SiteStore whole = store;
     whole.apply(changes);
@@ -86,7 +86,7 @@ void RemoveSite(SiteStore& store, int index) {
     ApplyInSteps(store, changes, "");
     if (!site) return;
     CheckOrder(store);
-    // The mark stays with its site, or where that was with the next one; with the last site it goes.
+    // The mark stays with its site; where that is removed it moves to the next one, or goes with the last.
     const auto next =
         std::find_if(before.begin(), before.end(), [&](auto& other) { return other.index > index; });
     if (next == before.end()) return Check(ftp::LastUsedIndex(store.read()) == std::nullopt);

@@ -26,7 +26,7 @@ void Try(std::string_view input) {
     for (const authoring::Word& word : authoring::FindWords(page, IsLetter)) {
         Check(word.start >= end && word.length > 1 && word.length <= page.size() - word.start);
         end = word.start + word.length;
-        // No half of a pair is left outside, and all else is a letter or an apostrophe.
+        // No pair is cut in two, and there are only letters and apostrophes.
         Check(page[word.start] != u'\xDE00' &&
               (end == page.size() || page[end] != u'\xDE00' || page[end - 1] != u'\xD83D'));
         Check(std::all_of(page.begin() + static_cast<std::ptrdiff_t>(word.start),
