@@ -1,4 +1,4 @@
-// Opening the colour chart until it is painted, beside the time that a user takes for none.
+// Opening the colour chart until it is painted, beside a time that a user does not notice.
 #include "authoring/colours/frmColors.h"
 #include "bench.h"
 #include "win/message_loop.h"

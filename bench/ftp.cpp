@@ -1,4 +1,4 @@
-// Listing and uploading in the FTP window, beside the bare calls of WinINet's in the same order.
+// Listing and uploading in the FTP window, beside the bare WinINet calls in the same order.
 #include "document/system_code_pages.h"
 #include "ftp/core/password.h"
 #include "ftp/frmUpload.h"
@@ -36,7 +36,7 @@ frmUpload& OpenWindow(MainWindow& main) {
     return static_cast<frmUpload&>(*form);
 }
 
-// The calls that a listing takes, by themselves.
+// Only the calls that a listing needs.
 void BareListing(HINTERNET server) {
     char directory[MAX_PATH];
     DWORD size = sizeof directory;

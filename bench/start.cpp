@@ -36,7 +36,7 @@ BOOL CALLBACK SeeWindow(HWND window, LPARAM parameter) {
     return !search.found;
 }
 
-// Until the program shows the page, then ends it.
+// Starts the program, waits until it shows the page, and ends it.
 void StartUntilPage(const std::string& program, const std::string& file, const char* cls,
                     std::size_t length) {
     std::string command = "\"" + program + "\" " + file;

@@ -1,4 +1,4 @@
-// Keys in pages that are hard to work with, beside what a person does not notice yet.
+// Keys in pages that are hard on the control, beside times that a person does not notice.
 #include "bench.h"
 #include "document/frmChild.h"
 #include "files/modOpen.h"
@@ -11,8 +11,8 @@
 namespace bench {
 namespace {
 
-// Until its letter is on the screen and all that it has brought about is done. Lines stay as long as people
-// make them: the control takes longer the longer a row is.
+// Presses a key and returns when its letter is on the screen and all messages have been handled. Lines are
+// kept as short as people make them, because the control takes longer the longer a line is.
 void Key(HWND control) {
     constexpr unsigned kLine = 50;
     static unsigned keys = 0;
@@ -39,7 +39,7 @@ void Close(frmChild& page) {
     ::SendMessageW(page.hwnd(), WM_CLOSE, 0, 0);
 }
 
-// Words and blanks without a line end, as a program leaves them that makes pages small.
+// Words and blanks without a line end, as programs that compress pages write them.
 std::string OneLine(std::size_t size) {
     std::string line;
     while (line.size() < size) line += "<p>Bread, butter and some more words.</p> ";
@@ -63,7 +63,7 @@ void TypeIntoLarge(MainWindow& main) {
     });
 }
 
-// The copy begins to be written, and a key follows at once.
+// Types a key just when the copy begins to be written.
 void TypeWhileCopied(MainWindow& main) {
     frmChild& page = Open(main, Page(1000000));
     Key(page);

@@ -1,6 +1,6 @@
-// MinGW-w64's thread library, which the C++ run-time library brings along, imports GetTickCount64. Windows
-// XP does not have it and would refuse to start the program. The linker takes this import for it. The
-// library asks only in timed waits, of which the program has none.
+// MinGW-w64's thread library, which the C++ run-time library needs, imports GetTickCount64. Windows XP does
+// not have that function and would refuse to start the program, so the linker is given this one instead. The
+// library calls it only in timed waits, which the program never uses.
 #include <windows.h>
 
 namespace {

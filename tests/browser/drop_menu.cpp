@@ -1,4 +1,4 @@
-// Prints the navigation menu of a keyword, for a browser to try.
+// Prints the navigation menu of a keyword, which drop_menus.py tries in a browser.
 #include <cstdio>
 #include <string>
 

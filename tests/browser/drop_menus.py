@@ -1,7 +1,7 @@
 #!/usr/bin/python3
-"""The four navigation menus, used in a real browser as a visitor would: drop_menus.py PROGRAM
+"""Tests the four navigation menus in a real browser, as a visitor uses them: drop_menus.py PROGRAM
 
-PROGRAM prints the menu of a keyword. Whatever address the browser goes for is answered on loopback.
+PROGRAM prints the menu of a keyword. Every address that the browser requests is answered on loopback.
 """
 import http.server
 import itertools
@@ -24,7 +24,7 @@ PAGE = "http://author.example/page.htm"
 
 
 class Web(http.server.BaseHTTPRequestHandler):
-    """Every site there is: the page to try, and one with nothing to do at any other address."""
+    """Answers for every site: with the page to test, and at any other address with an empty one."""
     page = b""
     visits = []
 
