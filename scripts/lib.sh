@@ -134,7 +134,8 @@ make_template() {
 
 # set_desktop SIZE DPI: draws the prefix's windows inside a desktop window of SIZE (WIDTHxHEIGHT), which
 # stands in for a window manager, or as separate windows where SIZE is "none". Where Wine finds no Courier
-# New, the font of pages, it would take a proportional one; Liberation Mono has the same widths.
+# New, the font of pages, it would take a proportional one; Liberation Mono has the same widths. A program that
+# crashes ends, and no dialog waits for an answer.
 set_desktop() {
     local wanted kept=$prefix/desktop.reg desktop='"Desktop"="Default"'
     [[ $1 != none ]] || desktop='"Desktop"=-'
@@ -142,6 +143,7 @@ set_desktop() {
         '[HKEY_CURRENT_USER\Software\Wine\Explorer]' "$desktop" '' \
         '[HKEY_CURRENT_USER\Software\Wine\Explorer\Desktops]' "\"Default\"=\"$1\"" '' \
         '[HKEY_CURRENT_USER\Software\Wine\Fonts\Replacements]' '"Courier New"="Liberation Mono"' '' \
+        '[HKEY_CURRENT_USER\Software\Wine\WineDbg]' '"ShowCrashDialog"=dword:00000000' '' \
         '[HKEY_CURRENT_USER\Control Panel\Desktop]' "$(printf '"LogPixels"=dword:%08x' "$2")")
     [[ ! -f $kept || $(<"$kept") != "$wanted" ]] || return 0
     printf '%s\n' "$wanted" >"$kept.new"

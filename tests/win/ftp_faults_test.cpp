@@ -263,19 +263,6 @@ class Odd : public ftp::FtpSession {
     static bool fail() { throw win::Failure("out of order"); }
 };
 
-TEST_F(FtpFaultsTest, CancelBeforeTheServerIsReachedSendsNoLogin) {
-    addSite("127.0.0.1", "plain", "pw");
-    const auto leave = [](HWND connecting) {
-        EXPECT_TRUE(wasTold("(somebody waits)"));
-        ::PostMessageA(connecting, WM_CLOSE, 0, 0);
-    };
-    heard([&] { frmUpload::open(main(), 0, FullSession); },
-          {{"Quillon FTP", leave}, User::press("NOT CONNECTED", IDOK)});
-    const auto other = ScriptedSession();
-    EXPECT_TRUE(other->open() && other->connect("127.0.0.1", "let-in", "pw"));
-    EXPECT_TRUE(wasTold("(heard: )")) << told();
-}
-
 TEST_F(FtpFaultsTest, WithoutADialUpLinkTheAttemptGoesOnAndWithoutNetworkingItEnds) {
     addSite("127.0.0.1", "plain", "pw");
     const User::Act understand = User::press("NOT CONNECTED", IDOK);

@@ -27,10 +27,6 @@ std::unique_ptr<ftp::FtpSession> ScriptedSession() {
     return SessionOn("QUILLON_FTP_SCRIPTED_PORT");
 }
 
-std::unique_ptr<ftp::FtpSession> FullSession() {
-    return SessionOn("QUILLON_FTP_FULL_PORT");
-}
-
 void FtpTest::SetUp() {
     AppTest::SetUp();
     if (Environment("QUILLON_FTP_PORT").empty()) GTEST_SKIP() << "tests/ftp/servers has not been started";

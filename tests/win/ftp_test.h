@@ -10,7 +10,6 @@
 
 std::unique_ptr<ftp::FtpSession> HonestSession();
 std::unique_ptr<ftp::FtpSession> ScriptedSession();
-std::unique_ptr<ftp::FtpSession> FullSession();
 
 inline constexpr char kFtpTitle[] = "Quillon FTP - - - - -";
 
