@@ -1,10 +1,10 @@
 // Stands in for the word processor that is driven as "Word.Basic": a COM server with one document.
-//   standin_word LOG [ORDER]   writes each call as a line to LOG, and "released" when its caller has gone.
-//   Orders:
-//     each      serves callers one after the other, the n-th of whom is told that the n-th call failed
+//   standin_word LOG [ORDER]   writes each call as a line to LOG, and "released" when its caller has released
+//   it. Orders:
+//     each      serves callers one after the other; for the n-th of them the n-th call fails
 //     ask       its spelling dialog waits for an answer
-//     running   it runs already and says so; it turns each call away once before it takes it
-//     window    it runs already and has a window, "OpusApp", which comes to the front to correct
+//     running   it is running already and registered as active; it rejects each call once before it takes it
+//     window    it is running already and has a window, "OpusApp", which comes to the front for correcting
 #include "support/standin_word.h"
 #include "support/com_object.h"
 
@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int kCalls = 12;  // that one check makes
+constexpr int kCalls = 12;  // in one check
 
 struct Orders {
     std::string log;
@@ -108,7 +108,7 @@ HWND ShowOpusApp() {
 
 }  // namespace
 
-// "-Embedding", with which the system starts a server, is no order.
+// "-Embedding", with which the system starts a server, is not an order.
 int main(int argc, char** argv) {
     if (argc < 2) return 1;
     Orders orders{argv[1], argc > 2 ? argv[2] : ""};
@@ -122,7 +122,7 @@ int main(int argc, char** argv) {
         if (orders.order == "running")
             ::RegisterActiveObject(&server, kWordClass, ACTIVEOBJECT_STRONG, &active);
         if (orders.order == "window") orders.window = ShowOpusApp();
-        ::SetTimer(nullptr, 0, 60000, nullptr);  // ends it when nobody calls
+        ::SetTimer(nullptr, 0, 60000, nullptr);  // ends the program when nobody calls
         MSG message{};
         while (::GetMessageA(&message, nullptr, 0, 0) > 0 && message.message != WM_TIMER)
             ::DispatchMessageA(&message);
