@@ -15,7 +15,7 @@
 #include "support/wide.h"
 #include "support/windows_seen.h"
 
-// What the shell gives for files of one folder, as it does where they are dragged out of its own windows.
+// The shell's own data object for files of one folder, as when they are dragged out of its windows.
 inline IDataObject* ShellDataOf(const std::vector<std::string>& paths) {
     std::vector<ITEMIDLIST*> items;
     std::vector<const ITEMIDLIST*> names;
@@ -49,11 +49,10 @@ class Source : public ComObject<IDropSource> {
     bool taken_ = false;
 };
 
-// Picks files up in a window of its own, moves the mouse to the middle of `target`, which may belong to any
-// process, and lets go as soon as the target takes it. Gives the effect that the target reports; a cancelled
-// drag (DROPEFFECT_NONE) when it has not taken it within ten seconds. The source lives on the stack,
-// which outlives every use of it. Whether the button is down is for the Source to say, which leaves the
-// real one alone.
+// Drags files from a window of its own to the middle of `target`, which may belong to any process, and drops
+// them as soon as the target accepts them. Returns the effect that the target reports, or DROPEFFECT_NONE
+// when it has not accepted them within ten seconds. The Source says that the button is down, so the real one
+// is not used.
 inline DWORD Drag(const std::vector<std::string>& paths, HWND target) {
     IDataObject* data = ShellDataOf(paths);
     const HWND owner = ::CreateWindowExA(WS_EX_TOPMOST, "STATIC", "Drag", WS_POPUP | WS_VISIBLE, 0, 0, 8, 8,
@@ -65,7 +64,7 @@ inline DWORD Drag(const std::vector<std::string>& paths, HWND target) {
         input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE;
         input.mi.dy = ::MulDiv((at.top + at.bottom) / 2, 65536, ::GetSystemMetrics(SM_CYSCREEN)) + 1;
         for (int step = 0; !done; ++step) {
-            // Only the program in front is told of the mouse, and one that is just starting comes to the
+            // Only the program in front gets mouse messages, and one that is just starting comes to the
             // front.
             if (::GetForegroundWindow() != owner) ::SetForegroundWindow(owner);
             input.mi.dx =

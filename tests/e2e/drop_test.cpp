@@ -17,10 +17,10 @@ TEST_F(DropTest, SeveralImagesGiveTheirTagsAtTheCaret) {
     expectText(quillon.pad(), "before  after");
     const std::vector<std::string> files = {writeGif("a b.gif"), writeGif("Photo.JPG"),
                                             writeGif("x & y.gif", "....")};
-    // A window that comes to the front in the middle of it costs a drag.
+    // A window that comes to the front in mid-drag makes the drag fail.
     const auto copies = [&] { return Drag(files, quillon.pad()) == DROPEFFECT_COPY; };
     EXPECT_TRUE(copies() || copies());
-    ::DeleteFileA(scratch("Photo.JPG").c_str());  // as an archive does with what it has unpacked
+    ::DeleteFileA(scratch("Photo.JPG").c_str());  // as archivers do with files that they have unpacked
     const std::string tags = gifTag("a b.gif") + gifTag("Photo.JPG") + gifTag("x & y.gif");
     expectText(quillon.pad(), "before " + tags + " after");
     EXPECT_TRUE(quillon.shows("x & y.gif    14 bytes"));

@@ -39,7 +39,7 @@ TEST_F(EditingTest, PagesAreOpenedEditedSearchedSavedAndLeftFromTheKeyboard) {
     quillon.pressKey(VK_RETURN);
     EXPECT_TRUE(
         seen::Until([&] { return seen::LabelsOf(find).find("\r\noccurrences") != std::string::npos; }));
-    quillon.pressKey('F', true);  // the page has the focus by now
+    quillon.pressKey('F', true);  // the page has the focus now
     quillon.pressKey(VK_ESCAPE);
     EXPECT_TRUE(seen::Until([&] { return !::IsWindow(find); }));
     quillon.pressKey('H', true);
@@ -91,8 +91,8 @@ TEST_F(EditingTest, SecondStartsHandTheirFilesOver) {
     EXPECT_EQ(first.answer("Quillon", IDOK), "That file is already open.");
 }
 
-TEST_F(EditingTest, WhatCannotBeOpenedAtTheStartIsToldAndCostsNothing) {
-    EXPECT_EQ(Quillon(scratch("")).pageCaption(), "Untitled1") << "a folder is no file";
+TEST_F(EditingTest, WhatCannotBeOpenedAtTheStartIsReportedAndTheProgramGoesOn) {
+    EXPECT_EQ(Quillon(scratch("")).pageCaption(), "Untitled1") << "a folder is not opened";
     writeFile(scratch("empty.htm"), "");
     EXPECT_EQ(Quillon(scratch("empty.htm")).pageCaption(), "empty.htm");
     const HANDLE lock =
@@ -100,7 +100,7 @@ TEST_F(EditingTest, WhatCannotBeOpenedAtTheStartIsToldAndCostsNothing) {
     ::SHDeleteValueA(HKEY_CURRENT_USER, "Software\\VB and VBA Program Settings\\Quillon\\File Count",
                      "Count");
     Quillon locked(scratch("empty.htm"), false);
-    EXPECT_EQ(locked.answer("Quillon Note:", IDOK), "Unable to open File") << "and no greeting";
+    EXPECT_EQ(locked.answer("Quillon Note:", IDOK), "Unable to open File") << "instead of the welcome";
     ::CloseHandle(lock);
     EXPECT_TRUE(locked.isRunning());
 }
@@ -127,8 +127,8 @@ TEST_F(EditingTest, KilledInMidSaveItLeavesTheOldFileOrTheNewOne) {
         ASSERT_TRUE(left == page || left == saved) << "round " << round << ": " << left.size() << " bytes";
         fresh += left == saved;
     }
-    EXPECT_TRUE(0 < fresh && fresh < rounds) << "the save itself was never hit";
-    std::printf("%d kills: %d left the old file, %d the new one, none less\n", rounds, rounds - fresh, fresh);
+    EXPECT_TRUE(0 < fresh && fresh < rounds) << "no kill fell into the save itself";
+    std::printf("%d kills: %d left the old file, %d the new one\n", rounds, rounds - fresh, fresh);
 }
 
 }  // namespace

@@ -10,7 +10,7 @@ namespace {
 
 class PublishingTest : public QuillonTest {
  protected:
-    // Once the files are listed.
+    // Waits until the files are listed.
     bool isReady(const Quillon& quillon) {
         return seen::Until([&] {
             form_ = seen::Titled(quillon.process(), "Quillon FTP - - - - -");
@@ -27,9 +27,9 @@ class PublishingTest : public QuillonTest {
     HWND form_ = nullptr;
 };
 
-TEST_F(PublishingTest, APageIsPublishedChangedAndFetchedAgain) {
+TEST_F(PublishingTest, APageIsPublishedChangedAndDownloadedAgain) {
     const std::string address = Environment("QUILLON_FTP_ADDRESS");
-    if (address.empty()) GTEST_SKIP() << "no FTP server: port 21 is in use everywhere or takes root";
+    if (address.empty()) GTEST_SKIP() << "no FTP server: port 21 is in use everywhere or needs root";
     const std::string path = scratch("index.htm");
     writeFile(path, readFile(Environment("QUILLON_EXE") + "\\..\\..\\examples\\index.htm"));
     const Quillon quillon(path);
@@ -49,7 +49,7 @@ TEST_F(PublishingTest, APageIsPublishedChangedAndFetchedAgain) {
     quillon.choose(mnuUploadFile);
     upload(quillon);
     const std::string changed = "<!-- new -->" + onServer() + "\n";  // a save adds a line end
-    // The FTP window takes the keyboard back when its message has gone.
+    // The FTP window takes the focus back when its message is closed.
     ASSERT_TRUE(isReady(quillon));
     EXPECT_TRUE(seen::Until([&] {
         return ::SetForegroundWindow(quillon.window()) && ::GetForegroundWindow() == quillon.window();

@@ -1,4 +1,4 @@
-// The same user, whose program is killed and whose session ends at any moment.
+// The same user, whose program is killed, or whose session ends, at any moment.
 #include "e2e/monkey.h"
 #include "files/core/recovery_copy.h"
 
@@ -7,7 +7,7 @@ namespace {
 class KilledTest : public MonkeyTest {
  protected:
     static auto copies(const char* pattern) { return Listing(Environment("TEMP") + pattern); }
-    // In no time at all, to be there in the middle of it.
+    // Polls without pausing, so as to be there in the middle of it.
     static void spinUntil(const std::function<bool()>& condition) {
         const DWORD start = ::GetTickCount();
         while (!condition()) ASSERT_LT(::GetTickCount() - start, kPatience);
@@ -28,7 +28,7 @@ class KilledTest : public MonkeyTest {
         return false;
     }
 
-    // ---- What goes on when the end comes.
+    // ---- What is going on when the program ends.
     void writing() {
         const auto before = copies("\\~qu*");
         type();
@@ -62,7 +62,7 @@ class KilledTest : public MonkeyTest {
         safe();
     }
 
-    // ---- The end, and what the next start brings back.
+    // ---- Killing the program, and what the next start brings back.
     void kill() {
         quillon_->kill();
         for (Page& page : pages_) {
@@ -75,7 +75,7 @@ class KilledTest : public MonkeyTest {
         saving_ = nullptr;
         for (const auto& [path, bytes] : files_) EXPECT_EQ(readFile(path), bytes) << path;
     }
-    // The page in front was there before, and looked so: gives as what.
+    // Returns the earlier state that the page in front has come back in.
     State recognised(std::vector<Page>& before) {
         const std::string text = quillon_->pageText();
         const std::string caption = quillon_->pageCaption();
@@ -102,7 +102,7 @@ class KilledTest : public MonkeyTest {
         }
         std::vector<Page> before = std::exchange(pages_, {});
         quillon_.emplace();
-        // Whatever is chosen waits for the end of the start.
+        // A command that is chosen now runs when the start is complete.
         quillon_->choose(mnuHelpAbout);
         gone(quillon_->waitForDialog("About Quillon"), WM_CLOSE);
         pages_.push_back({{document::kPageOutline, "", false, "Untitled1"}, quillon_->page()});

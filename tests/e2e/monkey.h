@@ -1,5 +1,5 @@
-// A user who edits, saves, opens and closes pages in any order, and a plain model of what every page and file
-// must hold.
+// A user who edits, saves, opens and closes pages in random order, and a simple model of what every page and
+// file must hold.
 #pragma once
 
 #include <algorithm>
@@ -27,7 +27,7 @@ class MonkeyTest : public QuillonTest {
     };
     struct Page : State {
         HWND window = nullptr;
-        // What it was before, since it was last safe: on the disk, or in a recovery copy that was looked at.
+        // Its earlier states since it was last safe: on the disk, or in a recovery copy that was checked.
         std::vector<State> past = {};
     };
 
@@ -41,7 +41,7 @@ class MonkeyTest : public QuillonTest {
         clipboard_ = document::kPageOutline;
     }
 
-    // ---- What chance decides.
+    // ---- Random choices.
     std::size_t below(std::size_t count) { return random_() % count; }
     // A place in the page that is not inside a line end.
     std::size_t place() {
@@ -55,7 +55,7 @@ class MonkeyTest : public QuillonTest {
         return text;
     }
 
-    // The longest that a change may be in no recovery copy, in milliseconds.
+    // The longest time that a change may be without a recovery copy, in milliseconds.
     static constexpr DWORD kPatience = 30000;
 
     // ---- The program.
@@ -72,19 +72,19 @@ class MonkeyTest : public QuillonTest {
             ADD_FAILURE() << "no answer to message " << message;
         return static_cast<LRESULT>(result);
     }
-    // Until it is done; with choose() a dialog may come up meanwhile.
+    // Runs a command and waits until it is done. A command that opens a dialog needs choose() instead.
     void run(int command) { send(quillon_->window(), WM_COMMAND, static_cast<WPARAM>(command)); }
-    // Waits until the window has gone, after a message to it where one is needed.
+    // Waits until the window is closed, after sending it a message where one is needed.
     static void gone(HWND window, UINT message = WM_NULL) {
         ::PostMessageA(window, message, 0, 0);
         EXPECT_TRUE(seen::Until([window] { return !::IsWindow(window); }));
     }
-    // Takes the page that has come to the front into the model.
+    // Adds the page that has come to the front to the model.
     void opened(const std::string& text, const std::string& path) {
         EXPECT_TRUE(seen::Until([this] { return quillon_->pages().size() == pages_.size() + 1; }));
         pages_.push_back({{text, path, false, quillon_->pageCaption()}, quillon_->page()});
     }
-    // Keeps a page as it is now: what will be done to it may not be done when the program ends.
+    // Remembers the present state: when the program is killed, the next change may not have been made.
     static void remember(Page& page) {
         std::erase_if(page.past,
                       [now = ::GetTickCount()](auto& state) { return now - state.until > kPatience; });
@@ -93,7 +93,7 @@ class MonkeyTest : public QuillonTest {
     }
 
     // ---- Changes of the page in front.
-    // Selects something, mostly nothing, for what comes next to replace.
+    // Selects what the next action will replace: mostly nothing.
     void select() {
         start_ = end_ = place();
         if (below(3) == 0) end_ = place();
@@ -230,7 +230,7 @@ class MonkeyTest : public QuillonTest {
         EXPECT_TRUE(quillon_->isRunning());
         EXPECT_TRUE(seen::Until([this] {
             return seen::TopLevel(quillon_->process()).size() == 1 && ::IsWindowEnabled(quillon_->window());
-        })) << "something is still open";
+        })) << "a dialog is still open";
         if (pages_.empty()) return;
         seen::Until([this] { return quillon_->pageText() == front().text; });
         EXPECT_EQ(quillon_->pageText(), front().text);
@@ -242,7 +242,7 @@ class MonkeyTest : public QuillonTest {
             EXPECT_EQ(seen::TextOf(seen::ChildOfClass(page.window, "RICHEDIT")), page.text);
         for (const auto& [path, bytes] : files_) EXPECT_EQ(readFile(path), bytes) << path;
     }
-    // With all pages closed. The first rests are there to get warm.
+    // Compares the resources held with all pages closed. The first three rests set the limits.
     void rest() {
         checkAll();
         while (!pages_.empty() && !HasFailure()) closePage();

@@ -2,7 +2,7 @@
 
 namespace {
 
-TEST_F(MonkeyTest, NoUserLosesAnything) {
+TEST_F(MonkeyTest, RandomUseLosesNothing) {
     const auto seconds = static_cast<DWORD>(EnvironmentNumber("QUILLON_MONKEY_SECONDS", 20));
     const DWORD start = ::GetTickCount();
     while (::GetTickCount() - start < seconds * 1000 && !HasFailure()) {

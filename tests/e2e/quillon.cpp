@@ -85,7 +85,7 @@ void Quillon::bringToFront() const {
         ::GetWindowThreadProcessId(::GetForegroundWindow(), &owner);
         return owner == id_;
     };
-    // A dialog of its own may be what has the focus.
+    // One of the program's dialogs may have the focus.
     if (isInFront()) return;
     ::SetForegroundWindow(window_);
     seen::Until(isInFront);
@@ -133,7 +133,7 @@ std::string Quillon::answer(const std::string& title, WORD button) const {
 void Quillon::chooseFile(const std::string& title, const std::string& path, bool exists) const {
     const HWND dialog = waitForDialog(title);
     seen::ChooseFile(dialog, path);
-    // The question has the dialog's own title.
+    // The question has the same title as the dialog.
     if (exists && seen::Until([&] { return anyOfClass("#32770", dialog) != nullptr; }))
         ::PostMessageA(anyOfClass("#32770", dialog), WM_COMMAND, IDYES, 0);
     seen::Until([dialog] { return !::IsWindow(dialog); });

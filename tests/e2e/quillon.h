@@ -7,11 +7,11 @@
 #include "support/files_test.h"
 #include "support/windows_seen.h"
 
-// One running Quillon.exe. Ends with the object, without questions.
+// One running Quillon.exe, which is killed with the object.
 class Quillon {
  public:
-    // Waits until the main window shows a page, unless `wait` is false. `file` goes onto the command line as
-    // it is.
+    // Waits until the main window shows a page, unless `wait` is false. `file` is put on the command line
+    // unchanged.
     explicit Quillon(const std::string& file = "", bool wait = true);
     ~Quillon();
     Quillon(const Quillon&) = delete;
@@ -31,7 +31,7 @@ class Quillon {
     bool shows(const std::string& label) const;
     std::vector<HWND> pages() const;
 
-    // Chooses a menu item or a button of the toolbar, without waiting until it is done.
+    // Chooses a menu item or a toolbar button, without waiting until the command is done.
     void choose(int command) const;
     // Brings the program to the front and sends keys to whatever has the focus there.
     void typeText(const std::string& text) const;
@@ -39,9 +39,9 @@ class Quillon {
 
     // A form, a message box or a dialog of the system's.
     HWND waitForDialog(const std::string& title) const;
-    // Waits for such a dialog, presses the button and waits until it is gone. Gives what it said.
+    // Waits for such a dialog, presses the button, waits until it is closed and returns what it said.
     std::string answer(const std::string& title, WORD button) const;
-    // `exists` when the dialog will ask whether to write over the file.
+    // `exists`: the dialog will ask whether to overwrite the file.
     void chooseFile(const std::string& title, const std::string& path, bool exists = false) const;
 
  private:
@@ -53,13 +53,13 @@ class Quillon {
     HWND window_ = nullptr;
 };
 
-// Deletes what killed programs have left to be brought back.
+// Deletes the recovery copies that killed programs have left.
 void ForgetCopies();
 
-// A number from the environment of the test run.
+// A number from an environment variable.
 int EnvironmentNumber(const char* name, int otherwise);
 
-// Each test starts with no settings but a welcome already given.
+// Each test starts without settings, except that the welcome has been given.
 class QuillonTest : public FilesTest {
  protected:
     void SetUp() override;

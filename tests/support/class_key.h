@@ -1,4 +1,4 @@
-// What is registered in HKEY_CLASSES_ROOT for as long as a test needs it.
+// Keys in HKEY_CLASSES_ROOT that exist as long as a test needs them.
 #pragma once
 
 #include <algorithm>
@@ -6,7 +6,7 @@
 
 #include <windows.h>
 
-// Sets the value of a key; the earlier one comes back with the object's end, or the key goes.
+// Sets the value of a key for its own life, then restores the earlier value or, without one, deletes the key.
 class ClassKey {
  public:
     ClassKey(const std::string& key, const std::string& value) : key_(key) {
@@ -16,7 +16,7 @@ class ClassKey {
     }
     ~ClassKey() {
         if (usual_[0] != '\0') set(usual_);
-        // Or goes with the keys above it that hold no other.
+        // Deletes the keys above it too, as far as they have no other.
         while (usual_[0] == '\0' && ::RegDeleteKeyA(HKEY_CLASSES_ROOT, key_.c_str()) == ERROR_SUCCESS)
             key_.erase(std::min(key_.rfind('\\'), key_.size()));
     }
@@ -32,7 +32,7 @@ class ClassKey {
     char usual_[MAX_PATH] = "";
 };
 
-// The full path of a program of tests/tools, which stand beside the tests.
+// The full path of a program of tests/tools, which are built beside the tests.
 inline std::string ToolPath(const std::string& name) {
     char self[MAX_PATH];
     ::GetModuleFileNameA(nullptr, self, sizeof self);

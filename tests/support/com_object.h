@@ -8,7 +8,7 @@
 
 #include <ole2.h>
 
-// Has one interface, counts its references and goes with the last one.
+// Has one interface, counts its references and deletes itself with the last one.
 template <typename Interface>
 class ComObject : public Interface {
  public:
@@ -30,8 +30,8 @@ class ComObject : public Interface {
     ULONG references_ = 1;
 };
 
-// Serves a class for its own life, to this process or as a local server (CLSCTX_...): each object is as
-// `create` gives it.
+// Registers a class for its own life, for this process or as a local server (CLSCTX_...). `create` makes the
+// objects.
 class ClassServer : public ComObject<IClassFactory> {
  public:
     ClassServer(const CLSID& cls, DWORD context, std::function<IUnknown*()> create)

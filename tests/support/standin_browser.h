@@ -1,4 +1,4 @@
-// The stand-in for the user's browser, in place of what opens .htm files.
+// The stand-in for the user's browser (tests/tools/standin_browser), installed and removed.
 #pragma once
 
 #include <memory>
@@ -9,8 +9,8 @@
 #include "support/files_test.h"
 #include "support/windows_seen.h"
 
-// For the object's life the program opens .htm files and addresses; with no program nothing opens files. The
-// stand-in leaves what it sees in a folder.
+// For the object's life the program opens .htm files and addresses; an empty name means that no program does.
+// The stand-in writes what it was given into a folder.
 class Browser {
  public:
     Browser(const std::string& program, const std::string& folder) : folder_(folder) {
@@ -26,7 +26,7 @@ class Browser {
 
     static std::string standIn() { return ToolPath("standin_browser.exe"); }
 
-    // What the stand-in was started with, behind its own path. Each start is told once.
+    // The stand-in's command line, without its own path. Waits for a start that has not been returned yet.
     std::string shown() const {
         const std::string command = folder_ + "\\command.txt";
         std::string line;
@@ -34,7 +34,7 @@ class Browser {
         ::DeleteFileA(command.c_str());
         return line.substr(line.find(' ', line.find("standin_browser.exe")) + 1);
     }
-    // The page as it stood in the file then.
+    // The page as the file held it then.
     std::string page() const { return FilesTest::readFile(folder_ + "\\page.txt"); }
 
  private:

@@ -12,13 +12,13 @@
 
 constexpr CLSID kWordClass{0x5C5A5D0E, 0x2A53, 0x4B0A, {0x9C, 0x1B, 0x5B, 0x37, 0x2E, 0x64, 0x61, 0xD4}};
 
-// For the object's life it serves as "Word.Basic"; its log and its orders are told in its source.
+// Registers it as "Word.Basic" for the object's life. Its source describes its log and its orders.
 class StandinWord {
  public:
     explicit StandinWord(const std::string& log, const std::string& order = "")
         : command_('"' + ToolPath("standin_word.exe") + "\" \"" + log + "\" " + order) {}
 
-    // Has it run before anybody asks for it. True when it does.
+    // Starts it before anybody asks for it; true when it is running.
     bool start() const {
         if (::WinExec(command_.c_str(), SW_SHOWNORMAL) <= 31) return false;
         return seen::Until([] {

@@ -1,4 +1,4 @@
-// The tests' UTF-8 at the edge of the system.
+// Conversion between the tests' UTF-8 and the system's UTF-16.
 #pragma once
 
 #include <string>

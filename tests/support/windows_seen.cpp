@@ -31,8 +31,8 @@ std::vector<HWND> WindowsOf(DWORD process) {
     return windows;
 }
 
-// The system's own counter answers 0 in Wine; the table that every process has of its objects is the same in
-// both: 65,536 entries with the object, the owner's id, a number, a type that is 0 in a free entry.
+// Wine's GetGuiResources returns 0. The handle table that every process has is the same in Wine and Windows:
+// 65,536 entries with the object, the owner's id, a number, and a type that is 0 in a free entry.
 int GdiObjects(HANDLE process, DWORD id) {
     struct Entry {
         ULONG_PTR object;
@@ -89,6 +89,13 @@ RECT PlaceOf(HWND window) {
     RECT place{};
     ::GetWindowRect(window, &place);
     return place;
+}
+
+COLORREF ColorAt(HWND window, int x, int y) {
+    const HDC dc = ::GetDC(window);
+    const COLORREF color = ::GetPixel(dc, x, y);
+    ::ReleaseDC(window, dc);
+    return color;
 }
 
 std::vector<HWND> TopLevel(DWORD process) {

@@ -13,12 +13,6 @@
 
 #include <shlwapi.h>
 
-namespace {
-
-constexpr char kScratchKey[] = "Software\\Quillon tests";
-
-}  // namespace
-
 std::vector<HWND> ControlsOfClass(HWND form, const std::string& cls) {
     std::vector<HWND> controls = seen::Below(form);
     std::erase_if(controls, [&](HWND control) {
@@ -89,7 +83,8 @@ std::vector<std::string> User::hears(const std::function<void()>& busy, const st
         done = true;
     });
     busy();
-    // Whoever looks for a dialog asks the windows of this thread for their texts.
+    // The search for dialogs asks the windows of this thread for their texts: those messages have to be
+    // answered.
     for (MSG message; !done; ::Sleep(1))
         ::PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
     return heard;
@@ -112,6 +107,7 @@ User::Act User::chooseFile(const std::string& title, const std::string& path) {
 
 void AppTest::SetUp() {
     FilesTest::SetUp();
+    constexpr char kScratchKey[] = "Software\\Quillon tests";
     HKEY key = nullptr;
     ::SHDeleteKeyA(HKEY_CURRENT_USER, kScratchKey);
     ::RegCreateKeyA(HKEY_CURRENT_USER, kScratchKey, &key);
@@ -132,9 +128,8 @@ void AppTest::TearDown() {
 }
 
 void AppTest::closeMain() {
-    // A test may have closed the main window, and its object went with it.
-    if (!::FindWindowA("frmNotePad", nullptr)) return;
-    if (!main_) return;
+    // A test may have closed the main window and thereby deleted its object.
+    if (!main_ || !::FindWindowA("frmNotePad", nullptr)) return;
     for (frmChild* page : main_->documents()) page->txtPad().setChanged(false);
     ::SendMessageA(std::exchange(main_, nullptr)->mainHwnd(), WM_CLOSE, 0, 0);
 }

@@ -1,4 +1,4 @@
-// The main window in the test's own process, over an empty settings store. Texts are UTF-8.
+// The main window in the test's own process, with an empty settings store. Texts are UTF-8.
 #pragma once
 
 #include <functional>
@@ -15,14 +15,14 @@
 // The controls of a class in a form, in their order.
 std::vector<HWND> ControlsOfClass(HWND form, const std::string& cls);
 
-// The buttons of a form's tool bar, which are no windows, as the mouse and a screen reader find them.
+// The buttons of a form's toolbar, as the mouse and a screen reader find them: they are not windows.
 class ToolButtons {
  public:
     explicit ToolButtons(HWND form) : bar_(seen::ChildOfClass(form, "ToolbarWindow32")) {}
     HWND bar() const { return bar_; }
-    // In their order, each behind a bar; all of them or those that can be clicked.
+    // In their order, each after a "|"; all of them or only the enabled ones.
     std::string names(bool enabledOnly = false) const;
-    RECT place(int index) const;  // in the bar
+    RECT place(int index) const;  // in the toolbar
     void click(int index) const;
 
  private:
@@ -30,10 +30,10 @@ class ToolButtons {
     HWND bar_;
 };
 
-// Has a control tell its form of what happened to it.
+// Sends a control's notification to its form.
 void Notify(HWND control, WORD code);
 
-// The user before the dialogs that come up while the test's own thread is busy showing them.
+// A user who answers dialogs while the test's own thread is busy showing them.
 class User {
  public:
     struct Act {
@@ -42,27 +42,27 @@ class User {
     };
 
     static Act press(const std::string& title, WORD button);
-    // Types into the box that asks for a text.
+    // Types into the dialog that asks for a text.
     static Act enter(const std::string& title, const std::string& text, WORD button = IDOK);
     static Act chooseFile(const std::string& title, const std::string& path);
 
-    // What the dialogs say that `busy` brings up. Each is waited for by its title, in this order; the test
-    // fails when one does not come.
+    // Returns what the dialogs say that `busy` opens. Each is waited for by its title, in this order; the
+    // test fails when one does not come.
     static std::vector<std::string> hears(const std::function<void()>& busy, const std::vector<Act>& acts);
 };
 
-// Over an empty HKEY_CURRENT_USER.
+// Tests with an empty HKEY_CURRENT_USER.
 class AppTest : public FilesTest {
  protected:
     void SetUp() override;
     void TearDown() override;
 
     MainWindow& main() { return *main_; }
-    // Throws away what has not been saved; there is no main window afterwards.
+    // Closes the main window and discards what has not been saved.
     void closeMain();
-    // A page on a file of these bytes, with words typed in front.
+    // Opens a page whose file has these bytes, and types at its start.
     frmChild& openPage(const std::string& name, const std::string& bytes, const std::string& typed = "");
-    // Keeps others from what they may not share.
+    // Opens a file so that others can use it only as `share` allows.
     static win::UniqueFile hold(const std::string& path, DWORD share);
     // A new page with this text instead of the outline, unchanged.
     frmChild& newPage(const std::string& text);
@@ -79,9 +79,9 @@ class AppTest : public FilesTest {
     bool pageHasFocus() { return ::GetFocus() == active().txtPad().hwnd(); }
     std::string clipboard();
     void setClipboard(const std::string& text);
-    // What the last of the dialogs says.
+    // Returns what the last of the dialogs says.
     static std::string heard(const std::function<void()>& busy, const std::vector<User::Act>& acts);
-    // What the message box says that the act or the command brings up, until its OK is pressed.
+    // Returns what the message box says that the act or the command opens, and presses its OK.
     static std::string said(const std::function<void()>& act, const std::string& title = "Quillon");
     std::string said(Command command, const std::string& title = "Quillon");
     static HWND window(const std::string& title) { return seen::Titled(::GetCurrentProcessId(), title); }

@@ -15,7 +15,7 @@ class ColorsTest : public AppTest {
         return chart();
     }
     static HWND box(const std::string& color) { return seen::Child(chart(), color, "Edit"); }
-    // Twice, as many people do.
+    // Clicks twice, as many people do.
     static void click(HWND window) {
         for (const UINT press : {WM_LBUTTONDOWN, WM_LBUTTONDBLCLK}) {
             ::PostMessageA(window, press, MK_LBUTTON, MAKELPARAM(4, 4));
@@ -23,16 +23,10 @@ class ColorsTest : public AppTest {
         }
         win::RunPending();
     }
-    // To whatever has the focus, through the message loop.
+    // Sends a key to whatever has the focus, through the message loop.
     static void press(WPARAM key) {
         ::PostMessageA(::GetFocus(), WM_KEYDOWN, key, 0);
         win::RunPending();
-    }
-    static COLORREF colorAt(HWND window, int x, int y) {
-        const HDC dc = ::GetDC(window);
-        const COLORREF color = ::GetPixel(dc, x, y);
-        ::ReleaseDC(window, dc);
-        return color;
     }
 };
 
@@ -47,21 +41,21 @@ TEST_F(ColorsTest, TheChartHasEveryColorAtItsPlaceAndStandsAtTheTopRight) {
         EXPECT_EQ(at.left, win::PixelsFromTwips(place.left)) << i;
         EXPECT_EQ(at.top, win::PixelsFromTwips(place.top)) << i;
         const authoring::SwatchColor color = authoring::ColorOfSwatch(i);
-        EXPECT_EQ(colorAt(swatch, 6, 6), RGB(color.red, color.green, color.blue)) << i;
+        EXPECT_EQ(seen::ColorAt(swatch, 6, 6), RGB(color.red, color.green, color.blue)) << i;
     }
     const RECT chartAt = seen::PlaceOf(form);
     EXPECT_EQ(chartAt.top, win::PixelsFromTwips(120));
     EXPECT_EQ(chartAt.right, ::GetSystemMetrics(SM_CXSCREEN) - win::PixelsFromTwips(120));
     EXPECT_TRUE(::GetWindowLongA(form, GWL_EXSTYLE) & WS_EX_TOPMOST);
     ::SetWindowPos(form, nullptr, 5, 300, 0, 0, SWP_NOSIZE);
-    EXPECT_EQ(open(), form) << "there is one chart only";
+    EXPECT_EQ(open(), form) << "there is only one chart";
     const RECT again = seen::PlaceOf(form);
     EXPECT_TRUE(::EqualRect(&again, &chartAt));
     closeMain();
     EXPECT_FALSE(chart());
 }
 
-TEST_F(ColorsTest, AClickReplacesTheSelectionByTheColorAndGivesTheFocusBack) {
+TEST_F(ColorsTest, AClickReplacesTheSelectionWithTheColorAndGivesTheFocusBack) {
     newPage("bgcolor=red>").txtPad().select(8, 11);
     setClipboard("something else");
     open();
@@ -81,7 +75,7 @@ TEST_F(ColorsTest, AClickReplacesTheSelectionByTheColorAndGivesTheFocusBack) {
     EXPECT_FALSE(chart());
 }
 
-TEST_F(ColorsTest, EscAndTheCloseBoxLeavePageAndClipboardAloneAndEnterPicksWhereArrowsLed) {
+TEST_F(ColorsTest, EscAndTheCloseButtonLeavePageAndClipboardAloneAndEnterPicksTheColorOfTheArrowKeys) {
     newPage("page");
     setClipboard("kept");
     for (const bool byKey : {true, false}) {
@@ -95,7 +89,7 @@ TEST_F(ColorsTest, EscAndTheCloseBoxLeavePageAndClipboardAloneAndEnterPicksWhere
     EXPECT_EQ(clipboard(), "kept");
     open();
     for (const WPARAM key : {VK_UP, VK_LEFT, VK_RIGHT, VK_DOWN, VK_DOWN, VK_RIGHT}) press(key);
-    EXPECT_TRUE(seen::Child(chart(), "#006666", "Static")) << "the color has its name below the boxes";
+    EXPECT_TRUE(seen::Child(chart(), "#006666", "Static")) << "the color's name is shown below the boxes";
     press(VK_RETURN);
     EXPECT_EQ(pageText(), "\"#006666\"page") << "and Enter does not reach the page";
     EXPECT_FALSE(chart());

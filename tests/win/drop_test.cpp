@@ -7,7 +7,7 @@ namespace {
 
 class DropTest : public AppTest {
  protected:
-    // What the page makes of them comes when the program that they were dragged from goes on.
+    // Only drops: the page inserts its tags later, when the program that the files came from goes on.
     static void drop(const frmChild& page, const std::vector<std::string>& paths) {
         win::SendDropped(page.txtPad().hwnd(), paths);
     }
@@ -19,17 +19,17 @@ TEST_F(DropTest, ATagGoesIntoThePageThatItWasDroppedOnAndCanBeUndone) {
     newPage("other");
     const std::string path = writeGif("\u0141\u30BD \u03A9.gif");
     drop(first, {path});
-    ::DeleteFileW(win::ToWide(path).c_str());  // as an archive does with what it has unpacked
+    ::DeleteFileW(win::ToWide(path).c_str());  // as archivers do with files that they have unpacked
     win::RunPending();
     EXPECT_EQ(&active(), &first);
     EXPECT_EQ(pageText(), "o" + gifTag("&#321;&#12477; &#937;.gif") + "e")
-        << "as the page's encoding can hold it";
+        << "in the way that the page's encoding can hold";
     EXPECT_TRUE(label("\u0141\u30BD \u03A9.gif    10 bytes"));
     run(mnuEditUndo);
     EXPECT_EQ(pageText(), "one");
 }
 
-TEST_F(DropTest, WhatGivesNoTagIsToldAndTheRestGoesOn) {
+TEST_F(DropTest, WhatGivesNoTagIsReportedAndTheRestIsInserted) {
     const frmChild& page = newPage("");
     const std::string locked = writeGif("locked.gif");
     const win::UniqueFile lock = hold(locked, 0);
@@ -53,7 +53,7 @@ TEST_F(DropTest, WhatGivesNoTagIsToldAndTheRestGoesOn) {
     EXPECT_EQ(said([&] { drop(page, {}), win::RunPending(); }, "Quillon"), "Unknown Object");
     ::SendMessageA(page.txtPad().hwnd(), win::kDropped, 1, 0x1234);
     win::RunPending();
-    EXPECT_EQ(pageText(), gifTag("c.gif")) << "a message of another program is no drop";
+    EXPECT_EQ(pageText(), gifTag("c.gif")) << "another program's message is not a drop";
 }
 
 }  // namespace

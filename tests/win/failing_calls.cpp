@@ -17,22 +17,21 @@ namespace {
 struct State {
     static inline State* now = nullptr;
 
+    const FaultyWork& test;
     DWORD thread = ::GetCurrentThreadId();
     int left = 0;  // calls until the one that fails
     DWORD error = 0;
     bool forGood = false;
-    bool newFilesRefused = false;
-    Calls which = Calls::changing;
-    int answer = IDYES;
-    std::string failed;
-    std::vector<std::string> said;
+    std::string failed = {};
+    std::vector<std::string> said = {};
 };
 
 bool Fails(const char* name, Calls kind = Calls::changing) {
     State* state = State::now;
     if (!state) return false;
     const bool isHere = ::GetCurrentThreadId() == state->thread;
-    const bool counts = state->which == Calls::any ? kind != Calls::memory : isHere && kind == state->which;
+    const bool counts =
+        state->test.which == Calls::any ? kind != Calls::memory : isHere && kind == state->test.which;
     if (!counts) return false;
     --state->left;
     if (state->left > 0 || (state->left < 0 && !state->forGood)) return false;
@@ -41,7 +40,7 @@ bool Fails(const char* name, Calls kind = Calls::changing) {
     return true;
 }
 
-// Where this program keeps the address of a function of the system's.
+// Where this program's import table keeps the address of a system function.
 void** ImportSlot(const char* name) {
     auto* base = reinterpret_cast<BYTE*>(::GetModuleHandleA(nullptr));
     const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
@@ -63,7 +62,7 @@ void** ImportSlot(const char* name) {
 
 template <typename Result>
 Result Refusal() {
-    // The registry's functions give the error itself.
+    // Functions of the registry return the error itself.
     if constexpr (std::is_same_v<Result, LONG>) return static_cast<LONG>(State::now->error);
     return Result{};
 }
@@ -114,23 +113,22 @@ using Plain = All<HOOK(RegCreateKeyExW), HOOK(RegSetValueExW), HOOK(RegDeleteVal
 #undef READ_HOOK
 #undef HOOK
 
+bool RefusesNewFile() {
+    if (!State::now || !State::now->test.newFilesRefused) return false;
+    ::SetLastError(ERROR_ACCESS_DENIED);
+    return true;
+}
+
 HANDLE WINAPI CreateOrRefuse(LPCWSTR path, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security,
                              DWORD disposition, DWORD flags, HANDLE like) {
-    if (State::now && State::now->newFilesRefused && disposition == CREATE_NEW) {
-        ::SetLastError(ERROR_ACCESS_DENIED);
-        return INVALID_HANDLE_VALUE;
-    }
+    if (disposition == CREATE_NEW && RefusesNewFile()) return INVALID_HANDLE_VALUE;
     if (Fails("CreateFileW", (access & GENERIC_WRITE) != 0 ? Calls::changing : Calls::any))
         return INVALID_HANDLE_VALUE;
     return Create::real(path, access, share, security, disposition, flags, like);
 }
 
 BOOL WINAPI CopyOrRefuse(LPCWSTR from, LPCWSTR to, BOOL asNew) {
-    if (State::now && State::now->newFilesRefused) {
-        ::SetLastError(ERROR_ACCESS_DENIED);
-        return FALSE;
-    }
-    return !Fails("CopyFileW") && Copy::real(from, to, asNew);
+    return !RefusesNewFile() && !Fails("CopyFileW") && Copy::real(from, to, asNew);
 }
 
 HANDLE WINAPI FindOrRefuse(LPCWSTR pattern, LPWIN32_FIND_DATAW found) {
@@ -155,7 +153,7 @@ int WINAPI Answer(HWND owner, LPCWSTR text, LPCWSTR title, UINT style) {
     State::now = nullptr;
     state->said.push_back(Narrow(text));
     State::now = state;
-    return (style & MB_YESNO) == MB_YESNO ? state->answer : IDOK;
+    return (style & MB_YESNO) == MB_YESNO ? state->test.answer : IDOK;
 }
 
 BOOL WINAPI HardlyAny(MEMORYSTATUSEX* memory) {
@@ -184,13 +182,10 @@ class Hooked {
 
 // Whether there was a call to fail.
 bool FailOne(const FaultyWork& test, int call, bool forGood, DWORD error) {
-    State now;
+    State now{test};
     now.left = call;
     now.error = error;
     now.forGood = forGood;
-    now.newFilesRefused = test.newFilesRefused;
-    now.which = test.which;
-    now.answer = test.answer;
     test.prepare();
     {
         const Hooked hooked(now);
@@ -239,7 +234,8 @@ std::vector<std::string> SaidWhileMemoryIsShort(const std::function<void()>& wor
 }
 
 std::vector<std::string> SaidBy(const std::function<void()>& work) {
-    State now;
+    const FaultyWork none{};
+    State now{none};
     const Hooked hooked(now);
     work();
     return now.said;

@@ -1,4 +1,4 @@
-// What the settings and the templates' folder hold while the system refuses one call or all.
+// What settings and templates are left when one system call fails, or all from one on.
 #include <algorithm>
 #include <set>
 
@@ -28,7 +28,7 @@ class FaultsTest : public AppTest {
         const std::string url = "s" + std::to_string(i);
         return {0, url, "name of " + url, "pass of " + url};
     }
-    // How many sites are gone, but for one that was to go, or stand beside another's login.
+    // How many sites are missing, apart from one that was to be removed, or have another site's login.
     static int lostSites(const std::string& gone) {
         int lost = 0;
         std::set<std::string> urls{gone};
@@ -40,7 +40,7 @@ class FaultsTest : public AppTest {
         return lost;
     }
 
-    // A full list, each with a file that says its name.
+    // A full list; the file of each template contains its name.
     static authoring::TemplateList templates() {
         authoring::TemplateList list;
         for (int i = 0; i < 9; ++i) list[static_cast<std::size_t>(i)] = {nameOf(i), "ID of " + nameOf(i)};
@@ -56,8 +56,8 @@ class FaultsTest : public AppTest {
         }
         authoring::WriteTemplates(templates(), authoring::Moved::up);
     }
-    // How many are gone from the list that the next start makes, but for one that was to go, have another's
-    // name, or have another page.
+    // How many, in the list that the next start makes, are missing, apart from one that was to be removed, or
+    // have another template's ID or page.
     static int lostTemplates(int gone) {
         const authoring::TemplateList list = authoring::RebuiltTemplates(
             authoring::ReadTemplates(),
@@ -73,7 +73,7 @@ class FaultsTest : public AppTest {
         return lost;
     }
 
-    // Fills the dialog in once it is there. One that stays after a refusal is cancelled.
+    // Fills in the dialog once it has opened, and cancels it if it stays open after a refusal.
     static void CALLBACK enterTemplate(HWND, UINT, UINT_PTR timer, DWORD) {
         const HWND dialog = seen::Dialog(::GetCurrentProcessId(), "Add a Template");
         if (!dialog) return;
@@ -122,7 +122,7 @@ TEST_F(FaultsTest, NeitherAddingATemplateNorRebuildingTheMenuLosesOne) {
     expectNothingLost("a rebuilt menu", prepare, rebuild, [] { return lostTemplates(4); });
 }
 
-TEST_F(FaultsTest, WhereMemoryRunsOutACommandSaysSoInItsOwnWords) {
+TEST_F(FaultsTest, WhereMemoryRunsOutACommandReportsItInItsOwnWords) {
     const auto expectEach = [](const std::string& words, int fewest, const std::function<void()>& prepare,
                                const std::function<void()>& work) {
         const auto check = [&](const Fault& fault) {

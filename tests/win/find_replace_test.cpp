@@ -12,7 +12,7 @@ class PageDialogTest : public AppTest {
         return form;
     }
     static HWND box(HWND form, std::size_t index) { return ControlsOfClass(form, "Edit").at(index); }
-    // As if typed: the dialog hears of the change.
+    // Sets the text, of which the dialog is notified as if it were typed.
     static void fill(HWND form, std::size_t index, const std::string& text) {
         seen::PutText(box(form, index), text);
     }
@@ -27,7 +27,7 @@ class PageDialogTest : public AppTest {
         }
         return captions;
     }
-    // Through the message loop.
+    // Presses a key, through the message loop.
     static void pressIn(HWND form, WPARAM key) {
         ::PostMessageA(box(form, 0), WM_KEYDOWN, key, 0);
         win::RunPending();
@@ -39,12 +39,12 @@ using ReplaceTest = PageDialogTest;
 
 TEST_F(FindTest, FindSelectsTheFirstMatchAndCountsToTheEnd) {
     const std::string german = "<BODY>\r\n\rgr\u00DC\u00DFt \u0141\u03A9\n";
-    // Page, caret and text, then the selection, what is said and the buttons.
+    // Page, caret and text, then the selection, the message and the enabled buttons.
     using Search = std::tuple<std::string, long, const char*, const char*, const char*, const char*>;
     const Search searches[] = {
         {"xxabyyab", 0, "ab", "2-4", "2\r\noccurrences", "Find Next,"},
         {"xxabyyab", 0, "yy", "4-6", "1\r\noccurrences", ""},
-        {"abxxab", 0, "AB", "0-2", "0\r\noccurrences", "Find,"},  // a match at the very top counts nothing
+        {"abxxab", 0, "AB", "0-2", "0\r\noccurrences", "Find,"},  // a match at the very top is not counted
         {"aaaaaaaa", 1, "aa", "1-3", "3\r\noccurrences", "Find Next,"},
         {german, 0, "Body", "1-5", "1\r\noccurrences", ""},
         {german, 0, "R\u00FC\u00DF", "10-13", "1\r\noccurrences", ""},
@@ -55,7 +55,7 @@ TEST_F(FindTest, FindSelectsTheFirstMatchAndCountsToTheEnd) {
         SCOPED_TRACE(page.substr(0, 20) + " " + wanted);
         newPage(page).txtPad().select(caret, caret);
         const HWND find = open(tbrFind, {wanted});
-        EXPECT_EQ(seen::LabelsOf(find), "") << "the prompt goes when there is text";
+        EXPECT_EQ(seen::LabelsOf(find), "") << "the prompt disappears when there is text";
         click(find, "Find");
         EXPECT_EQ(selected(), selection);
         EXPECT_EQ(seen::LabelsOf(find), message);
@@ -80,7 +80,7 @@ TEST_F(FindTest, FindNextStepsOverTheRepeatAfterAMatch) {
     EXPECT_EQ(::GetFocus(), box(find, 0));
 }
 
-TEST_F(FindTest, WithNoMatchBelowTheTopIsOffered) {
+TEST_F(FindTest, WhereNoMatchFollowsASearchFromTheTopIsOffered) {
     newPage("..ab..ab..").txtPad().select(8, 8);
     const HWND find = open(tbrFind, {"ab"});
     heard([&] { click(find, "Find"); }, {User::press("Fennick", IDYES)});
@@ -105,11 +105,11 @@ TEST_F(FindTest, EnterFindsThenFindsTheNextAndEscCloses) {
     EXPECT_EQ(heard([&] { pressIn(find, VK_RETURN); }, {{"Oreval Note:", look}}),
               "You must enter text to find...");
     EXPECT_TRUE(::IsWindowEnabled(main().mainHwnd()) && ::IsWindowEnabled(find));
-    EXPECT_FALSE(::IsWindowEnabled(replace)) << "what was disabled before stays so";
+    EXPECT_FALSE(::IsWindowEnabled(replace)) << "what was disabled before stays disabled";
     fill(find, 0, "ab");
     pressIn(find, VK_RETURN);
     EXPECT_EQ(selected(), "2-4");
-    EXPECT_EQ(open(tbrFind), find) << "there is one only";
+    EXPECT_EQ(open(tbrFind), find) << "there is only one";
     EXPECT_EQ(::GetFocus(), box(find, 0));
     pressIn(find, VK_RETURN);
     EXPECT_EQ(selected(), "6-8");
@@ -128,7 +128,7 @@ TEST_F(FindTest, ItSearchesThePageItWasOpenedFor) {
     EXPECT_EQ(second.txtPad().selection().length(), 0);
 }
 
-TEST_F(FindTest, BothDialogsGoWithAnyPageAndWithTheMainWindow) {
+TEST_F(FindTest, BothDialogsCloseWithAnyPageAndWithTheMainWindow) {
     newPage("a");
     newPage("b");
     const HWND find = open(tbrFind);
@@ -170,10 +170,10 @@ TEST_F(ReplaceTest, ReplaceChangesTheFirstMatchOfThePage) {
     fill(replace, 1, "aa");
     for (int i = 0; i < 3; ++i) click(replace, "Replace");
     EXPECT_EQ(pageText(), "aaaaBcabc");
-    EXPECT_EQ(enabled(replace), "Replace,Replace All,") << "the new text holds what is looked for";
+    EXPECT_EQ(enabled(replace), "Replace,Replace All,") << "the new text contains what is looked for";
 }
 
-TEST_F(ReplaceTest, WhatCannotBeReplacedIsToldAndLeavesThePageAlone) {
+TEST_F(ReplaceTest, WhatCannotBeReplacedIsReportedAndLeavesThePageAlone) {
     const std::string tooMuch(40000, 'a');
     const std::vector<std::array<std::string, 6>> refusals = {
         {"A", "", "", "Replace", "Oreval Note:", "Enter text to be replaced."},
@@ -215,11 +215,11 @@ TEST_F(ReplaceTest, ReplaceAllRebuildsThePageAndClosesTheDialog) {
     EXPECT_EQ(page.tabText(), "      ");
     EXPECT_TRUE(pageHasFocus());
     win::RunPending();
-    EXPECT_EQ(::RevokeDragDrop(page.txtPad().hwnd()), S_OK) << "drops go on";
+    EXPECT_EQ(::RevokeDragDrop(page.txtPad().hwnd()), S_OK) << "files can still be dropped";
     EXPECT_GT(::SendMessageA(page.txtPad().hwnd(), EM_GETLIMITTEXT, 0, 0), 0x100000);
 }
 
-TEST_F(ReplaceTest, DuringReplaceAllOnlyCancelIsHeardAndLeavesThePageAlone) {
+TEST_F(ReplaceTest, DuringReplaceAllOnlyCancelWorksAndLeavesThePageAlone) {
     newPage("aaaa");
     HWND replace = open(tbrReplace, {"a", "b"});
     ::PostMessageA(replace, WM_COMMAND, IDCANCEL, 0);
@@ -229,7 +229,7 @@ TEST_F(ReplaceTest, DuringReplaceAllOnlyCancelIsHeardAndLeavesThePageAlone) {
     replace = open(tbrReplace, {"a", "b"});
     ::PostMessageA(main().mainHwnd(), WM_CLOSE, 0, 0);
     click(replace, "Replace All");
-    EXPECT_EQ(pageText(), "bbbb") << "the main window takes no input";
+    EXPECT_EQ(pageText(), "bbbb") << "the main window takes no input meanwhile";
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// All forms, also those that are yet to come: whatever dialog template the program has is walked by Tab.
+// All forms: each dialog template in the program is gone through by Tab, so that new ones are tested too.
 #include "win/app_test.h"
 #include "win/dialog.h"
 #include "win/error.h"
@@ -10,7 +10,7 @@ BOOL CALLBACK AddName(HMODULE, LPCSTR, LPSTR name, LONG_PTR list) {
     return TRUE;
 }
 
-// A form without its code: as the template has it.
+// A form without its code, as the template describes it.
 INT_PTR CALLBACK Bare(HWND, UINT message, WPARAM, LPARAM) {
     return message == WM_INITDIALOG;
 }
@@ -20,8 +20,8 @@ bool TakesText(HWND control) {
     return cls == "Edit" || cls == "ComboBox" || cls == "ListBox" || cls == "RICHEDIT";
 }
 
-// The name that a screen reader finds: a control's own text, or for one that holds what the user types or
-// chooses the label just before it, shown or not.
+// The name that a screen reader finds: a control's own text or, where that is what the user types or chooses,
+// the label just before it, visible or not.
 std::string NameOf(HWND control) {
     if (seen::ClassOf(::GetParent(control)) == "ComboBox") control = ::GetParent(control);
     if (!TakesText(control)) return seen::TextOf(control);
@@ -31,7 +31,8 @@ std::string NameOf(HWND control) {
     return text.empty() ? "(filled by the code)" : text;
 }
 
-// Presses Tab until the focus is where it began. "(lost)" when Tab does not come round.
+// Presses Tab until the focus is back where it began, and lists the names on the way. "(lost)" at the end
+// when it does not come back.
 std::string NamesByTab(HWND dialog) {
     ::SetFocus(::GetNextDlgTabItem(dialog, nullptr, FALSE));
     const HWND first = ::GetFocus();
@@ -102,7 +103,7 @@ TEST_F(FormsTest, EveryControlOfEveryTemplateHasANameAndRoomForIt) {
     }
 }
 
-TEST_F(FormsTest, WhatTheHelpMakesAtRunTimeHasNamesToo) {
+TEST_F(FormsTest, ControlsThatTheHelpMakesAtRunTimeHaveNamesToo) {
     run(mnuHelpCont);
     const HWND helpWindow = window("Quillon Help");
     ASSERT_TRUE(helpWindow);
@@ -117,7 +118,7 @@ class Broken : public win::Dialog {
     bool onInit() override { throw win::Failure("No memory."); }
 };
 
-TEST_F(FormsTest, AFormThatCannotBeMadeIsNotThere) {
+TEST_F(FormsTest, AFormThatCannotBeMadeLeavesNoWindow) {
     EXPECT_THROW(Broken().showModal(main().mainHwnd()), win::Failure);
     EXPECT_THROW((new Broken)->showModeless(main().mainHwnd()), win::Failure);
     EXPECT_EQ(win::Dialog::find(main().mainHwnd(), "frmToUp"), nullptr);

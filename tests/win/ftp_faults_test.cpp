@@ -1,4 +1,4 @@
-// Servers that refuse, break off, or send what no server should.
+// Servers that refuse commands, break off, or send what no server should.
 #include <cstdlib>
 
 #include "files/atomic_file.h"
@@ -18,7 +18,7 @@ namespace {
 
 class FtpFaultsTest : public FtpTest {
  protected:
-    // Gives what was said when the window has opened with this behaviour and the line's command has run.
+    // Opens the window on a server of this behaviour, runs a command on a line and returns what was said.
     std::string sayWith(const char* behaviour, const std::string& line, int item,
                         const std::vector<User::Act>& acts) {
         openScripted(behaviour);
@@ -30,7 +30,8 @@ class FtpFaultsTest : public FtpTest {
     static bool answers(HWND window) {
         return ::SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_NORMAL, 1000, nullptr) != 0;
     }
-    // Once the server keeps silent about the command: looks whether the windows answer, and closes one.
+    // Once the server has received the command and keeps silent: checks that the windows answer, and closes
+    // one.
     User::Act closeDuring(const std::string& command, const std::string& title, HWND& closing) {
         return {title, [=, &closing, main = main().mainHwnd()](HWND dialog) {
                     EXPECT_TRUE(wasTold(command)) << told();
@@ -42,7 +43,7 @@ class FtpFaultsTest : public FtpTest {
     User::Act saveAs(const std::string& name) { return User::chooseFile("Save File As...", scratch(name)); }
 };
 
-TEST_F(FtpFaultsTest, EveryRefusedCommandIsToldAndTheSessionGoesOn) {
+TEST_F(FtpFaultsTest, EveryRefusedCommandIsReportedAndTheSessionGoesOn) {
     const User::Act yes = User::press("DELETION CONFIRMATION", IDYES);
     EXPECT_EQ(sayWith("refuse-DELE", "good.htm", mnuRClist + 5, {yes, User::press("FAILED TO DELETE", IDOK)}),
               "Could not delete file");
@@ -112,9 +113,9 @@ TEST_F(FtpFaultsTest, AListingThatFailsLeavesAnEmptyListAndAWorkingWindow) {
         EXPECT_TRUE(::IsWindowEnabled(control(cmdRefresh))) << behaviour;
     }
     openScripted("drop-CWD");
-    EXPECT_EQ(lines(), "folder/,good.htm,large.bin") << "nothing is lost when the probes fail";
+    EXPECT_EQ(lines(), "folder/,good.htm,large.bin") << "the lines stay when the probes fail";
     openScripted("list-plain stay");
-    EXPECT_EQ(textOf(txtCurDir), "/folder") << "where a probe has led that could not go back";
+    EXPECT_EQ(textOf(txtCurDir), "/folder") << "the directory that a probe has entered and cannot leave";
 }
 
 TEST_F(FtpFaultsTest, OddNamesStayInsideTheChosenFolder) {
@@ -146,19 +147,19 @@ TEST_F(FtpFaultsTest, WhileASilentServerIsWaitedForTheWindowsAnswerAndCanBeClose
     closing = main().mainHwnd();
     say("good.htm", mnuRClist + 5,
         {User::press("DELETION CONFIRMATION", IDYES), closeDuring("DELE", kFtpTitle, closing)});
-    EXPECT_FALSE(::IsWindow(closing)) << "the main window is not held up either";
+    EXPECT_FALSE(::IsWindow(closing)) << "the main window can be closed too";
     EXPECT_EQ(ftpWindow(), nullptr);
-    EXPECT_FALSE(win::RunPending()) << "nor the end of the program";
+    EXPECT_FALSE(win::RunPending()) << "and the program ends";
 }
 
 TEST_F(FtpFaultsTest, APasswordArrivesByteForByte) {
-    const std::string password = "mno847\xE9 x";  // the key itself scrambles to codes 0
-    addSite("127.0.0.1", "plain", password);
+    const std::string password = "mno847\xE9 x";  // the key itself is scrambled to zeros
+    AddSite("127.0.0.1", "plain", password);
     frmUpload::open(main(), 0, ScriptedSession);
     EXPECT_NE(told().find("PASS " + password + "\n"), std::string::npos) << told();
 }
 
-TEST_F(FtpFaultsTest, NamesAreTheServersBytesAndThoseThatItCannotBeGivenAreRefused) {
+TEST_F(FtpFaultsTest, NamesAreTheServersBytesAndThoseThatCannotBeSentAreRefused) {
     openScripted("list-alike");
     EXPECT_EQ(lines(), "café.htm,café.htm,Małe.htm");
     for (const auto& [row, bytes] : {std::pair(1, "café.htm"), {0, "caf\xE9.htm"}, {2, "Małe.htm"}}) {
@@ -179,7 +180,7 @@ TEST_F(FtpFaultsTest, NamesAreTheServersBytesAndThoseThatItCannotBeGivenAreRefus
     EXPECT_EQ(told().find("STOR"), std::string::npos);
 }
 
-TEST_F(FtpFaultsTest, AServerThatHasGoneIsToldOnceAndConnectedToAnew) {
+TEST_F(FtpFaultsTest, AServerThatHasGoneIsReportedOnceAndConnectedToAgain) {
     openScripted("drop-STOR");
     std::vector<std::string> files;
     for (int i = 0; i < 50; ++i) {
@@ -194,7 +195,7 @@ TEST_F(FtpFaultsTest, AServerThatHasGoneIsToldOnceAndConnectedToAnew) {
     EXPECT_EQ(lines(), "folder/,good.htm,large.bin");
 }
 
-TEST_F(FtpFaultsTest, WhatIsBeingSentIsBrokenOffOnlyWhenTheUserWantsThat) {
+TEST_F(FtpFaultsTest, AnUploadInProgressIsBrokenOffOnlyWhenTheUserWantsThat) {
     const auto during = [&](const std::function<void()>& act) {
         return User::Act{kFtpTitle, [this, act](HWND form) {
                              EXPECT_TRUE(wasTold("STOR"));
@@ -214,7 +215,7 @@ TEST_F(FtpFaultsTest, WhatIsBeingSentIsBrokenOffOnlyWhenTheUserWantsThat) {
 
     ::DeleteFileA(Environment("QUILLON_FTP_LOG").c_str());
     openScripted("hold-STOR");
-    addSite("other.example", "user", "pw");
+    AddSite("other.example", "user", "pw");
     ftp::LoadSiteMenu(main());
     const auto goOn = [&] {
         EXPECT_TRUE(files::ReplaceFileContents(scratch("page.htm"), "saved meanwhile"));
@@ -230,11 +231,11 @@ TEST_F(FtpFaultsTest, WhatIsBeingSentIsBrokenOffOnlyWhenTheUserWantsThat) {
     EXPECT_EQ(heard[2], "127.0.0.1 is still busy.\r\nWait until it is done, or close its window.");
     EXPECT_EQ(heard[6], "Upload Complete");
     EXPECT_EQ(ftpWindow(), nullptr);
-    EXPECT_FALSE(win::RunPending()) << "the program closes when the file is there";
+    EXPECT_FALSE(win::RunPending()) << "the program ends once the file has been sent";
 }
 
-// What no server on loopback can bring about: a machine that is not on any network, or one on which every
-// change ends in an error that no server's answer explains.
+// What no server on loopback can cause: a machine without a network, or every change ending in an error that
+// no server's answer explains.
 template <bool kOnline>
 class Odd : public ftp::FtpSession {
  public:
@@ -264,7 +265,7 @@ class Odd : public ftp::FtpSession {
 };
 
 TEST_F(FtpFaultsTest, WithoutADialUpLinkTheAttemptGoesOnAndWithoutNetworkingItEnds) {
-    addSite("127.0.0.1", "plain", "pw");
+    AddSite("127.0.0.1", "plain", "pw");
     const User::Act understand = User::press("NOT CONNECTED", IDOK);
     EXPECT_EQ(User::hears([&] { frmUpload::open(main(), 0, Odd<false>::make); }, {understand, understand}),
               (std::vector<std::string>{"Could not connect to the internet through AutoDial.\r\n"
@@ -273,16 +274,16 @@ TEST_F(FtpFaultsTest, WithoutADialUpLinkTheAttemptGoesOnAndWithoutNetworkingItEn
     EXPECT_EQ(ftpWindow(), nullptr);
 }
 
-TEST_F(FtpFaultsTest, AnErrorThatNoServerExplainsIsToldInTheWordsOfItsCommand) {
-    addSite("127.0.0.1", "plain", "pw");
+TEST_F(FtpFaultsTest, AnErrorThatNoServerExplainsIsReportedInTheWordsOfItsCommand) {
+    AddSite("127.0.0.1", "plain", "pw");
     frmUpload::open(main(), 0, Odd<true>::make);
     EXPECT_EQ(say("old/", mnuDirDelete,
                   {User::press("DELETION CONFIRMATION", IDYES), User::press("DELETE DIFFICULTY", IDOK)}),
               "There was a problem deleting old/.");
     EXPECT_EQ(say("my page.htm", mnuRClist, {User::press("SIZE of my page.htm is:", IDOK)}),
               "Approximately 42 Bytes")
-        << "a pattern would end at the blank";
-    // A given-up upload may hold the file of another test for a while.
+        << "asked for without a pattern, which would end at the blank";
+    // Not "page.htm": an upload that another test has given up may still hold that file.
     savePage("other.htm", "page");
     EXPECT_EQ(saidToClick(cmdUp, "ERROR"), "Error uploading");
     EXPECT_EQ(saidToDrop({scratch("other.htm")}, "Quillon"), "Could not upload files.");

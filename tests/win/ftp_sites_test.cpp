@@ -5,8 +5,8 @@
 #include "ftp/frmCrypt.h"
 #include "ftp/frmToUp.h"
 #include "ftp/site_store.h"
-#include "win/app_test.h"
 #include "win/dialog.h"
+#include "win/ftp_test.h"
 #include "win/message_loop.h"
 
 namespace {
@@ -34,7 +34,7 @@ TEST_F(FtpSitesTest, ASiteIsAddedOnceItsFieldsAreRightAndOnlyOnce) {
     EXPECT_EQ(dialog(), nullptr);
     EXPECT_EQ(main().menu().caption(mnuUploadSites), "ftp.sandholm.example");
     const std::string stored = ftp::FindSite(ftp::ReadSections(), 0)->storedPassword;
-    EXPECT_EQ(ftp::ReadPassword(stored, document::SystemCodePages()), "lämp ł") << "UTF-8 where it must";
+    EXPECT_EQ(ftp::ReadPassword(stored, document::SystemCodePages()), "lämp ł") << "in UTF-8 where needed";
     frmCrypt::open(main());
     fill(txtURL, "ftp.sandholm.example");
     fill(txtName, "other");
@@ -42,7 +42,7 @@ TEST_F(FtpSitesTest, ASiteIsAddedOnceItsFieldsAreRightAndOnlyOnce) {
     EXPECT_EQ(ftp::FindSite(ftp::ReadSections(), 0)->name, "keeper");
 }
 
-TEST_F(FtpSitesTest, TheUrlIsLookedAtWhenTheFocusLeavesTheDialog) {
+TEST_F(FtpSitesTest, TheUrlIsCheckedWhenTheFocusLeavesTheDialog) {
     newPage("");
     frmCrypt::open(main());
     const HWND form = dialog();
@@ -60,30 +60,25 @@ TEST_F(FtpSitesTest, TheUrlIsLookedAtWhenTheFocusLeavesTheDialog) {
 }
 
 TEST_F(FtpSitesTest, ConnectGoesToTheSiteThatIsShown) {
-    const auto add = [](const char* url) {
-        ftp::Apply(ftp::AddSite(ftp::ReadSections(), {0, url, "keeper", ""}).changes);
-    };
-    add("ftp.sandholm.example");
+    AddSite("ftp.sandholm.example", "keeper", "");
     ftp::LoadSiteMenu(main());
     const auto connect = [&](HWND form) {
-        add("other.example");  // stands where that one stood
+        AddSite("other.example", "keeper", "");  // takes the place of that one
         ::PostMessageA(form, WM_COMMAND, cmdUpload, 0);
     };
     heard([&] { run(mnuUploadSites); }, {{"FTP Site", connect}});
-    EXPECT_TRUE(seen::Child(window("Quillon FTP - - - - -"), "Site: ftp.sandholm.example"));
+    EXPECT_TRUE(seen::Child(window(kFtpTitle), "Site: ftp.sandholm.example"));
 }
 
-TEST_F(FtpSitesTest, ASiteIsDeletedWithItsPasswordOnly) {
-    const std::string stored = ftp::StoredPassword("lamp", document::SystemCodePages());
-    const ftp::Site site{0, "ftp.sandholm.example", "keeper", stored};
-    ftp::Apply(ftp::AddSite(ftp::ReadSections(), site).changes);
+TEST_F(FtpSitesTest, ASiteIsDeletedOnlyWithItsPassword) {
+    AddSite("ftp.sandholm.example", "keeper", "lamp");
     const auto clickDelete = [](HWND form) { ::PostMessageA(::GetDlgItem(form, cmdDelete), BM_CLICK, 0, 0); };
-    const auto heard =
-        User::hears([&] { frmToUp::ask(main(), site.url); }, {{"FTP Site", clickDelete},
-                                                              User::enter("Quillon", "Lamp"),
-                                                              User::press("INCORRECT PASSWORD", IDOK),
-                                                              {"FTP Site", clickDelete},
-                                                              User::enter("Quillon", "lamp")});
+    const auto heard = User::hears([&] { frmToUp::ask(main(), "ftp.sandholm.example"); },
+                                   {{"FTP Site", clickDelete},
+                                    User::enter("Quillon", "Lamp"),
+                                    User::press("INCORRECT PASSWORD", IDOK),
+                                    {"FTP Site", clickDelete},
+                                    User::enter("Quillon", "lamp")});
     EXPECT_EQ(heard[1], "Enter Site Password To Delete ftp.sandholm.example");
     EXPECT_EQ(heard[2], "Check password and try again.");
     EXPECT_FALSE(ftp::FindSite(ftp::ReadSections(), 0));

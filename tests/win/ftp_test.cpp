@@ -33,7 +33,7 @@ void FtpTest::SetUp() {
     ::DeleteFileA(Environment("QUILLON_FTP_LOG").c_str());
 }
 
-void FtpTest::addSite(const std::string& url, const std::string& name, const std::string& password) {
+void AddSite(const std::string& url, const std::string& name, const std::string& password) {
     const ftp::Site site{0, url, name, ftp::StoredPassword(password, document::SystemCodePages())};
     ftp::Apply(ftp::AddSite(ftp::ReadSections(), site).changes);
 }
@@ -48,7 +48,7 @@ HWND FtpTest::openHonest(const std::vector<std::string>& files) {
             writeFile(onServer(file), "The file " + file);
         }
     }
-    addSite("127.0.0.1/own", "user", "secret");
+    AddSite("127.0.0.1/own", "user", "secret");
     return reopen();
 }
 
@@ -60,7 +60,7 @@ HWND FtpTest::reopen() {
 HWND FtpTest::openScripted(const std::string& behaviour) {
     if (ftpWindow()) ::SendMessageA(ftpWindow(), WM_COMMAND, IDCANCEL, 0);
     ftp::Apply(ftp::RemoveSite(ftp::ReadSections(), 0));
-    addSite("127.0.0.1", behaviour, "pw");
+    AddSite("127.0.0.1", behaviour, "pw");
     frmUpload::open(main(), 0, ScriptedSession);
     return ftpWindow();
 }

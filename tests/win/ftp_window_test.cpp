@@ -35,11 +35,11 @@ TEST_F(FtpWindowTest, WalksDirectoriesAndNeverAboveTheStart) {
     EXPECT_EQ(textOf(txtCurDir), "/own");
     EXPECT_FALSE(::IsWindowEnabled(control(cmdUpDir)));
     doubleClick("site.files/");
-    EXPECT_EQ(textOf(txtCurDir), "/own") << "a dot in the name keeps a directory shut";
+    EXPECT_EQ(textOf(txtCurDir), "/own") << "a directory with a dot in its name is not entered";
 }
 
 TEST_F(FtpWindowTest, ListsWhatCannotBeEnteredAndFollowsLinks) {
-    addSite("127.0.0.1", "user", "secret");
+    AddSite("127.0.0.1", "user", "secret");
     ASSERT_TRUE(reopen());
     const std::string all = "," + lines() + ",";
     EXPECT_NE(all.find(",closed/,"), std::string::npos) << all;
@@ -89,7 +89,7 @@ TEST_F(FtpWindowTest, UploadsThePageAsItIsOnTheDisk) {
     EXPECT_EQ(saidToClick(cmdUp, "Quillon"), "Upload Complete");
     EXPECT_EQ(textOf(txtCurDir), "Upload Complete");
     EXPECT_EQ(readFile(onServer("my page.htm")), "<P>caf\xE9</P>\n")
-        << "sent as text although Binary is chosen, so the server has put its own line ends";
+        << "sent as text although Binary is chosen, so it has the server's line ends";
 }
 
 TEST_F(FtpWindowTest, UploadsWhatIsDroppedOnTheList) {
@@ -102,7 +102,7 @@ TEST_F(FtpWindowTest, UploadsWhatIsDroppedOnTheList) {
               "Uploading Completed.");
     EXPECT_EQ(lines(), "Lamp.GIF,empty.htm,page.htm");
     EXPECT_EQ(readFile(onServer("Lamp.GIF")), bytes);
-    EXPECT_EQ(readFile(onServer("page.htm")), "<P>\n") << "as text, so the server has put its own line ends";
+    EXPECT_EQ(readFile(onServer("page.htm")), "<P>\n") << "sent as text, so it has the server's line ends";
     const auto dropAndTakeBack = [&] {
         win::SendDropped(control(lstRemoteFiles), {scratch("page.htm")});
         ::DeleteFileA(scratch("page.htm").c_str());
@@ -114,7 +114,7 @@ TEST_F(FtpWindowTest, UploadsWhatIsDroppedOnTheList) {
     EXPECT_EQ(saidToDrop({}, "Quillon Note:"), "Unknown Object");
 }
 
-TEST_F(FtpWindowTest, WhatHasGoneFromTheServerMeanwhileIsTold) {
+TEST_F(FtpWindowTest, WhatHasGoneFromTheServerMeanwhileIsReported) {
     ASSERT_TRUE(openHonest({"a.htm", "docs/", "docs/deep/"}));
     doubleClick("docs/");
     doubleClick("deep/");
@@ -128,7 +128,7 @@ TEST_F(FtpWindowTest, WhatHasGoneFromTheServerMeanwhileIsTold) {
 }
 
 TEST_F(FtpWindowTest, AsksForAPasswordThatIsNotStored) {
-    addSite("127.0.0.1", "user", "");
+    AddSite("127.0.0.1", "user", "");
     reopen();
     EXPECT_EQ(textOf(txtCurDir), "NOT CONNECTED");
     EXPECT_EQ(textOf(txtPassword), "ENTER PASSWORD HERE");
@@ -152,9 +152,9 @@ TEST_F(FtpWindowTest, ThereIsOneWindowForAllSites) {
     const HWND first = openHonest({"a.htm"});
     frmUpload::open(main(), 0, HonestSession);
     EXPECT_EQ(ftpWindow(), first);
-    addSite("127.0.0.1", "user", "secret");
+    AddSite("127.0.0.1", "user", "secret");
     frmUpload::open(main(), 1, HonestSession);
-    EXPECT_EQ(ftpWindow(), first) << "it is the second site of the list by now";
+    EXPECT_EQ(ftpWindow(), first) << "whose site is the second of the list now";
     frmUpload::open(main(), 0, HonestSession);
     EXPECT_EQ(textOf(txtCurDir), "/");
     EXPECT_FALSE(::IsWindow(first));

@@ -41,7 +41,7 @@ TEST_F(HelpTest, EachTopicAndEachButtonShowsItsWords) {
     }
 }
 
-TEST_F(HelpTest, TheAboutBoxTellsTheVersionAndItsLinksOpenByClickAndByKey) {
+TEST_F(HelpTest, TheAboutBoxShowsTheVersionAndItsLinksOpenByClickAndByKey) {
     const Browser browser(Browser::standIn(), scratch("seen"));
     const auto expectOpens = [&](const std::string& address) {
         const std::string shown = browser.shown();

@@ -16,7 +16,7 @@ class MenuTest : public AppTest {
     static bool hasState(HMENU menu, int position, UINT state) {
         return (::GetMenuState(menu, static_cast<UINT>(position), MF_BYPOSITION) & state) != 0;
     }
-    // The menus of the bar in this state.
+    // The captions of the menus in the bar that have this state.
     std::string captions(UINT state) {
         const HMENU bar = ::GetMenu(main().mainHwnd());
         std::string all;
@@ -26,7 +26,7 @@ class MenuTest : public AppTest {
     }
 };
 
-TEST_F(MenuTest, WhatNeedsADocumentIsGreyWithoutOne) {
+TEST_F(MenuTest, WhatNeedsADocumentIsDisabledWithoutOne) {
     constexpr char kNeedPages[] = "Current Edit Window Tags Scripts ";
     EXPECT_EQ(textOf(menu(0), 0), "New\tF2");
     EXPECT_EQ(textOf(menu(0), 9), "Exit\tF5");
@@ -60,13 +60,13 @@ TEST_F(MenuTest, ToolbarButtonsHaveNamesFollowTheDocumentsAndLeaveTheFocusInTheP
     EXPECT_EQ(tools.names(true), "|New|Open|Help");
 }
 
-TEST_F(MenuTest, TheMouseFindsTheNameOfAButtonThatWorksAndOfOneThatDoesNot) {
+TEST_F(MenuTest, ToolTipsNameEnabledAndDisabledButtons) {
     const ToolButtons tools(main().mainHwnd());
     const RECT bar = seen::PlaceOf(tools.bar());
     for (const auto& [index, name] : {std::pair(0, "New"), std::pair(3, "Save")}) {
         const RECT button = tools.place(index);
         bool found = false;
-        for (int step = 0; step < 10 && !found; ++step) {  // a hand moves on when nothing comes
+        for (int step = 0; step < 10 && !found; ++step) {  // a user moves the mouse when no tip comes
             ::SetCursorPos(bar.left + button.left + 9 + step % 2, bar.top + button.top + 9);
             found = seen::Until([name] { return win::RunPending() && window(name); }, 1500);
         }
@@ -79,9 +79,7 @@ TEST_F(MenuTest, ANarrowWindowShowsTheToolbarInRowsAboveThePages) {
     const auto bottomOf = [&](int width) {
         ::SetWindowPos(main().mainHwnd(), nullptr, 0, 0, width, 500, SWP_NOMOVE | SWP_NOZORDER);
         win::RunPending();
-        const HDC ground = ::GetDC(main().mdiClient());
-        EXPECT_EQ(::GetPixel(ground, 2, 2), ::GetSysColor(COLOR_APPWORKSPACE)) << "nothing of the toolbar";
-        ::ReleaseDC(main().mdiClient(), ground);
+        EXPECT_EQ(seen::ColorAt(main().mdiClient(), 2, 2), ::GetSysColor(COLOR_APPWORKSPACE));
         RECT bar{};
         ::GetClientRect(tools.bar(), &bar);
         for (int i = 0; i < 17; ++i) {
@@ -100,7 +98,7 @@ TEST_F(MenuTest, ANarrowWindowShowsTheToolbarInRowsAboveThePages) {
     EXPECT_EQ(bottomOf(800), one);
 }
 
-TEST_F(MenuTest, PicturesAndStripFollowTheSystem) {
+TEST_F(MenuTest, MenuPicturesAndTheStripFollowTheSystemsSettings) {
     const auto hasGround = [&](HMENU popup, int position, COLORREF colour) {
         MENUITEMINFOW item{};
         item.cbSize = sizeof item;

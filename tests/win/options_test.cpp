@@ -30,14 +30,14 @@ class OptionsTest : public AppTest {
         ::SetWindowTextA(box, text.c_str());
         Notify(box, CBN_EDITCHANGE);
     }
-    // The font that the control has, not the one that it was told.
+    // The font that the control really has.
     static document::Font shown(const frmChild& page) {
         CHARFORMATA format{};
         format.cbSize = sizeof format;
         ::SendMessageA(page.txtPad().hwnd(), EM_GETCHARFORMAT, TRUE, reinterpret_cast<LPARAM>(&format));
         return {format.szFaceName, static_cast<float>(format.yHeight) / 20};
     }
-    // Does this in the dialog, then presses a button.
+    // Acts in the dialog, then presses a button.
     void withFontDialog(WORD button, const std::function<void(HWND)>& act) {
         const auto actAndPress = [&](HWND dialog) {
             act(dialog);
@@ -60,7 +60,7 @@ TEST_F(OptionsTest, DefaultTypesAreStoredAndChecked) {
     EXPECT_EQ(stored("Files", "default_Open"), "(nothing)") << "an empty value reads as none";
     EXPECT_EQ(checked(mnuOptDefOpenList, 4), "All Files");
     run(mnuFileNew);
-    EXPECT_EQ(active().Caption(), "Untitled2") << "closing gives no number back";
+    EXPECT_EQ(active().Caption(), "Untitled2") << "the number of a closed page is not used again";
 }
 
 TEST_F(OptionsTest, TheTabLengthHoldsForTheActivePageAndForNewOnes) {
@@ -75,29 +75,29 @@ TEST_F(OptionsTest, TheTabLengthHoldsForTheActivePageAndForNewOnes) {
     EXPECT_EQ(pageText(), "      ");
     activate(other);
     pressKey(VK_TAB);
-    EXPECT_EQ(pageText(), "        ") << "chosen before there was a page";
+    EXPECT_EQ(pageText(), "        ") << "the length that was chosen before there was a page";
 }
 
-TEST_F(OptionsTest, WordWrapBelongsToThePageAndItsMarkFollows) {
+TEST_F(OptionsTest, WordWrapBelongsToThePageAndItsCheckMarkFollows) {
     const std::string line(900, 'x');
     frmChild& first = newPage(line + " " + line);
     EXPECT_FALSE(isChecked(mnuOptWW));
     run(mnuOptWW);
     EXPECT_TRUE(isChecked(mnuOptWW));
-    EXPECT_GT(first.txtPad().lineOf(1800), 0) << "the line is shown in several";
+    EXPECT_GT(first.txtPad().lineOf(1800), 0) << "the line is wrapped";
     frmChild& second = newPage("");
-    EXPECT_FALSE(isChecked(mnuOptWW)) << "a new page";
+    EXPECT_FALSE(isChecked(mnuOptWW)) << "for a new page";
     activate(first);
     EXPECT_TRUE(isChecked(mnuOptWW));
     activate(second);
     run(mnuFileClose);
-    EXPECT_TRUE(isChecked(mnuOptWW)) << "the other page has closed";
+    EXPECT_TRUE(isChecked(mnuOptWW)) << "for the page that is left";
     run(mnuOptWW);
     EXPECT_FALSE(isChecked(mnuOptWW));
     EXPECT_EQ(first.txtPad().lineOf(1800), 0);
     run(mnuOptWW);
     run(mnuFileClose);
-    EXPECT_FALSE(isChecked(mnuOptWW)) << "no page is left";
+    EXPECT_FALSE(isChecked(mnuOptWW)) << "without a page";
 }
 
 TEST_F(OptionsTest, TheFontDialogListsFontsOnceAndCancelGivesThePageItsFontBack) {
@@ -153,7 +153,7 @@ TEST_F(OptionsTest, AFontIsShownAtOnceAndKeptByOk) {
     EXPECT_EQ(stored("font preferences", "font_Size"), "10.5");
     activate(page);
     run(mnuEditUndo);
-    EXPECT_EQ(pageText(), "some text") << "Undo is about the text";
+    EXPECT_EQ(pageText(), "some text") << "Undo takes back changes of the text only";
 }
 
 }  // namespace

@@ -49,7 +49,7 @@ TEST_F(PageTest, EveryByteOfAPageIsKept) {
     }
 }
 
-TEST_F(PageTest, WhatIsWrittenAreTheControlsLinesWhateverTheBreaksAndTheWrap) {
+TEST_F(PageTest, TheControlsLinesAreWrittenWhateverTheirBreaksAndTheWordWrap) {
     for (unsigned seed = 1; seed <= 25; ++seed) {
         const document::Page page{RandomPage(seed, 20 + seed * 7), {document::kUtf8, false}};
         const frmChild& window = frmChild::open(main(), "random", page);
@@ -71,7 +71,7 @@ TEST_F(PageTest, WhatIsWrittenAreTheControlsLinesWhateverTheBreaksAndTheWrap) {
     EXPECT_EQ(files::FileOf(newPage(longLine)).bytes, longLine + "\r\n");
 }
 
-TEST_F(PageTest, WhatTheEncodingCannotHoldGoesInAsAReference) {
+TEST_F(PageTest, WhatTheEncodingCannotHoldIsInsertedAsAReference) {
     openPage("page.htm", "<META CHARSET=windows-1252>\r\n\xE9");
     type("\u0141\u00E9");
     EXPECT_TRUE(pageText().starts_with("&#321;\u00E9<META")) << pageText();
@@ -81,7 +81,7 @@ TEST_F(PageTest, WhatTheEncodingCannotHoldGoesInAsAReference) {
     setClipboard("\u65E5\U0001F600");
     run(mnuEditPaste);
     EXPECT_TRUE(pageText().starts_with("&#26085;&#128512;<META"));
-    // Another encoding takes effect with the save, which shows what it cannot hold.
+    // Another declared encoding takes effect with the save, which turns what it cannot hold into references.
     active().selectAll();
     active().insert(u"<META CHARSET=\"utf-8\">\u00E9");
     type("\u0142");
@@ -98,7 +98,7 @@ TEST_F(PageTest, WhatTheEncodingCannotHoldGoesInAsAReference) {
     EXPECT_FALSE(active().isChanged());
 }
 
-TEST_F(PageTest, AWholeReplacementIsOneStepBehindWhichAllOthersStillAre) {
+TEST_F(PageTest, ReplacingTheWholePageIsOneStepOfUndoAndKeepsTheEarlierOnes) {
     frmChild& page = openPage("page.htm", "one");
     type("a");
     page.replacePage(u"two");
@@ -110,7 +110,7 @@ TEST_F(PageTest, AWholeReplacementIsOneStepBehindWhichAllOthersStillAre) {
     run(mnuOptWW);
     run(mnuEditUndo);
     EXPECT_EQ(pageText(), "aone");
-    EXPECT_TRUE(page.isChanged()) << "its file holds the other by now";
+    EXPECT_TRUE(page.isChanged()) << "its file holds the replacement now";
     run(mnuEditUndo);
     EXPECT_EQ(pageText(), "one");
 }
@@ -125,7 +125,7 @@ TEST_F(PageTest, AVeryLongLineIsWrappedOnTheScreenAndNowhereElse) {
     EXPECT_FALSE(main().menu().isChecked(mnuOptWW));
 }
 
-// A control that changes what it is given.
+// An edit control that changes the text it is given.
 WNDPROC realControl = nullptr;
 LRESULT CALLBACK ChangingControl(HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
     const LRESULT result = ::CallWindowProcA(realControl, control, message, wParam, lParam);
@@ -161,7 +161,7 @@ TEST_F(PageTest, ShiftAndEnterEndALine) {
     EXPECT_EQ(pageText(), "a\r\nb");
 }
 
-TEST_F(PageTest, APageThatTheMemoryDoesNotLastForIsTold) {
+TEST_F(PageTest, APageTooLargeForTheMemoryIsReported) {
     newPage("the other page");
     writeFile(scratch("large.htm"), std::string(1000000, '\n'));
     const auto said = SaidWhileMemoryIsShort(
@@ -172,7 +172,7 @@ TEST_F(PageTest, APageThatTheMemoryDoesNotLastForIsTold) {
     EXPECT_EQ(pageText(), "the other page");
 }
 
-TEST_F(PageTest, TheTabKeyInsertsARunThatOneBackspaceRemoves) {
+TEST_F(PageTest, TheTabKeyInsertsBlanksThatOneBackspaceRemoves) {
     newPage("ab");
     active().setTab("      ");
     active().txtPad().select(1, 1);
@@ -184,7 +184,7 @@ TEST_F(PageTest, TheTabKeyInsertsARunThatOneBackspaceRemoves) {
     pressKey(VK_TAB);
     active().txtPad().select(7, 8);
     pressKey(VK_BACK);
-    EXPECT_EQ(pageText(), "a      ") << "with a selection only that goes";
+    EXPECT_EQ(pageText(), "a      ") << "a selection alone is removed";
     type("\t");
     EXPECT_EQ(pageText().find('\t'), std::string::npos);
 }
@@ -217,7 +217,7 @@ TEST_F(PageTest, ClearIsUndoneInOneStepAndPasteTakesCharactersOnly) {
     active().txtPad().setChanged(false);
     run(mnuEditUndo);
     EXPECT_EQ(pageText(), "one two");
-    EXPECT_TRUE(active().isChanged()) << "what was saved was without it";
+    EXPECT_TRUE(active().isChanged()) << "it was saved without the text";
     setClipboard("{\\rtf1 \\b bold}");
     active().selectAll();
     ::SendMessageA(active().txtPad().hwnd(), WM_PASTE, 0, 0);
@@ -243,7 +243,7 @@ TEST_F(PageTest, ClosingAsksOnlyForAChangedPageAndSavesTheOneItAsksAbout) {
     EXPECT_EQ(main().documents().size(), 1U);
 }
 
-TEST_F(PageTest, APageThatClosesUnsavedAfterAllIsOnTheClipboard) {
+TEST_F(PageTest, APageThatIsClosedAfterACancelledSaveIsOnTheClipboard) {
     newPage("page");
     type("my ");
     heard([&] { run(mnuFileClose); },

@@ -10,7 +10,7 @@ constexpr char kFailure[] =
 
 class PreviewTest : public AppTest {
  protected:
-    // Until it is another one that opens .htm files.
+    // Makes the program the one that opens .htm files.
     void use(const std::string& program) {
         browser_.reset();
         browser_.emplace(program, scratch("seen"));
@@ -19,7 +19,7 @@ class PreviewTest : public AppTest {
         AppTest::SetUp();
         use(Browser::standIn());
     }
-    // Previews the active page; the browser must come up with this file.
+    // Previews the active page; the browser must be started with this file.
     void preview(const std::string& name) {
         run(tbrPreview);
         const std::string shown = browser_->shown();
@@ -27,7 +27,7 @@ class PreviewTest : public AppTest {
     }
     std::string shownPage() const { return browser_->page(); }
     bool copyIsThere() { return modPubFuncs::FileExists(scratch("$$my index.htm")); }
-    // The wait is over before its time.
+    // Ends the wait before its time.
     static void passTime() {
         if (const HWND wait = ::FindWindowA("modPreview", nullptr)) ::SendMessageA(wait, WM_TIMER, 1, 0);
     }
@@ -36,11 +36,11 @@ class PreviewTest : public AppTest {
     std::optional<Browser> browser_;
 };
 
-TEST_F(PreviewTest, AnEditedPageIsShownFromACopyThatGoesAfterThreeSeconds) {
+TEST_F(PreviewTest, AnEditedPageIsShownFromACopyThatIsDeletedAfterThreeSeconds) {
     const frmChild& page = openPage("my index.htm", "<P>saved", "new ");
     const DWORD start = ::GetTickCount();
     run(tbrPreview);
-    EXPECT_LT(::GetTickCount() - start, 2500U) << "the window is not held up";
+    EXPECT_LT(::GetTickCount() - start, 2500U) << "the command does not wait for it";
     EXPECT_TRUE(copyIsThere());
     EXPECT_TRUE(seen::Until([&] {
         win::RunPending();
@@ -59,7 +59,7 @@ TEST_F(PreviewTest, AnUnchangedPageIsShownFromItsOwnFile) {
     EXPECT_EQ(readFile(scratch("my index.htm")), "<P>saved");
     run(mnuFileSave);
     preview("my index.htm");
-    // Written by another program meanwhile: that is not for a preview to undo.
+    // A preview must not overwrite what another program has written meanwhile.
     writeFile(scratch("my index.htm"), "<P>newer\r\n");
     preview("$$my index.htm");
     EXPECT_EQ(shownPage(), "<P>saved\r\n");
@@ -68,7 +68,7 @@ TEST_F(PreviewTest, AnUnchangedPageIsShownFromItsOwnFile) {
     EXPECT_FALSE(copyIsThere());
 }
 
-TEST_F(PreviewTest, APreviewDuringAnotherShowsTheNewTextAndHasItsOwnTime) {
+TEST_F(PreviewTest, APreviewDuringAnotherShowsTheNewTextAndIsTimedByItself) {
     openPage("my index.htm", "1", "2");
     preview("$$my index.htm");
     type("3");
@@ -77,7 +77,7 @@ TEST_F(PreviewTest, APreviewDuringAnotherShowsTheNewTextAndHasItsOwnTime) {
     {
         const win::UniqueFile held = hold(scratch("$$my index.htm"), FILE_SHARE_READ);
         passTime();
-        EXPECT_TRUE(copyIsThere()) << "somebody is still at it";
+        EXPECT_TRUE(copyIsThere()) << "another program still has it open";
     }
     passTime();
     EXPECT_FALSE(copyIsThere());
@@ -88,7 +88,7 @@ TEST_F(PreviewTest, AFileOfTheAuthorsIsNeitherWrittenNorDeleted) {
     openPage("my index.htm", "1", "2");
     writeFile(scratch("$$my index.htm"), "the author's");
     preview("$$$my index.htm");
-    // Over our copy, while the browser has it.
+    // Another program writes over our copy while the browser shows it.
     writeFile(scratch("$$$my index.htm"), "the author's own");
     passTime();
     EXPECT_EQ(readFile(scratch("$$my index.htm")), "the author's");
@@ -97,25 +97,25 @@ TEST_F(PreviewTest, AFileOfTheAuthorsIsNeitherWrittenNorDeleted) {
     preview("$$$$my index.htm");
     ::DeleteFileA(scratch("$$$$my index.htm").c_str());
     passTime();
-    EXPECT_FALSE(::FindWindowA("modPreview", nullptr)) << "a copy that has gone is not waited for";
-    // Unchanged, but its file has gone: that is not made anew.
+    EXPECT_FALSE(::FindWindowA("modPreview", nullptr)) << "a copy that is no longer there is not waited for";
+    // The file of an unchanged page that is no longer there is not made again.
     active().txtPad().setChanged(false);
     ::DeleteFileA(scratch("my index.htm").c_str());
     preview("$$$$my index.htm");
     EXPECT_EQ(readFile(scratch("my index.htm")), "(no file)");
 }
 
-TEST_F(PreviewTest, TheCopyGoesWithTheProgram) {
+TEST_F(PreviewTest, TheCopyIsDeletedWhenTheProgramEnds) {
     frmChild& page = openPage("my index.htm", "1", "2");
     preview("$$my index.htm");
     page.txtPad().setChanged(false);
     ::SendMessageA(page.hwnd(), WM_CLOSE, 0, 0);
-    EXPECT_TRUE(copyIsThere()) << "the page may go before";
+    EXPECT_TRUE(copyIsThere()) << "although the page has been closed";
     closeMain();
     EXPECT_FALSE(copyIsThere());
 }
 
-TEST_F(PreviewTest, ABrowserThatIsMissingOrDoesNotStartIsTold) {
+TEST_F(PreviewTest, ABrowserThatIsMissingOrDoesNotStartIsReported) {
     use("");
     openPage("my index.htm", "1", "2");
     run(tbrPreview);
@@ -136,7 +136,7 @@ TEST_F(PreviewTest, ABrowserThatIsMissingOrDoesNotStartIsTold) {
     EXPECT_FALSE(copyIsThere());
 }
 
-TEST_F(PreviewTest, WithNowhereToWriteThereIsOneMessage) {
+TEST_F(PreviewTest, WhereNoCopyCanBeWrittenThereIsOneMessage) {
     newPage("untitled");
     EXPECT_EQ(said(tbrPreview), kFailure);
     ::CreateDirectoryA(scratch("gone").c_str(), nullptr);

@@ -24,14 +24,14 @@ constexpr int kBottomLimit = kMargin + 15120 / 20 - 2000 / 20;
 struct Line {
     int page = 0;  // from 1
     int left = 0;
-    int base = 0;   // of its letters
-    int right = 0;  // of the farthest one
+    int base = 0;   // the baseline
+    int right = 0;  // of the farthest letter
     std::string text;
 };
 
 class PrintTest : public AppTest {
  protected:
-    // Makes a printer the default one that prints into a file.
+    // Installs a default printer that prints into a file.
     void install() {
         std::string description = "Z:" QUILLON_TESTS "/win/data/printer.ppd";
         std::replace(description.begin(), description.end(), '/', '\\');
@@ -50,7 +50,7 @@ class PrintTest : public AppTest {
         info.pPrinterName = info.pDriverName = kPrinter;
         info.pPortName = port.data();
         info.pDatatype = dataType;
-        // Newer versions of Wine hand the pages over as drawings, which only the driver's own processor
+        // Newer versions of Wine pass the pages on as metafiles, which only the driver's own print processor
         // takes.
         char processors[][9] = {"WinPrint", "wineps"};
         info.pPrintProcessor = processors[wineVersion() > 8];
@@ -63,10 +63,10 @@ class PrintTest : public AppTest {
         EXPECT_EQ(SaidBy([&] { run(mnuFilePrint); }), std::vector<std::string>());
     }
 
-    // What was printed. Blank lines leave no trace but their room.
+    // The lines that were printed, without blank ones.
     std::vector<Line> printed() {
         // In format 1: <line> holds <char bbox="18 32 24 32" c="&#xa0;"/>. The file gets its name when it is
-        // whole, since start.exe does not wait for a Unix program.
+        // complete, since start.exe does not wait for a Unix program.
         writeFile(scratch("read.sh"), "cd '" + unixPath("") + "'\n" +
                                           "gs -q -dSAFER -dBATCH -dNOPAUSE -sDEVICE=txtwrite "
                                           "-dTextFormat=1 -o reading print.ps\nmv reading read.xml\n");
@@ -98,14 +98,14 @@ class PrintTest : public AppTest {
             reinterpret_cast<void*>(::GetProcAddress(ntdll, "wine_get_version")));
         return version ? std::atoi(version()) : 0;
     }
-    // Itself or, as "&#x3a9;", by its code.
+    // The letter there, which stands for itself or is given as "&#x3a9;".
     static std::string letterAt(const char* at) {
         unsigned code = static_cast<unsigned char>(*at);
         if (std::sscanf(at, "&#x%x", &code) == 1 && code == 0xA0) code = ' ';
         const auto unit = static_cast<char16_t>(code);
         return win::Utf8FromUtf16({&unit, 1});
     }
-    // Of a file in the test's folder, which is on drive Z:, the root directory.
+    // The Unix path of a file in the test's folder. Drive Z: is the root directory.
     std::string unixPath(const std::string& name) const {
         std::string path = scratch(name).substr(2);
         std::replace(path.begin(), path.end(), '\\', '/');
@@ -113,7 +113,7 @@ class PrintTest : public AppTest {
     }
 };
 
-TEST_F(PrintTest, AHeaderThenTheTextWithItsBlankLines) {
+TEST_F(PrintTest, AHeaderIsPrintedThenTheTextWithItsBlankLines) {
     install();
     print("first\r\n\r\n\tsecond third\r\nlast \u03A8\u0416\u00E9\r\n", "C:\\site\\index.htm");
     const std::vector<Line> lines = printed();
@@ -127,7 +127,7 @@ TEST_F(PrintTest, AHeaderThenTheTextWithItsBlankLines) {
     EXPECT_EQ(lines[3].text, "last \u03A8\u0416\u00E9");
     const int step = lines[3].base - lines[2].base;
     EXPECT_GE(step, 9);
-    EXPECT_NEAR(lines[2].base - lines[1].base, 2 * step, 1) << "the blank line has its room";
+    EXPECT_NEAR(lines[2].base - lines[1].base, 2 * step, 1) << "a blank line takes the height of a line";
     EXPECT_NEAR(lines[1].base, kBodyTop + step, step / 2);
 }
 
@@ -137,7 +137,6 @@ TEST_F(PrintTest, LongTextsAreBrokenIntoLinesAndSheetsAndPrintedWhole) {
     const std::string same = " of a page of more than 32,767 letters in all, as is said";
     std::string text;
     for (int i = 0; i < kLines; ++i) text += std::to_string(100 + i) + same + "\r\n";
-    ASSERT_GT(text.size(), 32767U);
     print(text + "some words before a long one of its own " + std::string(120, 'x') + " and after");
     const std::vector<Line> lines = printed();
     ASSERT_GT(lines.size(), kLines + 3U);
@@ -150,7 +149,7 @@ TEST_F(PrintTest, LongTextsAreBrokenIntoLinesAndSheetsAndPrintedWhole) {
     EXPECT_EQ(std::count(rest.begin(), rest.end(), 'x'), 120);
     EXPECT_EQ(rest.substr(rest.size() - 10), "and after|");
 
-    // As many lines on each sheet as have their top above the limit, and never a second header.
+    // Each sheet has as many lines as have their top above the limit, and only the first a header.
     const int step = lines[2].base - lines[1].base;
     int fullSheet = 0;
     for (std::size_t i = 1; i < lines.size(); ++i) {

@@ -27,28 +27,28 @@ TEST_F(RecoveryTest, ACopyComesBackOnceItsProgramNoLongerRuns) {
     {
         files::Recovery running(folder());
         running.writeNow(page);
-        EXPECT_TRUE(later.takeOver().empty()) << "its program runs";
+        EXPECT_TRUE(later.takeOver().empty()) << "while its program runs";
     }
     writeFile(scratch("~quillon-1-1.page"), "Quillon page 1\r\nand no more");
     const win::UniqueFile huge(::CreateFileW(Wide(scratch("~quillon-0-1.page")).c_str(), GENERIC_WRITE, 7,
                                              nullptr, CREATE_NEW, FILE_FLAG_DELETE_ON_CLOSE, nullptr));
-    // More than the memory of a program of 32 bits; others would take their time.
+    // More than a 32-bit program has memory for; a 64-bit one would take long.
     ::SetFilePointer(huge.get(), sizeof(void*) == 4 ? 0x7FFFFFF0 : 0, nullptr, FILE_BEGIN);
     ::SetEndOfFile(huge.get());
     const auto back = later.takeOver();
     ASSERT_EQ(back.size(), 1U);
     EXPECT_EQ(back[0].copy, expected);
     EXPECT_EQ(readFile(scratch("~quillon-1-1.page")), "Quillon page 1\r\nand no more")
-        << "what is no copy stays";
+        << "a file that is no copy stays";
     files::Recovery third(folder());
-    EXPECT_TRUE(third.takeOver().empty()) << "it has been taken over";
+    EXPECT_TRUE(third.takeOver().empty()) << "while another program has taken it over";
     later.adopt(page, back[0].file);
     win::UniqueFile scanner = hold(scratch(found("~quillon-*-back*")), FILE_SHARE_READ);
     later.remove(page.id());
     scanner.reset();
     later.writeNow(page);
     later.remove(page.id());
-    EXPECT_EQ(found("~quillon-*-back*"), "") << "a saved page leaves none, sooner or later";
+    EXPECT_EQ(found("~quillon-*-back*"), "") << "a saved page leaves no copy in the end";
 }
 
 TEST_F(RecoveryTest, ACopyIsDueAfterTheLastChangeOrLongAfterTheFirst) {
@@ -60,15 +60,15 @@ TEST_F(RecoveryTest, ACopyIsDueAfterTheLastChangeOrLongAfterTheFirst) {
     EXPECT_TRUE(recovery.isAnyDue());
     for (DWORD now = 2000; now < 26000; now += 2000) recovery.noteChange(page.id(), now);
     recovery.writeDue(main(), 25900);
-    EXPECT_TRUE(recovery.isAnyDue()) << "while one types there is time";
+    EXPECT_TRUE(recovery.isAnyDue()) << "typing puts it off";
     recovery.writeDue(main(), 26000);
-    EXPECT_TRUE(seen::Until(isWritten)) << "half a minute is the most";
+    EXPECT_TRUE(seen::Until(isWritten)) << "but not for longer than this";
     const std::string copy = scratch(found("~quillon-*.page"));
     recovery.remove(page.id());
     EXPECT_FALSE(isWritten());
     recovery.writeDue(main(), 30000);
     EXPECT_FALSE(recovery.isAnyDue());
-    // What has its name keeps it from being written for a while.
+    // A folder of its name keeps it from being written for a while.
     ::CreateDirectoryW(Wide(copy).c_str(), nullptr);
     recovery.noteChange(page.id(), 40000);
     const auto isWrittenLater = [&, now = DWORD{40000}]() mutable {
@@ -79,7 +79,7 @@ TEST_F(RecoveryTest, ACopyIsDueAfterTheLastChangeOrLongAfterTheFirst) {
     EXPECT_TRUE(seen::Until(isWrittenLater)) << "it is tried again";
 }
 
-TEST_F(RecoveryTest, CallsThatFailInWritingCostTheCopyAndNotThePage) {
+TEST_F(RecoveryTest, CallsThatFailWhileWritingCostTheCopyAndNotThePage) {
     frmChild& page = changedPage();
     const std::string file = readFile(page.Tag());
     const std::string copies = scratch("copies\\");
@@ -110,7 +110,7 @@ TEST_F(RecoveryTest, CallsThatFailInWritingCostTheCopyAndNotThePage) {
     }
 }
 
-TEST_F(RecoveryTest, CallsThatFailInReadingLeaveTheCopyForTheNextStart) {
+TEST_F(RecoveryTest, CallsThatFailWhileReadingLeaveTheCopyForTheNextStart) {
     const std::string copies = main().temporaryFolder() + "~quillon-*.page";
     const std::u16string text = changedPage().txtPad().text();
     const auto prepare = [&] {
@@ -135,11 +135,11 @@ TEST_F(RecoveryTest, CallsThatFailInReadingLeaveTheCopyForTheNextStart) {
     FailEachCall({"reading two copies", 21, prepare, restore, check, Calls::any});
 }
 
-TEST_F(RecoveryTest, WhatAProgramOfTheSameNumberHasLeftComesBackAndIsNotWrittenOver) {
+TEST_F(RecoveryTest, CopiesOfAnEarlierProcessOfTheSameIdComeBackAndAreNotOverwritten) {
     const frmChild& page = changedPage();
     files::Recovery(folder()).writeNow(page);
     const std::string copy = Listing(scratch("~quillon-*.page")).begin()->first;
-    // Ours takes a name for the first of them, before it comes upon that of its own number.
+    // Taking over the first needs a name before it comes to the copy that has this process's id.
     for (const DWORD number : {DWORD{0}, ::GetCurrentProcessId()})
         writeFile(scratch("~quillon-" + std::to_string(number) + "-7.page"), readFile(copy));
     ::DeleteFileW(Wide(copy).c_str());

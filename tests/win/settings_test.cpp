@@ -53,7 +53,7 @@ class RecentFilesTest : public AppTest {
         writeFile(path, "x");
         return path;
     }
-    // The digits of the listed pages, from the menu; a "!" when the store says otherwise.
+    // The digits of the pages that the menu lists; behind a "!" those of the store, where they differ.
     std::string listed() {
         std::string numbers;
         std::string stored;
@@ -72,7 +72,7 @@ TEST_F(RecentFilesTest, TheNewestSevenAreListedEachOnce) {
     for (int i = 1; i <= 8; ++i) basMRU::AddRecentFile(main(), makeFile(i));
     EXPECT_EQ(listed(), "8765432");
     basMRU::AddRecentFile(main(), scratch("PAGE6.htm"));
-    EXPECT_EQ(listed(), "6875432") << "letter case names no other file";
+    EXPECT_EQ(listed(), "6875432") << "names that differ in case are the same file";
     ::DeleteFileA(scratch("page5.htm").c_str());
     basMRU::AddRecentFile(main(), makeFile(1));
     EXPECT_EQ(listed(), "1687432");

@@ -18,13 +18,13 @@ constexpr char kNoWord[] = "Could not Load Microsoft Word!";
 
 class WordTest : public AppTest {
  protected:
-    // The word processor is there, with an order for its stand-in.
+    // Installs the stand-in for the word processor, with an order for it.
     void install(const std::string& order = "", bool running = false) {
         word_.emplace(logPath(), order);
         EXPECT_TRUE(!running || word_->start());
     }
     std::string logPath() const { return scratch("word.log"); }
-    // The calls that the word processor got, once it has let go.
+    // The calls that the word processor got, once it has been released.
     std::string calls() const {
         std::string log;
         seen::Until([&] { return (log = readFile(logPath())).ends_with("\nreleased\n"); });
@@ -73,7 +73,7 @@ TEST_F(WordTest, EachCallThatFailsLeavesThePageAndTheWordProcessorAsTheyWere) {
         EXPECT_EQ(pageText(), "teh one\r\nteh two");
         EXPECT_FALSE(active().txtPad().isChanged());
         EXPECT_EQ(selected(), "2-16");
-        // What had been corrected by then.
+        // From the sixth call on, what had been corrected by then.
         EXPECT_EQ(clipboard(), failing < 6 ? "kept" : "h one\r\nthe two");
         EXPECT_TRUE(::IsWindowEnabled(main().mainHwnd()));
         const std::string log = calls();
@@ -83,7 +83,7 @@ TEST_F(WordTest, EachCallThatFailsLeavesThePageAndTheWordProcessorAsTheyWere) {
     }
 }
 
-TEST_F(WordTest, OneThatRanBeforeKeepsWhatItHasOpenAndGetsTheSelectionOnly) {
+TEST_F(WordTest, OneThatRanBeforeKeepsItsDocumentsAndGetsTheSelectionOnly) {
     const std::string page = "teh one\r\nteh two\r\nteh three";
     for (const char* order : {"running", "window"}) {
         SCOPED_TRACE(order);
@@ -103,8 +103,8 @@ TEST_F(WordTest, OneThatRanBeforeKeepsWhatItHasOpenAndGetsTheSelectionOnly) {
     }
 }
 
-// What happens to the page while the word processor's own dialog is open.
-TEST_F(WordTest, NothingCanBeUsedMeanwhileAndThePageMayEvenGo) {
+// While the word processor's own dialog is open.
+TEST_F(WordTest, NoWindowCanBeUsedMeanwhileAndThePageMayBeClosed) {
     install("ask");
     newPage("other");
     run(tbrFind);
@@ -126,10 +126,10 @@ TEST_F(WordTest, NothingCanBeUsedMeanwhileAndThePageMayEvenGo) {
     EXPECT_TRUE(::IsWindowEnabled(main().mainHwnd()));
     EXPECT_EQ(main().documents().size(), 1U);
     EXPECT_EQ(pageText(), "other");
-    EXPECT_EQ(clipboard(), "the") << "what came back is not lost";
+    EXPECT_EQ(clipboard(), "the") << "the corrected text is not lost";
 }
 
-// The system's spell checker, which Wine does not have: all that it consists of in one object.
+// Stands in for the system's spell checker, which Wine does not have: one object with all its interfaces.
 class SpellDouble : public ISpellCheckerFactory,
                     public ISpellChecker,
                     public IEnumSpellingError,
@@ -246,7 +246,7 @@ TEST_F(SystemSpellingTest, EveryAnswerDoesWhatItSays) {
     EXPECT_EQ(clipboard(), page);
 }
 
-TEST_F(SystemSpellingTest, ASuggestionCanBeChosenAndTheRestBeLeft) {
+TEST_F(SystemSpellingTest, ASuggestionCanBeChosenAndTheRestLeftUnchecked) {
     newPage("teh teh teh");
     EXPECT_EQ(checkWith([](HWND dialog) {
                   const HWND list = seen::ChildOfClass(dialog, "ListBox");
@@ -264,7 +264,7 @@ TEST_F(SystemSpellingTest, ASuggestionCanBeChosenAndTheRestBeLeft) {
     EXPECT_FALSE(active().txtPad().isChanged());
 }
 
-TEST_F(SystemSpellingTest, ACheckerThatFailsIsToldOnceAndSkipsNoWord) {
+TEST_F(SystemSpellingTest, ACheckerThatFailsIsReportedOnceAndSkipsNoWord) {
     newPage("the teh the end teh end end");
     const auto heard =
         User::hears([&] { run(tbrSpelling); },
@@ -284,7 +284,7 @@ TEST_F(SystemSpellingTest, ACheckerThatFailsIsToldOnceAndSkipsNoWord) {
                      User::press("Quillon Note:", IDOK)});
     EXPECT_EQ(heard[1].find("The system's spell checker reports an error."), 0U);
     EXPECT_EQ(heard[3], kDone);
-    EXPECT_EQ(pageText(), "the th\u00E9y the end ten end end") << "and asks about none twice";
+    EXPECT_EQ(pageText(), "the th\u00E9y the end ten end end") << "it asks about no word twice";
 }
 
 TEST_F(SystemSpellingTest, ThePagesOwnLanguageIsCheckedOrNone) {

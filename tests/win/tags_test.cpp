@@ -16,12 +16,12 @@ constexpr int kFirstItems[] = {
 
 class TagsTest : public AppTest {
  protected:
-    // A page in which "this" is to be replaced.
+    // Opens a page in which "this" is selected.
     void SetUp() override {
         AppTest::SetUp();
         newPage("keep this too").txtPad().select(5, 9);
     }
-    // In one step, and the caret is behind it. Afterwards all is as before.
+    // Checks that this was one step of undo and that the caret is behind the fragment, then undoes it.
     void expectReplacedBy(const std::string& fragment) {
         EXPECT_EQ(pageText(), "keep " + fragment + " too");
         const std::string caret = std::to_string(5 + fragment.size());
@@ -45,7 +45,7 @@ TEST_F(TagsTest, EveryItemReplacesTheSelectionWithItsFragmentInOneStepOrLeavesIt
         int items = 9;
         while (authoring::TagFragment(menu, items - 1).empty()) --items;
         for (int i = 0; i < items; ++i) {
-            if (first + i == mnuTagsFontList + 1) continue;  // it asks
+            if (first + i == mnuTagsFontList + 1) continue;  // it asks for a size
             expectInserts(first + i, authoring::TagFragment(menu, i));
         }
         menu = static_cast<TagMenu>(static_cast<int>(menu) + 1);
@@ -55,7 +55,7 @@ TEST_F(TagsTest, EveryItemReplacesTheSelectionWithItsFragmentInOneStepOrLeavesIt
     for (int i = 0; i < 4; ++i) expectInserts(mnuScriptDrops + i, modScripts::MakeDropMenu(keywords[i]));
 }
 
-TEST_F(TagsTest, AFontSizeGoesInAsItWasTypedAndNoneDeletesTheSelection) {
+TEST_F(TagsTest, AFontSizeIsInsertedAsTypedAndNoneDeletesTheSelection) {
     const auto ask = [&] { run(mnuTagsFontList + 1); };
     const std::tuple<const char*, WORD, const char*> answers[] = {
         {"75", IDOK, "<FONT size=75></FONT>"}, {"", IDOK, ""}, {"5", IDCANCEL, ""}};
@@ -78,7 +78,7 @@ TEST_F(TagsTest, TheDateIsTodays) {
     const std::string before = today();
     run(mnuTagsDate);
     const bool isOfBefore = pageText().find(before) != std::string::npos;
-    expectReplacedBy(isOfBefore ? before : today());  // at midnight it may be either
+    expectReplacedBy(isOfBefore ? before : today());  // midnight may have passed
 }
 
 }  // namespace

@@ -30,7 +30,7 @@ class TemplateTest : public AppTest {
 
     static void clearFolder() { DeleteTree(authoring::TemplateFolder()); }
 
-    // Enters name and ID into the dialog. With a message expected, answers it and cancels.
+    // Enters name and ID into the dialog. Where a message is expected, answers it, cancels and returns it.
     std::string add(const std::string& name, const std::string& id, const char* messageTitle = nullptr) {
         std::vector<User::Act> acts{{kAdd, [&](HWND form) { seen::FillIn(form, name, id, "Enter"); }}};
         if (messageTitle) {
@@ -41,14 +41,14 @@ class TemplateTest : public AppTest {
         return messageTitle ? heard[1] : "";
     }
 
-    // Picks an entry of the Organize dialog and one of its options.
+    // Chooses an entry of the Organize dialog and one of its options.
     static void choose(HWND dialog, int entry, const std::string& option) {
         const HWND list = ControlsOfClass(dialog, "ComboBox").at(0);
         ::SendMessageA(seen::Child(dialog, option, "Button"), BM_CLICK, 0, 0);
         ::SendMessageA(list, CB_SETCURSEL, static_cast<WPARAM>(entry), 0);
         Notify(list, CBN_SELCHANGE);
     }
-    // What the first message over the Organize dialog says.
+    // Returns what the first message over the Organize dialog says.
     std::string organize(const std::vector<User::Act>& acts) {
         return User::hears([&] { run(mnuOptsTempOrg); }, acts)[1];
     }
@@ -64,7 +64,7 @@ class TemplateTest : public AppTest {
         CRegSettings().SaveRegSetting("templateIDs", std::to_string(slot), id);
     }
 
-    // The IDs of the store, those in brackets that the menu does not show.
+    // The IDs in the store; in brackets those that the menu does not show.
     std::string ids() {
         std::string text;
         for (std::size_t i = 0; i < authoring::kTemplateSlots; ++i) {
@@ -109,7 +109,7 @@ TEST_F(TemplateTest, TheTenthDropsTheOldestButNotItsFile) {
     for (int i = 0; i < 10; ++i) add("t" + std::to_string(i) + ".htm", std::to_string(i));
     EXPECT_EQ(ids(), "9,8,7,6,5,4,3,2,1,");
     EXPECT_EQ(attributes("t0.htm"), kReadOnly);
-    // Its name is free again, and the read-only file gives way.
+    // Its name is free again, and the read-only file is replaced.
     active().insert(u"new ");
     add("t0.htm", "again");
     EXPECT_EQ(ids(), "again,9,8,7,6,5,4,3,2,");
@@ -127,14 +127,14 @@ TEST_F(TemplateTest, WhatCannotBeATemplateIsRefusedAndChangesNothing) {
     EXPECT_EQ(attributes("..\\x.htm"), INVALID_FILE_ATTRIBUTES);
 }
 
-TEST_F(TemplateTest, AFileThatCannotBeWrittenCostsNeitherListNorOlderTemplate) {
+TEST_F(TemplateTest, AFileThatCannotBeWrittenLeavesTheListAndTheOlderTemplateAlone) {
     constexpr char kFailed[] = "Could not write to the specified file at this time.";
     writeFile(authoring::TemplateFolder(), "in the way");
     EXPECT_EQ(add("one.htm", "One", "Quillon"), kFailed);
     EXPECT_EQ(ids(), "---------");
     ::DeleteFileA(authoring::TemplateFolder().c_str());
     add("one.htm", "One");
-    // The older file of a template that is no longer listed, held open by somebody.
+    // The older file of a template that is no longer listed, held open by another program.
     writeFile(TemplatePath("two.htm"), "older");
     ::SetFileAttributesA(TemplatePath("two.htm").c_str(), kReadOnly);
     const win::UniqueFile lock = hold(TemplatePath("two.htm"), FILE_SHARE_READ);
@@ -144,7 +144,7 @@ TEST_F(TemplateTest, AFileThatCannotBeWrittenCostsNeitherListNorOlderTemplate) {
     EXPECT_EQ(attributes("two.htm"), kReadOnly);
 }
 
-TEST_F(TemplateTest, AStartHidesWhatHasNoFileAndOnlyRebuildingDropsIt) {
+TEST_F(TemplateTest, AStartHidesEntriesWithoutAFileAndOnlyRebuildingDropsThem) {
     ::CreateDirectoryA(authoring::TemplateFolder().c_str(), nullptr);
     writeFile(TemplatePath("a.htm"), "template");
     store(1, "gone.htm", "Gone");
@@ -162,7 +162,7 @@ TEST_F(TemplateTest, AStartHidesWhatHasNoFileAndOnlyRebuildingDropsIt) {
     EXPECT_EQ(ids(), "---------");
 }
 
-TEST_F(TemplateTest, ATemplateIsRenamedInTheMenuOnlyAndDeletedWithItsFileUnlessThatIsCalledOff) {
+TEST_F(TemplateTest, ATemplateIsRenamedInTheMenuOnlyAndDeletedWithItsFileUnlessTheUserDeclines) {
     add("one.htm", "One");
     add("two.htm", "Two");
     const auto enterNothing = [](HWND dialog) {
@@ -171,7 +171,7 @@ TEST_F(TemplateTest, ATemplateIsRenamedInTheMenuOnlyAndDeletedWithItsFileUnlessT
         EXPECT_EQ(seen::TextOf(list), "Template List");
         EXPECT_EQ(::SendMessageA(list, CB_GETCOUNT, 0, 0), 2);
         EXPECT_FALSE(::IsWindowEnabled(box));
-        // With nothing chosen; sent, because what is posted would come after what is sent next.
+        // With nothing chosen. It is sent: if posted, it would arrive after the messages that follow.
         ::SendMessageA(seen::Child(dialog, "Enter", "Button"), BM_CLICK, 0, 0);
         choose(dialog, 1, "ReName");
         EXPECT_TRUE(seen::Until([&] { return ::IsWindowEnabled(box) != FALSE; }));
@@ -201,7 +201,7 @@ TEST_F(TemplateTest, ATemplateIsRenamedInTheMenuOnlyAndDeletedWithItsFileUnlessT
     EXPECT_EQ(attributes("one.htm"), kReadOnly);
 }
 
-TEST_F(TemplateTest, OfEqualIdsTheOneThatWasPickedGoes) {
+TEST_F(TemplateTest, OfEntriesWithEqualIdsTheChosenOneIsDeleted) {
     for (const char* name : {"3.htm", "2.htm", "1.htm"}) add(name, name);
     store(0, "1.htm", "Same");
     store(1, "2.htm", "Same");
@@ -218,7 +218,7 @@ TEST_F(TemplateTest, OfEqualIdsTheOneThatWasPickedGoes) {
     EXPECT_EQ(ids(), "Same,Same,-------");
 }
 
-TEST_F(TemplateTest, DeletingAnEntryWithoutAFileReachesNoOther) {
+TEST_F(TemplateTest, DeletingAnEntryWithoutAFileDeletesNoOtherFile) {
     add("one.htm", "One");
     for (const char* name : {"*.htm", "gone.htm", "..\\Templates", ".\\one.htm"}) {
         store(1, "one.htm", "One");
