@@ -222,7 +222,7 @@ void FailEachCall(const FaultyWork& test) {
             for (int call = 1; call < 500 && FailOne(test, call, forGood, error); ++call) ++faults;
         }
     }
-    std::printf("%d faults of %s\n", faults, test.name.c_str());
+    std::printf("%s: %d faults\n", test.name.c_str(), faults);
     EXPECT_GE(faults, test.fewestFaults) << test.name;
 }
 
