@@ -56,7 +56,7 @@ TEST_F(PublishingTest, APageIsPublishedChangedAndDownloadedAgain) {
     }));
     quillon.typeText("<!-- new -->");
     ASSERT_TRUE(seen::Until([&] { return quillon.pageText().substr(0, 12) == "<!-- new -->"; }));
-    quillon.pressKey('S', true);
+    quillon.choose(mnuFileSave);
     ASSERT_TRUE(quillon.shows("Saved :  " + path));
     upload(quillon);
     EXPECT_EQ(onServer(), changed);

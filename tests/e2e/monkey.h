@@ -113,12 +113,14 @@ class MonkeyTest : public QuillonTest {
             end_ = ++start_;
         }
         const HWND pad = quillon_->pad();
+        for (const char c : typed) ::PostMessageA(pad, WM_CHAR, static_cast<unsigned char>(c), 0);
+        // Without its last letter the page would read as it does before that letter is typed.
+        seen::Until([this] { return quillon_->pageText() == front().text; });
         const std::pair<WPARAM, std::string> keys[] = {
             {0, ""}, {VK_RETURN, "\r\n"}, {VK_TAB, "    "}, {VK_BACK, ""}};
         const auto& [key, inserted] = keys[below(4)];
         if (key == VK_BACK) --start_;
         replaced(inserted);
-        for (const char c : typed) ::PostMessageA(pad, WM_CHAR, static_cast<unsigned char>(c), 0);
         if (key != 0) ::PostMessageA(pad, WM_KEYDOWN, key, 0);
     }
     void insertTag() {
