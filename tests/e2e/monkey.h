@@ -254,7 +254,8 @@ class MonkeyTest : public QuillonTest {
         if (++rests_ <= 3) warm_ = held;
         EXPECT_LE(held.windows, warm_.windows);
         EXPECT_LE(held.gdi, warm_.gdi + 40);
-        EXPECT_LE(held.kilobytes, warm_.kilobytes + 4096);
+        // The heap keeps some of what the largest page so far has taken.
+        EXPECT_LE(held.kilobytes, warm_.kilobytes + 8192);
         newPage();
     }
     void act() {
