@@ -20,10 +20,6 @@ bool IsFormattingKey(WPARAM key) {
     return key == 'E' || key == 'J' || key == 'L' || key == 'R' || key == '1' || key == '2' || key == '5';
 }
 
-POINT PointOf(LPARAM coordinates) {
-    return {static_cast<short>(LOWORD(coordinates)), static_cast<short>(HIWORD(coordinates))};
-}
-
 }  // namespace
 
 void PageEdit::create(const Font& font) {
@@ -111,7 +107,7 @@ void PageEdit::type(char16_t unit) {
 void PageEdit::dropSelectionAt(LPARAM point) {
     const Selection selected = selection();
     if (selected.length() == 0) return;
-    const POINT at = PointOf(point);
+    const POINT at = win::PointOf(point);
     POINTL position{at.x, at.y};
     const long pressed = static_cast<long>(send(EM_CHARFROMPOS, 0, reinterpret_cast<LPARAM>(&position)));
     if (pressed >= selected.start && pressed < selected.end && !IsDown(VK_SHIFT)) select(pressed, pressed);
@@ -156,7 +152,7 @@ LRESULT PageEdit::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         }
         case WM_CONTEXTMENU:
-            showMenu(PointOf(lParam));
+            showMenu(win::PointOf(lParam));
             return 0;
         case win::kDropped:
             if (win::DroppedFiles()) page_.takeDrop(*win::DroppedFiles());

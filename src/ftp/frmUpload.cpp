@@ -13,6 +13,7 @@
 #include "win/message_box.h"
 #include "win/modWndPos.h"
 #include "win/picture.h"
+#include "win/window.h"
 
 namespace {
 
@@ -383,7 +384,7 @@ INT_PTR frmUpload::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return TRUE;
         case WM_CONTEXTMENU:
             if (reinterpret_cast<HWND>(wParam) != item(lstRemoteFiles)) return FALSE;
-            showMenu({static_cast<SHORT>(LOWORD(lParam)), static_cast<SHORT>(HIWORD(lParam))});
+            showMenu(win::PointOf(lParam));
             return TRUE;
         case WM_SETCURSOR:
             if (busy_ == 0) return FALSE;

@@ -43,7 +43,7 @@ win::UniqueDc DefaultPrinter() {
 std::u16string SpecialCharacters(std::u16string_view text) {
     std::u16string characters;
     std::copy_if(text.begin(), text.end(), std::back_inserter(characters),
-                 [](char16_t c) { return c >= 0x80 && (c < 0xD800 || c > 0xDFFF); });
+                 [](char16_t c) { return c >= 0x80 && !win::IsSurrogate(c); });
     std::sort(characters.begin(), characters.end());
     characters.erase(std::unique(characters.begin(), characters.end()), characters.end());
     return characters;

@@ -149,7 +149,7 @@ bool TypeInto(const OpenDialog& dialog, std::wstring_view path) {
         const std::size_t from = typed.size();
         typed = path.substr(0, from + kChunk);
         // Never half of a character.
-        if (typed.back() >= 0xD800 && typed.back() < 0xDC00) typed = path.substr(0, typed.size() + 1);
+        if (win::IsHighSurrogate(typed.back())) typed = path.substr(0, typed.size() + 1);
         TypeText(typed.substr(from));
         // The system may complete what is typed; the completion is selected, and goes with the next key.
         if (!WaitUntil([&] { return dialog.text().starts_with(typed) || !dialog.isInFront(); })) return false;

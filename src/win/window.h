@@ -67,6 +67,11 @@ class Window {
     bool dead_ = false;             // WM_NCDESTROY has passed
 };
 
+// The point of a mouse message or WM_CONTEXTMENU; its coordinates may be negative.
+inline POINT PointOf(LPARAM coordinates) {
+    return {static_cast<short>(LOWORD(coordinates)), static_cast<short>(HIWORD(coordinates))};
+}
+
 // The text of any window of this process, of any length.
 std::string WindowText(HWND window);
 void ShowText(HWND window, std::string_view text);

@@ -4,6 +4,7 @@
 #include "win/error.h"
 #include "win/unicode.h"
 #include "win/units.h"
+#include "win/window.h"
 
 namespace authoring {
 namespace {
@@ -55,7 +56,7 @@ void Swatch::release(LPARAM at) const {
     ::ReleaseCapture();
     RECT area{};
     ::GetClientRect(hwnd(), &area);
-    if (::PtInRect(&area, {static_cast<short>(LOWORD(at)), static_cast<short>(HIWORD(at))})) click();
+    if (::PtInRect(&area, win::PointOf(at))) click();
 }
 
 void Swatch::moveFocus(int columns, int rows) const {
